@@ -1,0 +1,31 @@
+# Warnings and sanitizers for every target of the project, in one place.
+option(VORNIX_SANITIZE "Address and undefined behaviour sanitizers" OFF)
+option(VORNIX_WERROR "Warnings are errors" OFF)
+
+add_library(vornix_options INTERFACE)
+target_compile_options(vornix_options INTERFACE -Wall -Wextra -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Wconversion -Wno-sign-conversion)
+if(VORNIX_WERROR)
+    target_compile_options(vornix_options INTERFACE -Werror)
+endif()
+if(VORNIX_SANITIZE)
+    target_compile_options(vornix_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(vornix_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# One floor of the core: its object files, built alone and put together in the library `vornix`.
+function(vornix_add_floor name)
+    add_library(vornix_${name} OBJECT ${ARGN})
+    target_include_directories(vornix_${name} PUBLIC
+        $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include> $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>)
+    target_link_libraries(vornix_${name} PRIVATE vornix_options)
+endfunction()
+
+# A test program of one folder: vornix_add_tests(model SOURCES a_test.cpp LIBRARIES vornix_model ...)
+function(vornix_add_tests name)
+    cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
+    add_executable(${name}_tests ${arg_SOURCES})
+    target_include_directories(${name}_tests PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    target_compile_definitions(${name}_tests PRIVATE VORNIX_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
+    target_link_libraries(${name}_tests PRIVATE ${arg_LIBRARIES} GTest::gmock GTest::gtest_main vornix_options)
+    gtest_discover_tests(${name}_tests TEST_PREFIX ${name}. DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 600)
+endfunction()

@@ -1,0 +1,106 @@
+// The container port: what a toolkit gives the control: a window, an ambient, child windows, a timer, dialogs.
+//
+// The control calls these on the thread that called it. Sizes and places are logical pixels of the control's client
+// area unless said otherwise.
+#pragma once
+
+#include "vornix/platform/device.h"
+#include "vornix/platform/locale.h"
+#include "vornix/platform/system_colors.h"
+#include "vornix/types.h"
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+
+namespace vornix {
+
+// A window placed on the control. Hidden until shown.
+class ChildWindow {
+public:
+    virtual ~ChildWindow() = default;
+    virtual void Move(const Rect& place) = 0;
+    virtual Rect Place() const = 0;
+    virtual void Show(bool visible) = 0;
+    virtual bool IsVisible() const = 0;
+    virtual void SetEnabled(bool enabled) = 0;
+    virtual bool IsEnabled() const = 0;
+    // Above its siblings.
+    virtual void Raise() = 0;
+    // False when the window cannot take the focus now.
+    virtual bool SetFocus() = 0;
+};
+
+// The children by the names they carry.
+enum class ChildName { scrV, scrH, txtTmp, cboTmp, fraEdit, cPivot, picSplitCol, picSplitMove };
+
+enum class PointerShape { Default, SizeWE, SizeNS };
+
+enum class MessageIcon { None, Exclamation, Information };
+
+// What a property bag stores.
+using BagValue = std::variant<bool, i32, std::u16string, FontPtr, PicturePtr>;
+
+// Name and value pairs that a container keeps with the form.
+class PropertyBag {
+public:
+    virtual ~PropertyBag() = default;
+    // Empty when the name is absent.
+    virtual std::optional<BagValue> ReadProperty(std::string_view name) const = 0;
+    virtual void WriteProperty(std::string_view name, const BagValue& value) = 0;
+};
+
+// The settings of the user, text by application, section and key.
+class SettingsStore {
+public:
+    virtual ~SettingsStore() = default;
+    virtual std::u16string GetSetting(
+        std::u16string_view application, std::u16string_view section, std::u16string_view key, std::u16string_view fallback)
+        = 0;
+    virtual void SaveSetting(std::u16string_view application, std::u16string_view section, std::u16string_view key,
+        std::u16string_view value)
+        = 0;
+};
+
+class Container {
+public:
+    virtual ~Container() = default;
+
+    // Ambient: asked at the moment of use, never remembered.
+    virtual bool UserMode() const = 0;
+    virtual FontPtr AmbientFont() const = 0;
+    virtual const SystemColors& Colors() const = 0;
+    virtual const Locale& GetLocale() const = 0;
+
+    // Screen, in twips; twips a pixel in both directions.
+    virtual Size ScreenSizeInTwips() const = 0;
+    virtual Size TwipsPerPixel() const = 0;
+
+    // The window of the control. ClientSize is also its ScaleWidth and ScaleHeight.
+    virtual Size ClientSize() const = 0;
+    virtual Device& WindowDevice() = 0;
+    virtual std::intptr_t WindowHandle() const = 0;
+    // The window's extended style, which may narrow the client area: 0, 512 (client edge) or 131072 (static edge).
+    virtual void SetExtendedStyle(u32 style) = 0;
+    // Part of the control's picture has changed. Toolkits that show the picture themselves repaint from it.
+    virtual void PictureChanged(const Rect& area) = 0;
+    virtual bool SetFocus() = 0;
+    virtual void SetPointerShape(PointerShape shape) = 0;
+    // Whether a key or button is down now, by its platform code (left button 1).
+    virtual bool IsKeyDown(int code) const = 0;
+    // The one timer. Interval in milliseconds.
+    virtual void SetTimer(int interval, bool enabled) = 0;
+    virtual ChildWindow& Child(ChildName name) = 0;
+
+    // A persisted property changed.
+    virtual void PropertyChanged(std::string_view name) = 0;
+
+    virtual SettingsStore& Settings() = 0;
+    virtual std::u16string ClipboardText() const = 0;
+    virtual void SetClipboardText(std::u16string_view text) = 0;
+    virtual void ShowMessage(std::u16string_view title, std::u16string_view text, MessageIcon icon) = 0;
+};
+
+} // namespace vornix

@@ -1,0 +1,28 @@
+// What lower floors say upward: two interfaces that the control implements. The third is VornixEvents.
+#pragma once
+
+namespace vornix {
+
+// The funnels that carry a change to the screen. Indices are internal. Those that say "under the gate" in their callers
+// are called only while the gate is open; RecalcLayout tests it inside.
+class Repainter {
+public:
+    virtual ~Repainter() = default;
+    virtual void RepaintGrid() = 0;
+    virtual void RecalcLayout(bool forcePercent) = 0;
+    virtual void RefreshRowCells(int row) = 0;
+    virtual void RefreshColCells(int col) = 0;
+    virtual void RefreshIfInRange(int row, int col) = 0;
+    virtual void RefreshOneCell(int row, int col) = 0;
+};
+
+// The in-place editor, as the steps that must close it see it.
+class EditorControl {
+public:
+    virtual ~EditorControl() = default;
+    virtual bool IsEditorOpen() const = 0;
+    // Hides the editor; raises AfterEdit once if the cell still exists.
+    virtual void CloseEditor() = 0;
+};
+
+} // namespace vornix

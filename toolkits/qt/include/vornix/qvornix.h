@@ -1,0 +1,55 @@
+// The control as a Qt widget.
+#pragma once
+
+#include "vornix/events.h"
+#include "vornix/vornix.h"
+
+#include <QFrame>
+
+#include <memory>
+
+namespace vornix {
+
+class QtContainer;
+
+// Shows one grid. The widget's palette and font are the grid's system colours and ambient font when it is made and
+// whenever they change; its border is the grid's BorderStyle; the picture is drawn at the screen's own resolution.
+//
+//     QVornix table;
+//     table.Grid().SetRows(100);
+//     table.show();
+class QVornix : public QFrame {
+    Q_OBJECT
+
+public:
+    explicit QVornix(QWidget* parent = nullptr);
+    // With the host's event handlers, which must outlive the widget.
+    explicit QVornix(VornixEvents& events, QWidget* parent = nullptr);
+    ~QVornix() override;
+
+    Vornix& Grid();
+    const Vornix& Grid() const;
+
+    QSize sizeHint() const override;
+
+protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+private:
+    void FitToWidget();
+    QRect Client() const;
+
+    VornixEvents noEvents_;
+    std::unique_ptr<QtContainer> container_;
+    std::unique_ptr<Vornix> grid_;
+    bool painting_ = false;
+};
+
+} // namespace vornix

@@ -82,6 +82,9 @@ public:
     virtual Size ClientSize() const = 0;
     virtual Device& WindowDevice() = 0;
     virtual std::intptr_t WindowHandle() const = 0;
+    // Where the picture of the whole control is kept, asked for at each change of size. A toolkit that shows that picture
+    // as it is gives its window device; null: the control keeps a surface of its own and copies it to the window.
+    virtual Surface* BackStore(Size /*size*/) { return nullptr; }
     // The window's extended style, which may narrow the client area: 0, 512 (client edge) or 131072 (static edge).
     virtual void SetExtendedStyle(u32 style) = 0;
     // Part of the control's picture has changed. Toolkits that show the picture themselves repaint from it.

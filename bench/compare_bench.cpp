@@ -1,0 +1,238 @@
+// The grid beside QTableWidget, in one process, on 30,000 rows by 33 columns of distinct short texts. Both are shown on
+// Qt's raster engine in a window of 1920 by 1080. bench/ratios.py makes ratios of the times.
+#include "vornix/qvornix.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QTableWidget>
+
+#include <malloc.h>
+
+#include <cstring>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace {
+
+constexpr int Rows = 30000;
+constexpr int Cols = 33;
+constexpr int WindowWidth = 1920;
+constexpr int WindowHeight = 1080;
+
+std::string TextOf(int row, int col)
+{
+    return "R" + std::to_string(row) + "C" + std::to_string(col);
+}
+
+// Made before any clock runs, in the form each side takes.
+const std::vector<std::u16string>& GridTexts()
+{
+    static const std::vector<std::u16string> texts = [] {
+        std::vector<std::u16string> made;
+        made.reserve(std::size_t { Rows } * Cols);
+        for (int row = 0; row < Rows; ++row) {
+            for (int col = 0; col < Cols; ++col) {
+                const std::string text = TextOf(row, col);
+                made.emplace_back(text.begin(), text.end());
+            }
+        }
+        return made;
+    }();
+    return texts;
+}
+
+std::size_t HeapInUse()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return info.uordblks + info.hblkhd;
+}
+
+std::unique_ptr<QTableWidget> FilledTable()
+{
+    const std::vector<std::u16string>& texts = GridTexts();
+    auto table = std::make_unique<QTableWidget>(Rows, Cols);
+    for (int row = 0; row < Rows; ++row)
+        for (int col = 0; col < Cols; ++col)
+            table->setItem(row, col, new QTableWidgetItem(QString::fromStdU16String(texts[std::size_t(row * Cols + col)])));
+    return table;
+}
+
+void Fill(vornix::Vornix& grid)
+{
+    const std::vector<std::u16string>& texts = GridTexts();
+    grid.SetRedraw(false);
+    grid.SetRows(Rows);
+    grid.SetCols(Cols);
+    for (int row = 0; row < Rows; ++row)
+        for (int col = 0; col < Cols; ++col)
+            grid.SetText(vornix::i16(row), vornix::i16(col), texts[std::size_t(row * Cols + col)]);
+    grid.SetRedraw(true);
+}
+
+std::unique_ptr<vornix::QVornix> FilledGrid()
+{
+    auto widget = std::make_unique<vornix::QVornix>();
+    widget->Grid().SetFixedRows(1);
+    widget->Grid().SetFixedCols(1);
+    Fill(widget->Grid());
+    return widget;
+}
+
+// As large as the window, painted once, so that no later frame pays for a first one.
+template <class Widget>
+Widget& Shown(Widget& widget)
+{
+    widget.resize(WindowWidth, WindowHeight);
+    widget.show();
+    QApplication::processEvents();
+    widget.repaint();
+    return widget;
+}
+
+// One of each for all benchmarks of painting.
+QTableWidget& ShownTable()
+{
+    static const std::unique_ptr<QTableWidget> table = FilledTable();
+    return Shown(*table);
+}
+
+vornix::QVornix& ShownGrid()
+{
+    static const std::unique_ptr<vornix::QVornix> widget = FilledGrid();
+    return Shown(*widget);
+}
+
+void TableFill(benchmark::State& state)
+{
+    GridTexts();
+    for (auto _ : state) {
+        const std::size_t before = HeapInUse();
+        auto table = FilledTable();
+        state.PauseTiming();
+        state.counters["bytes_per_cell"] = double(HeapInUse() - before) / (Rows * Cols);
+        table.reset();
+        state.ResumeTiming();
+    }
+}
+
+void GridFill(benchmark::State& state)
+{
+    GridTexts();
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto widget = std::make_unique<vornix::QVornix>();
+        const std::size_t before = HeapInUse();
+        state.ResumeTiming();
+        Fill(widget->Grid());
+        state.PauseTiming();
+        state.counters["bytes_per_cell"] = double(HeapInUse() - before) / (Rows * Cols);
+        widget.reset();
+        state.ResumeTiming();
+    }
+}
+
+void TableRepaint(benchmark::State& state)
+{
+    QTableWidget& table = ShownTable();
+    for (auto _ : state)
+        table.viewport()->repaint();
+}
+
+void GridRepaint(benchmark::State& state)
+{
+    vornix::QVornix& widget = ShownGrid();
+    for (auto _ : state) {
+        widget.Grid().Refresh();
+        widget.repaint();
+    }
+}
+
+void TableFreshPage(benchmark::State& state)
+{
+    QTableWidget& table = ShownTable();
+    const int page = table.viewport()->height() / table.rowHeight(0);
+    int first = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        first = (first + page) % (Rows - page);
+        state.ResumeTiming();
+        table.scrollTo(table.model()->index(first, 0), QAbstractItemView::PositionAtTop);
+        table.viewport()->repaint();
+    }
+}
+
+// A page comes up when the rows before it are hidden; hiding them is not part of the time.
+void GridFreshPage(benchmark::State& state)
+{
+    const auto widget = FilledGrid();
+    vornix::Vornix& grid = Shown(*widget).Grid();
+    const int page = WindowHeight / 21;
+    int first = 0;
+    for (auto _ : state) {
+        state.PauseTiming();
+        grid.SetRedraw(false);
+        grid.HideRow(vornix::i16(first), vornix::i16(page));
+        first += page;
+        state.ResumeTiming();
+        grid.SetRedraw(true);
+        widget->repaint();
+    }
+}
+
+void GridColBackColor(benchmark::State& state)
+{
+    vornix::Vornix& grid = ShownGrid().Grid();
+    vornix::OleColor color = 0;
+    for (auto _ : state)
+        grid.SetColBackColor(2, color = (color + 0x10305) & 0xFFFFFF);
+    grid.SetColBackColor(2, 0x80000005);
+}
+
+void TableColBackColor(benchmark::State& state)
+{
+    QTableWidget& table = ShownTable();
+    int shade = 0;
+    for (auto _ : state) {
+        const QBrush brush(QColor(shade = (shade + 7) % 256, 128, 128));
+        for (int row = 0; row < Rows; ++row)
+            table.item(row, 2)->setBackground(brush);
+    }
+    for (int row = 0; row < Rows; ++row)
+        table.item(row, 2)->setBackground(QBrush());
+}
+
+void FrameCopy(benchmark::State& state)
+{
+    const std::vector<vornix::u32> from(std::size_t { WindowWidth } * WindowHeight, 0xFFFFFFFF);
+    std::vector<vornix::u32> to(from.size());
+    for (auto _ : state) {
+        std::memcpy(to.data(), from.data(), from.size() * sizeof(vornix::u32));
+        benchmark::ClobberMemory();
+    }
+}
+
+BENCHMARK(TableFill)->Name("QTableWidget/fill")->Unit(benchmark::kMillisecond)->Iterations(3);
+BENCHMARK(GridFill)->Name("Vornix/fill")->Unit(benchmark::kMillisecond)->Iterations(5);
+BENCHMARK(TableRepaint)->Name("QTableWidget/repaint")->Unit(benchmark::kMillisecond);
+BENCHMARK(GridRepaint)->Name("Vornix/repaint")->Unit(benchmark::kMillisecond);
+BENCHMARK(TableFreshPage)->Name("QTableWidget/fresh_page")->Unit(benchmark::kMillisecond)->Iterations(100);
+BENCHMARK(GridFreshPage)->Name("Vornix/fresh_page")->Unit(benchmark::kMillisecond)->Iterations(100);
+BENCHMARK(TableColBackColor)->Name("QTableWidget/col_back_color")->Unit(benchmark::kMillisecond)->Iterations(1);
+BENCHMARK(GridColBackColor)->Name("Vornix/col_back_color")->Unit(benchmark::kMillisecond);
+BENCHMARK(FrameCopy)->Name("frame_copy")->Unit(benchmark::kMillisecond);
+
+}
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}

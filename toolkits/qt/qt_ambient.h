@@ -1,0 +1,29 @@
+// What the grid takes from the application's look: colours, font, and texts between the two worlds.
+#pragma once
+
+#include "vornix/platform/system_colors.h"
+#include "vornix/types.h"
+
+#include <QFont>
+#include <QPalette>
+#include <QString>
+
+#include <string>
+#include <string_view>
+
+namespace vornix {
+
+SystemColors SystemColorsFrom(const QPalette& palette);
+FontPtr FontFrom(const QFont& font);
+
+inline QString ToQString(std::u16string_view text)
+{
+    return QString(reinterpret_cast<const QChar*>(text.data()), static_cast<qsizetype>(text.size()));
+}
+
+inline std::u16string FromQString(const QString& text)
+{
+    return std::u16string(reinterpret_cast<const char16_t*>(text.utf16()), static_cast<std::size_t>(text.size()));
+}
+
+} // namespace vornix

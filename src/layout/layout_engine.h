@@ -1,7 +1,9 @@
 // Geometry: from the sizes of rows and columns to sums, the client area, the bars needed, places and hits.
-// Pixels in 16 bits; a sum beyond them is error 6. Internal indices.
+// Pixels in 16 bits; a sum beyond them is error 6, a line outside the store error 9, and what had been written stays.
+// Internal indices.
 #pragma once
 
+#include "layout/line_sums.h"
 #include "layout/scroll_model.h"
 #include "model/grid_store.h"
 #include "model/spans.h"
@@ -26,6 +28,9 @@ struct HitResult {
     int col = NoIndex;
     bool found = false;
 };
+
+// What a write of ShowSplit leaves to do: nothing, lay out anew because a split was dropped, or place the split bar.
+enum class SplitChange { None, Dropped, PlaceBar };
 
 class LayoutEngine {
 public:
@@ -53,13 +58,18 @@ public:
     void SetFirstScrollCol(int col) { firstScrollCol_ = col; }
     void SetSmoothOffset(i16 offset) { smoothOffset_ = offset; }
     void SetFrozenColsWidth(i16 width) { frozenColsWidth_ = width; }
+    // The bars' share when the scroll step overrules what was needed.
+    void SetHBarHeight(i16 height) { hBarHeight_ = height; }
+    void SetClientHeight(i16 height) { clientHeight_ = height; }
     void MarkMetricsDirty() { metricsDirty_ = true; }
-    // Sums of a new store: fixed sizes measured anew, no split.
+    // Starts over for a new store: the view at the first scrolling cell, fixed sizes measured and marked for another
+    // time.
     void ResetFor(const GridStore& store);
 
     // Steps of the one funnel of layout changes, in its order.
     void UpdateCaptionHeight();
     void MeasureIfDirty();
+    // Percent widths are redone on the way if forced and ResizingWidth is on.
     void CalcScrollBarNeed(bool forcePercent);
     void UpdateClientArea();
 
@@ -70,19 +80,41 @@ public:
     void RescanPercentActive();
     void SetPercentActive() { percentActive_ = true; }
 
+    // What writing a size stores: a hidden line takes it for the time it is shown, a first line that vanishes moves on.
+    // False when the line has that size already; otherwise the layout is due.
+    bool SetColWidth(int col, int value);
+    bool SetRowHeight(int row, int value);
+    void SetColWidthPercent(int col, int percent);
+    // False when refused: ShowSplit is off, or the value is the present one, negative, or not below the last column.
+    bool SetSplitCols(int value);
+    SplitChange SetShowSplit(bool value);
+    // No column is split off any more; the view starts behind the fixed columns.
+    void DropSplit();
+
+    // Top left pixel. A cell scrolled out at the left or top has the place of the first that scrolls.
     Point CellOriginAt(int row, int col) const;
+    // The origin in twips of the container, with the border's share.
+    Point CellOriginInTwips(int row, int col, Size twipsPerPixel, i32 borderStyle) const;
+    // Of the whole span when the cell belongs to one.
     Size CellSpanSize(int row, int col) const;
+    // Lines between two cells in any order, spans ignored; of one cell its CellSpanSize.
+    Size BlockSize(int row1, int col1, int row2, int col2) const;
     HitResult HitTestCell(int x, int y) const;
+    // The first line from the given one on that has a size, or the given one.
     int NextVisibleCol(int col) const;
     int NextVisibleRow(int row) const;
+    // The line that must come first for `last` to be the last whole one in the client area.
     int FirstColForLast(int last) const;
     int FirstRowForLast(int last) const;
+    // Within the whole lines of the latest paint; fixed lines always. Hidden ones in between count.
     bool IsVisibleRow(int row) const;
     bool IsVisibleCol(int col) const;
+    bool IsVisibleCell(int row, int col) const { return IsVisibleRow(row) && IsVisibleCol(col); }
 
 private:
     GridStore& store_;
     ScrollModel& scroll_;
+    LineSums sums_;
     Size scaleSize_;
     i16 clientWidth_ = 0;
     i16 clientHeight_ = 0;
@@ -96,6 +128,12 @@ private:
     int firstScrollCol_ = 0;
     bool metricsDirty_ = false;
     bool percentActive_ = false;
+
+    int FirstRowBehindFixed() const;
+    int FirstColBehindFrozen() const;
+    int ColumnsWithoutPercent() const;
+    int HitRow(int y) const;
+    int HitCol(int x) const;
 };
 
 } // namespace vornix

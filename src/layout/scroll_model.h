@@ -23,7 +23,8 @@ public:
     void SetLastRow(int row) { lastRow_ = row; }
     void SetLastCol(int col) { lastCol_ = col; }
 
-    // Brings a first row or column that the store no longer has back to the last real one, or to the first that scrolls.
+    // Brings a first row or column that the store no longer has back to the last real one, or to the first that
+    // scrolls.
     void ClampFirstVisible();
 
 private:

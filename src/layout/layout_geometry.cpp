@@ -1,0 +1,178 @@
+// Places, sizes, hits and visibility: what the layout engine answers without changing anything.
+#include "layout/layout_engine.h"
+
+#include "automation/checked.h"
+
+#include <algorithm>
+
+namespace vornix {
+
+namespace {
+
+// The border's share of a place in twips; never scaled.
+int BorderTwips(i32 borderStyle)
+{
+    switch (borderStyle) {
+    case vxInset:
+        return 30;
+    case vxInsetThin:
+        return 15;
+    default:
+        return 0;
+    }
+}
+
+// Cells of a span; 0 means one.
+int SpanLength(i16 span)
+{
+    return std::max<int>(span, 1);
+}
+
+template <class SizeOf> int FirstForLast(int last, int firstScrolling, int frozen, int client, SizeOf sizeOf)
+{
+    if (last < firstScrolling)
+        return last;
+    i16 acc = ToI16(frozen);
+    int best = last;
+    for (int line = last; line >= firstScrolling; --line) {
+        const int size = sizeOf(line);
+        acc = ToI16(acc + size);
+        if (acc > client) // a line too large for the area stands alone
+            return ToI16(size + frozen) <= client ? best : line;
+        if (size > 0)
+            best = line;
+    }
+    return best;
+}
+
+} // namespace
+
+// The walks jump forward only, so that a first line left behind by a change of counts cannot send them back.
+int LayoutEngine::FirstRowBehindFixed() const
+{
+    return std::max<int>(scroll_.FirstRow(), store_.FixedRows());
+}
+
+int LayoutEngine::FirstColBehindFrozen() const
+{
+    return std::max(scroll_.FirstCol(), firstScrollCol_);
+}
+
+Point LayoutEngine::CellOriginAt(int row, int col) const
+{
+    const int endCol = std::min<int>(col, store_.MaxCol());
+    i16 x = col > scroll_.FirstCol() ? smoothOffset_ : i16 { 0 };
+    x = sums_.AddWidths(x, 0, std::min(endCol, firstScrollCol_) - 1);
+    x = sums_.AddWidths(x, FirstColBehindFrozen(), endCol - 1);
+
+    const int endRow = std::min<int>(row, store_.MaxRow());
+    i16 y = sums_.AddHeights(0, 0, std::min<int>(endRow, store_.FixedRows()) - 1);
+    y = sums_.AddHeights(y, FirstRowBehindFixed(), endRow - 1);
+    return { x, y };
+}
+
+Point LayoutEngine::CellOriginInTwips(int row, int col, Size twipsPerPixel, i32 borderStyle) const
+{
+    const Point origin = CellOriginAt(row, col);
+    const int border = BorderTwips(borderStyle);
+    return { ToI32(std::int64_t { origin.x } * twipsPerPixel.width + border),
+        ToI32(std::int64_t { origin.y } * twipsPerPixel.height + border) };
+}
+
+Size LayoutEngine::CellSpanSize(int row, int col) const
+{
+    const Cell& cell = store_.CellAt(row, col);
+    const int parentRow = ToI16(row + cell.ParentRow());
+    const int parentCol = ToI16(col + cell.ParentCol());
+    const Cell& parent = store_.CellAt(parentRow, parentCol);
+    const int lastRow = ToI16(parentRow + SpanLength(parent.RowSpan()) - 1);
+    const int lastCol = ToI16(parentCol + SpanLength(parent.ColSpan()) - 1);
+    return { sums_.AddWidths(0, parentCol, lastCol), sums_.AddHeights(0, parentRow, lastRow) };
+}
+
+Size LayoutEngine::BlockSize(int row1, int col1, int row2, int col2) const
+{
+    if (row1 == row2 && col1 == col2)
+        return CellSpanSize(row1, col1);
+    const auto [firstRow, lastRow] = std::minmax(row1, row2);
+    const auto [firstCol, lastCol] = std::minmax(col1, col2);
+    const i16 height = sums_.AddHeights(0, firstRow, lastRow);
+    return { sums_.AddWidths(0, firstCol, lastCol), height };
+}
+
+int LayoutEngine::HitRow(int y) const
+{
+    if (y < 0 || y > clientHeight_)
+        return NoIndex;
+    const int last = store_.LastRowIndex();
+    const auto fixed = sums_.RowBeyond(y, 0, 0, std::min(last, store_.FixedRows() - 1));
+    if (fixed.line != NoIndex)
+        return fixed.line;
+    return sums_.RowBeyond(y, fixed.edge, FirstRowBehindFixed(), last).line;
+}
+
+int LayoutEngine::HitCol(int x) const
+{
+    if (x < 0 || x > clientWidth_)
+        return NoIndex;
+    const int last = store_.LastColIndex();
+    const auto frozen = sums_.ColBeyond(x, 0, 0, std::min(last, firstScrollCol_ - 1));
+    if (frozen.line != NoIndex)
+        return frozen.line;
+    return sums_.ColBeyond(x, frozen.edge + smoothOffset_, FirstColBehindFrozen(), last).line;
+}
+
+HitResult LayoutEngine::HitTestCell(int x, int y) const
+{
+    HitResult hit;
+    hit.row = HitRow(y);
+    hit.col = HitCol(x);
+    if (Settings.CaptionEnabled && hit.row == 0)
+        hit.col = store_.FixedCols(); // the caption is one cell over the whole width
+    hit.found = hit.row >= 0 && hit.col >= 0;
+    return hit;
+}
+
+int LayoutEngine::NextVisibleCol(int col) const
+{
+    for (int next = col; next <= store_.LastColIndex(); ++next)
+        if (store_.ColumnAt(next).Width != 0)
+            return next;
+    return col;
+}
+
+int LayoutEngine::NextVisibleRow(int row) const
+{
+    for (int next = row; next <= store_.LastRowIndex(); ++next)
+        if (store_.RowAt(next).Height != 0)
+            return next;
+    return row;
+}
+
+int LayoutEngine::FirstColForLast(int last) const
+{
+    return FirstForLast(
+        last, firstScrollCol_, frozenColsWidth_, clientWidth_, [this](int col) { return store_.ColumnAt(col).Width; });
+}
+
+int LayoutEngine::FirstRowForLast(int last) const
+{
+    return FirstForLast(last, store_.FixedRows(), fixedRowsHeight_, clientHeight_,
+        [this](int row) { return store_.RowAt(row).Height; });
+}
+
+bool LayoutEngine::IsVisibleRow(int row) const
+{
+    return row < store_.FixedRows() || (row >= scroll_.FirstRow() && row <= scroll_.LastRow());
+}
+
+bool LayoutEngine::IsVisibleCol(int col) const
+{
+    if (col < store_.FixedCols())
+        return true;
+    if (col == scroll_.FirstCol() && smoothOffset_ != 0) // a half-shown column does not count
+        return false;
+    return col >= scroll_.FirstCol() && col <= scroll_.LastCol();
+}
+
+} // namespace vornix

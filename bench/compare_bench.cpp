@@ -56,7 +56,8 @@ std::unique_ptr<QTableWidget> FilledTable()
     auto table = std::make_unique<QTableWidget>(Rows, Cols);
     for (int row = 0; row < Rows; ++row)
         for (int col = 0; col < Cols; ++col)
-            table->setItem(row, col, new QTableWidgetItem(QString::fromStdU16String(texts[std::size_t(row * Cols + col)])));
+            table->setItem(
+                row, col, new QTableWidgetItem(QString::fromStdU16String(texts[std::size_t(row * Cols + col)])));
     return table;
 }
 
@@ -82,8 +83,7 @@ std::unique_ptr<vornix::QVornix> FilledGrid()
 }
 
 // As large as the window, painted once, so that no later frame pays for a first one.
-template <class Widget>
-Widget& Shown(Widget& widget)
+template <class Widget> Widget& Shown(Widget& widget)
 {
     widget.resize(WindowWidth, WindowHeight);
     widget.show();
@@ -224,7 +224,7 @@ BENCHMARK(TableColBackColor)->Name("QTableWidget/col_back_color")->Unit(benchmar
 BENCHMARK(GridColBackColor)->Name("Vornix/col_back_color")->Unit(benchmark::kMillisecond);
 BENCHMARK(FrameCopy)->Name("frame_copy")->Unit(benchmark::kMillisecond);
 
-}
+} // namespace
 
 int main(int argc, char** argv)
 {

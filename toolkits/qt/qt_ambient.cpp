@@ -6,34 +6,34 @@ namespace vornix {
 
 namespace {
 
-    struct RoleOfIndex {
-        int index;
-        QPalette::ColorRole role;
-        QPalette::ColorGroup group;
-    };
+struct RoleOfIndex {
+    int index;
+    QPalette::ColorRole role;
+    QPalette::ColorGroup group;
+};
 
-    constexpr RoleOfIndex roles[] = {
-        { 0, QPalette::Midlight, QPalette::Active },
-        { SystemColor::Window, QPalette::Base, QPalette::Active },
-        { SystemColor::WindowFrame, QPalette::Dark, QPalette::Active },
-        { SystemColor::WindowText, QPalette::Text, QPalette::Active },
-        { SystemColor::Highlight, QPalette::Highlight, QPalette::Active },
-        { SystemColor::HighlightText, QPalette::HighlightedText, QPalette::Active },
-        { SystemColor::ButtonFace, QPalette::Button, QPalette::Active },
-        { SystemColor::ButtonShadow, QPalette::Mid, QPalette::Active },
-        { SystemColor::GrayText, QPalette::Text, QPalette::Disabled },
-        { SystemColor::ButtonText, QPalette::ButtonText, QPalette::Active },
-        { SystemColor::ButtonHighlight, QPalette::Light, QPalette::Active },
-        { SystemColor::DarkShadow, QPalette::Dark, QPalette::Active },
-        { SystemColor::Light, QPalette::Midlight, QPalette::Active },
-    };
+constexpr RoleOfIndex roles[] = {
+    { 0, QPalette::Midlight, QPalette::Active },
+    { SystemColor::Window, QPalette::Base, QPalette::Active },
+    { SystemColor::WindowFrame, QPalette::Dark, QPalette::Active },
+    { SystemColor::WindowText, QPalette::Text, QPalette::Active },
+    { SystemColor::Highlight, QPalette::Highlight, QPalette::Active },
+    { SystemColor::HighlightText, QPalette::HighlightedText, QPalette::Active },
+    { SystemColor::ButtonFace, QPalette::Button, QPalette::Active },
+    { SystemColor::ButtonShadow, QPalette::Mid, QPalette::Active },
+    { SystemColor::GrayText, QPalette::Text, QPalette::Disabled },
+    { SystemColor::ButtonText, QPalette::ButtonText, QPalette::Active },
+    { SystemColor::ButtonHighlight, QPalette::Light, QPalette::Active },
+    { SystemColor::DarkShadow, QPalette::Dark, QPalette::Active },
+    { SystemColor::Light, QPalette::Midlight, QPalette::Active },
+};
 
-    ColorRef ColorFrom(const QColor& color)
-    {
-        return static_cast<ColorRef>(color.red() | color.green() << 8 | color.blue() << 16);
-    }
-
+ColorRef ColorFrom(const QColor& color)
+{
+    return static_cast<ColorRef>(color.red() | color.green() << 8 | color.blue() << 16);
 }
+
+} // namespace
 
 SystemColors SystemColorsFrom(const QPalette& palette)
 {

@@ -1,6 +1,9 @@
 #include "qt_container.h"
 
 #include "qt_ambient.h"
+#ifdef VORNIX_WITH_ICU
+#include "vornix/icu_locale.h"
+#endif
 
 #include <QApplication>
 #include <QClipboard>
@@ -15,61 +18,65 @@ namespace vornix {
 
 namespace {
 
-    constexpr u32 ClientEdge = 512;
-    constexpr u32 StaticEdge = 131072;
-    constexpr int TwipsPerInch = 1440;
-    constexpr int PixelsPerInch = 96;
-    constexpr int LeftButton = 1;
-    constexpr int RightButton = 2;
-    constexpr int MiddleButton = 4;
+constexpr u32 ClientEdge = 512;
+constexpr u32 StaticEdge = 131072;
+constexpr int TwipsPerInch = 1440;
+constexpr int PixelsPerInch = 96;
+constexpr int LeftButton = 1;
+constexpr int RightButton = 2;
+constexpr int MiddleButton = 4;
 
-    class QtSettings final : public SettingsStore {
-    public:
-        std::u16string GetSetting(std::u16string_view application, std::u16string_view section, std::u16string_view key,
-            std::u16string_view fallback) override
-        {
-            const QSettings settings = Open(application);
-            return FromQString(settings.value(KeyOf(section, key), ToQString(fallback)).toString());
-        }
-
-        void SaveSetting(std::u16string_view application, std::u16string_view section, std::u16string_view key,
-            std::u16string_view value) override
-        {
-            QSettings settings = Open(application);
-            settings.setValue(KeyOf(section, key), ToQString(value));
-        }
-
-    private:
-        static QSettings Open(std::u16string_view application)
-        {
-            return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Vornix"), ToQString(application));
-        }
-        static QString KeyOf(std::u16string_view section, std::u16string_view key)
-        {
-            return ToQString(section) + QLatin1Char('/') + ToQString(key);
-        }
-    };
-
-    Qt::CursorShape CursorOf(PointerShape shape)
+class QtSettings final : public SettingsStore {
+public:
+    std::u16string GetSetting(std::u16string_view application, std::u16string_view section, std::u16string_view key,
+        std::u16string_view fallback) override
     {
-        switch (shape) {
-        case PointerShape::SizeWE:
-            return Qt::SplitHCursor;
-        case PointerShape::SizeNS:
-            return Qt::SplitVCursor;
-        case PointerShape::Default:
-            break;
-        }
-        return Qt::ArrowCursor;
+        const QSettings settings = Open(application);
+        return FromQString(settings.value(KeyOf(section, key), ToQString(fallback)).toString());
     }
 
+    void SaveSetting(std::u16string_view application, std::u16string_view section, std::u16string_view key,
+        std::u16string_view value) override
+    {
+        QSettings settings = Open(application);
+        settings.setValue(KeyOf(section, key), ToQString(value));
+    }
+
+private:
+    static QSettings Open(std::u16string_view application)
+    {
+        return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Vornix"), ToQString(application));
+    }
+    static QString KeyOf(std::u16string_view section, std::u16string_view key)
+    {
+        return ToQString(section) + QLatin1Char('/') + ToQString(key);
+    }
+};
+
+Qt::CursorShape CursorOf(PointerShape shape)
+{
+    switch (shape) {
+    case PointerShape::SizeWE:
+        return Qt::SplitHCursor;
+    case PointerShape::SizeNS:
+        return Qt::SplitVCursor;
+    case PointerShape::Default:
+        break;
+    }
+    return Qt::ArrowCursor;
 }
+
+} // namespace
 
 QtContainer::QtContainer(QFrame& widget)
     : widget_(widget)
     , locale_(&BuiltinLocale())
     , settings_(std::make_unique<QtSettings>())
 {
+#ifdef VORNIX_WITH_ICU
+    userLocale_ = MakeIcuLocale();
+    locale_ = userLocale_.get();
+#endif
     for (auto& child : children_)
         child = std::make_unique<QtChildWindow>(widget_);
     ReadAmbient();
@@ -81,6 +88,8 @@ QtContainer::~QtContainer() = default;
 void QtContainer::ReadAmbient()
 {
     colors_ = SystemColorsFrom(widget_.palette());
+    if (window_)
+        window_->SetSystemColors(colors_);
     font_ = FontFrom(widget_.font());
 }
 
@@ -103,8 +112,9 @@ void QtContainer::MakeWindowSurface(Size size)
     window_->SetBkColor(ground);
     window_->FillRect({ 0, 0, size.width, size.height }, ground);
     // The image shares the surface's memory; nothing is copied on the way to the screen.
-    picture_ = QImage(reinterpret_cast<uchar*>(window_->DevicePixels()), window_->DeviceWidth(), window_->DeviceHeight(),
-        window_->DeviceStride() * qsizetype { 4 }, QImage::Format_RGB32);
+    const DevicePixels pixels = window_->Pixels();
+    picture_ = QImage(reinterpret_cast<uchar*>(pixels.data), pixels.width, pixels.height,
+        pixels.stride * qsizetype { sizeof(u32) }, QImage::Format_RGB32);
     picture_.setDevicePixelRatio(scale_);
 }
 

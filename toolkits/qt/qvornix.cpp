@@ -10,14 +10,14 @@ namespace vornix {
 
 namespace {
 
-    // An empty bag: every property has its default.
-    class EmptyBag final : public PropertyBag {
-    public:
-        std::optional<BagValue> ReadProperty(std::string_view) const override { return std::nullopt; }
-        void WriteProperty(std::string_view, const BagValue&) override { }
-    };
+// An empty bag: every property has its default.
+class EmptyBag final : public PropertyBag {
+public:
+    std::optional<BagValue> ReadProperty(std::string_view) const override { return std::nullopt; }
+    void WriteProperty(std::string_view, const BagValue&) override { }
+};
 
-}
+} // namespace
 
 QVornix::QVornix(QWidget* parent)
     : QVornix(noEvents_, parent)
@@ -94,8 +94,7 @@ void QVornix::paintEvent(QPaintEvent* event)
     const QRect dirty = event->rect() & Client();
     const double scale = container_->Picture().devicePixelRatio();
     const QPoint inPicture = dirty.topLeft() - Client().topLeft();
-    const QRectF source(
-        inPicture.x() * scale, inPicture.y() * scale, dirty.width() * scale, dirty.height() * scale);
+    const QRectF source(inPicture.x() * scale, inPicture.y() * scale, dirty.width() * scale, dirty.height() * scale);
     painter.drawImage(QRectF(dirty), container_->Picture(), source);
 }
 

@@ -1,0 +1,19 @@
+// How a table looks in the grid: header, row numbers, alignment, check boxes, column widths.
+#pragma once
+
+#include "table.h"
+#include "vornix/platform/device.h"
+#include "vornix/vornix.h"
+
+namespace vornix::viewer {
+
+// Rows of the grid that are not data: the caption and the header.
+inline constexpr int HeaderLines = 2;
+
+// Fills the grid and gives it its looks. Texts are measured on `device`, which has the grid's scale.
+void PresentTable(Vornix& grid, Device& device, const Table& table);
+
+// One line for the person who looks: what is shown, and how many of how many rows when some are left out.
+std::string StatusLine(const Table& table);
+
+} // namespace vornix::viewer

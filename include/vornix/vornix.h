@@ -1,0 +1,497 @@
+// The grid control. A container (a toolkit's window) and a receiver of events are passed in; the control draws into the
+// one and reports to the other, on the thread that calls it.
+//
+// Indices are public unless said otherwise: row and column 0 are the first that are not fixed, fixed ones count -1, -2,
+// ... outward, and Rows and Cols address the filler row and column behind the last real ones. An index beyond them
+// raises error 9, an index or a sum that leaves 16 bits error 6; nothing is rolled back. Sizes and places are logical
+// pixels. After Terminate every member raises error 5.
+//
+// "Repaints" and "refreshes" below happen only while Redraw is on, where nothing else is said. "Reports X" means that
+// the container is told of a change of the persisted property X. A property that is written with the value it has does
+// nothing, where nothing else is said.
+#pragma once
+
+#include "vornix/automation.h"
+#include "vornix/events.h"
+#include "vornix/picture.h"
+#include "vornix/platform/container.h"
+#include "vornix/types.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace vornix {
+
+class Control;
+
+class Vornix {
+public:
+    // Both must outlive the control. A new control has no table yet: InitProperties or ReadProperties makes it.
+    Vornix(Container& container, VornixEvents& events);
+    // Terminates the control if that has not been done. A control must not be destroyed inside one of its own calls.
+    ~Vornix();
+    Vornix(const Vornix&) = delete;
+    Vornix& operator=(const Vornix&) = delete;
+
+    // -- For the container
+    // ---------------------------------------------------------------------------------------------- These are not for
+    // hosts: a toolkit calls them when its window has the news.
+
+    // Makes the table of a new control from the defaults.
+    void InitProperties();
+    // Makes the table of a control that was saved, with the values in the bag; absent ones take the defaults. A value
+    // of a type that cannot be converted is error 13, one that leaves its width error 6.
+    void ReadProperties(const PropertyBag& bag);
+    // The client size changed (or is known for the first time). Closes the editor and lays out anew.
+    void Resize();
+    // The control became visible. Raises PopulateGrid the first time, at run time in virtual mode.
+    void Show();
+    void Hide();
+    // The window lost its picture: copies it from the back store, or paints it the first time.
+    void Paint();
+    void EnterFocus();
+    // Closes the editor and takes the focus mark off the current cell.
+    void ExitFocus();
+    // Releases everything. Inside a handler of an event the release waits until the outermost call returns; no further
+    // event is raised. A second call does nothing.
+    void Terminate();
+    bool IsTerminated() const noexcept;
+    // Whether a call into the control is running, as it is inside every handler of an event.
+    bool IsInCall() const noexcept;
+    // The picture of the whole grid, as large as the largest client area so far; null before the first Resize.
+    const Surface* BackStore() const;
+    // How often the whole grid was repainted, and how many cells were painted one by one, since ClearPaintCounters.
+    int Repaints() const;
+    int Refreshes() const;
+    void ClearPaintCounters();
+
+    // -- Drawing and the redraw gate
+    // ------------------------------------------------------------------------------------
+
+    // While off, members change the table and paint nothing. On again: lays out and repaints once. Reports "Redraw".
+    bool Redraw() const;
+    void SetRedraw(bool Value);
+    // Applies the border again, raises PopulateGrid in virtual mode without a record source, goes back to whole columns
+    // and lays out anew.
+    void Refresh();
+    // Paints one cell, whether Redraw is on or not.
+    void RefreshCell(i16 Row, i16 Col);
+    // The number of the window's drawing device.
+    Hdc hDC() const;
+    // The native handle of the window.
+    std::intptr_t hWnd() const;
+
+    // Appearance of the whole grid. Each repaints and reports itself.
+    OleColor BackColor() const;
+    void SetBackColor(OleColor Value);
+    OleColor BackColorSel() const;
+    void SetBackColorSel(OleColor Value);
+    OleColor ForeColorSel() const;
+    void SetForeColorSel(OleColor Value);
+    // Odd rows that are not fixed show these in place of the default colours; a colour of a cell's own is never
+    // replaced.
+    OleColor AltBkColor() const;
+    void SetAltBkColor(OleColor Value);
+    OleColor AltForeColor() const;
+    void SetAltForeColor(OleColor Value);
+    bool AltColorEnabled() const;
+    void SetAltColorEnabled(bool Value);
+    // vxCellsEnum: which lines are drawn.
+    i32 GridLines() const;
+    void SetGridLines(i32 Value);
+    // Lines lie inside their cells, so no size changes. 0 is stored as 1.
+    i16 GridLineWidth() const;
+    void SetGridLineWidth(i16 Value);
+    // vxFocusEnum.
+    i32 FocusRect() const;
+    void SetFocusRect(i32 Value);
+
+    // Background picture behind the cells that are not fixed. None, or one whose handle is 0, takes it away. Repaints,
+    // reports "Picture".
+    PicturePtr Picture() const;
+    void SetPicture(const PicturePtr& Value);
+    // vxPictureModeEnum: how the cells take their piece. Repaints, reports itself.
+    i32 PictureMode() const;
+    void SetPictureMode(i32 Value);
+    // 0 to 100, washing the picture toward white; values above are ignored. Repaints, reports itself.
+    i32 PictureBrightness() const;
+    void SetPictureBrightness(i32 Value);
+    // 1 to 100; other values are ignored. Repaints, reports itself.
+    i16 Opacity() const;
+    void SetOpacity(i16 Value);
+    // vxMaskModeEnum and the colour that is transparent in cell pictures, from their next paint on. Report themselves.
+    i32 UseMask() const;
+    void SetUseMask(i32 Value);
+    OleColor MaskColor() const;
+    void SetMaskColor(OleColor Value);
+    // Percent for pictures taken of the grid.
+    void SetPictureAlpha(i16 AlphaPourcent);
+    // The colour moved toward white (Percent above 0) or black (below 0).
+    OleColor ColorBrightness(OleColor Color, i16 Percent) const;
+
+    // -- Counts and contents
+    // --------------------------------------------------------------------------------------------
+
+    // Lines that are not fixed. Negative values are ignored; others empty the selection, add lines like new ones at the
+    // end or cut them off there. Setting Rows ends virtual mode. Each lays out and reports itself.
+    i16 Rows() const;
+    void SetRows(i16 Value);
+    i16 Cols() const;
+    void SetCols(i16 Value);
+    // New fixed lines are added outside, surplus ones are taken away from there; the other lines keep their public
+    // indices. No fixed row: no caption. A negative value is error 9. Each lays out and reports itself.
+    i16 FixedRows() const;
+    void SetFixedRows(i16 Value);
+    i16 FixedCols() const;
+    void SetFixedCols(i16 Value);
+
+    // Two names of a cell's text. Always written; refreshes the cell.
+    std::u16string Text(i16 Row, i16 Col) const;
+    void SetText(i16 Row, i16 Col, std::u16string_view Value);
+    std::u16string TextValue(i16 Row, i16 Col) const;
+    void SetTextValue(i16 Row, i16 Col, std::u16string_view Value);
+    // A second text that is never shown.
+    std::u16string Key(i16 Row, i16 Col) const;
+    void SetKey(i16 Row, i16 Col, std::u16string_view Value);
+    // The text as a truth value; what is none reads false. Written as "-1" or "0", always. Refreshes the cell.
+    bool CellChecked(i16 Row, i16 Col) const;
+    void SetCellChecked(i16 Row, i16 Col, bool Value);
+    std::u16string ColName(i16 Col) const;
+    void SetColName(i16 Col, std::u16string_view Value);
+    // Pattern that the column's texts are shown by. Always written; refreshes the column.
+    std::u16string ColFormat(i16 Col) const;
+    void SetColFormat(i16 Col, std::u16string_view Value);
+    // Input mask of the column. Always written; refreshes the column.
+    std::u16string ColMask(i16 Col) const;
+    void SetColMask(i16 Col, std::u16string_view Value);
+
+    // -- Attributes of one cell
+    // ----------------------------------------------------------------------------------------- Each refreshes its
+    // cell. Enums are stored as they come.
+
+    // Brings shades, border colour and gradient colours with it. Always written.
+    OleColor CellBackColor(i16 Row, i16 Col) const;
+    void SetCellBackColor(i16 Row, i16 Col, OleColor Value);
+    OleColor CellForeColor(i16 Row, i16 Col) const;
+    void SetCellForeColor(i16 Row, i16 Col, OleColor Value);
+    // Two names of one colour.
+    OleColor CellBorderColor(i16 Row, i16 Col) const;
+    void SetCellBorderColor(i16 Row, i16 Col, OleColor Value);
+    OleColor BoxBorder(i16 Row, i16 Col) const;
+    void SetBoxBorder(i16 Row, i16 Col, OleColor Value);
+    // Always written; refreshes nothing.
+    bool CellEnabled(i16 Row, i16 Col) const;
+    void SetCellEnabled(i16 Row, i16 Col, bool Value);
+    // The same state as CellEnabled.
+    bool CheckEnable(i16 Row, i16 Col) const;
+    void SetCheckEnable(i16 Row, i16 Col, bool Value);
+    std::u16string CellFontName(i16 Row, i16 Col) const;
+    void SetCellFontName(i16 Row, i16 Col, std::u16string_view Value);
+    bool CellFontBold(i16 Row, i16 Col) const;
+    void SetCellFontBold(i16 Row, i16 Col, bool Value);
+    bool CellFontItalic(i16 Row, i16 Col) const;
+    void SetCellFontItalic(i16 Row, i16 Col, bool Value);
+    bool CellFontUnderline(i16 Row, i16 Col) const;
+    void SetCellFontUnderline(i16 Row, i16 Col, bool Value);
+    bool CellFontStrikeThrough(i16 Row, i16 Col) const;
+    void SetCellFontStrikeThrough(i16 Row, i16 Col, bool Value);
+    // Points.
+    i16 CellFontSize(i16 Row, i16 Col) const;
+    void SetCellFontSize(i16 Row, i16 Col, i16 Value);
+    // vxCellGradientEnum. Always written.
+    i32 CellGradientMode(i16 Row, i16 Col) const;
+    void SetCellGradientMode(i16 Row, i16 Col, i32 Value);
+    // Always written. Reads back what was last written, even after a back colour has replaced it on the screen.
+    OleColor CellGradientEnd(i16 Row, i16 Col) const;
+    void SetCellGradientEnd(i16 Row, i16 Col, OleColor Value);
+    // vxCellModeEnum. A check box also gets its text alignment set to vxTxtCenter.
+    i32 CellMode(i16 Row, i16 Col) const;
+    void SetCellMode(i16 Row, i16 Col, i32 Value);
+    // Always written.
+    PicturePtr CellPicture(i16 Row, i16 Col) const;
+    void SetCellPicture(i16 Row, i16 Col, const PicturePtr& Value);
+    // vxAlignPictureEnum flags.
+    i32 CellPictureAlignment(i16 Row, i16 Col) const;
+    void SetCellPictureAlignment(i16 Row, i16 Col, i32 Value);
+    // vxCellStyleEnum.
+    i32 CellStyle(i16 Row, i16 Col) const;
+    void SetCellStyle(i16 Row, i16 Col, i32 Value);
+    bool ButtonPressed(i16 Row, i16 Col) const;
+    void SetButtonPressed(i16 Row, i16 Col, bool Value);
+    // vxAlignTextEnum flags, without CommonTextAlign when read. A negative value toggles the flags of its absolute
+    // value.
+    i32 TextAlignment(i16 Row, i16 Col) const;
+    void SetTextAlignment(i16 Row, i16 Col, i32 Value);
+    // Pixels; negative values are ignored.
+    i16 TextMarginLeft(i16 Row, i16 Col) const;
+    void SetTextMarginLeft(i16 Row, i16 Col, i16 Value);
+    i16 TextMarginRight(i16 Row, i16 Col) const;
+    void SetTextMarginRight(i16 Row, i16 Col, i16 Value);
+
+    // -- Attributes of a column
+    // ----------------------------------------------------------------------------------------- Each writes all cells
+    // of the column, those in fixed rows only when the column is fixed, and what new rows take from the column; always,
+    // without comparing. Each refreshes the column. Values are those of the cell's attributes.
+
+    void SetColBackColor(i16 Col, OleColor Value);
+    void SetColForeColor(i16 Col, OleColor Value);
+    void SetColBorderColor(i16 Col, OleColor Value);
+    // Refreshes nothing.
+    bool ColEnabled(i16 Col) const;
+    void SetColEnabled(i16 Col, bool Value);
+    // Cells only: new rows do not take the font. Error 5 without a font.
+    void SetColFont(i16 Col, const FontPtr& Value);
+    void SetColGradientMode(i16 Col, i32 Value);
+    void SetColGradientEnd(i16 Col, OleColor Value);
+    // Never reaches fixed rows or the filler row.
+    i32 ColMode(i16 Col) const;
+    void SetColMode(i16 Col, i32 Value);
+    // Real cells only: new rows do not take the picture.
+    void SetColPicture(i16 Col, const PicturePtr& Value);
+    i32 ColPictureAlignment(i16 Col) const;
+    void SetColPictureAlignment(i16 Col, i32 Value);
+    i32 ColStyle(i16 Col) const;
+    void SetColStyle(i16 Col, i32 Value);
+    i32 ColTextAlign(i16 Col) const;
+    void SetColTextAlign(i16 Col, i32 Value);
+    i16 ColTextMarginLeft(i16 Col) const;
+    void SetColTextMarginLeft(i16 Col, i16 Value);
+    i16 ColTextMarginRight(i16 Col) const;
+    void SetColTextMarginRight(i16 Col, i16 Value);
+    // The line at the right of the column's cells.
+    void SetColLineColor(i16 Col, OleColor Value);
+    // Whether the user may size the column. Refreshes nothing, reports itself.
+    bool ColResize(i16 Col) const;
+    void SetColResize(i16 Col, bool Value);
+
+    // -- Attributes of a row
+    // -------------------------------------------------------------------------------------------- Each writes all
+    // cells of the row, those in fixed columns only when the row is fixed; always, without comparing. New columns do
+    // not see it. Each refreshes the row.
+
+    void SetRowBackColor(i16 Row, OleColor Value);
+    void SetRowForeColor(i16 Row, OleColor Value);
+    void SetRowBorderColor(i16 Row, OleColor Value);
+    // Refreshes nothing.
+    void SetRowEnabled(i16 Row, bool Value);
+    // Error 5 without a font.
+    void SetRowFont(i16 Row, const FontPtr& Value);
+    void SetRowGradientMode(i16 Row, i32 Value);
+    void SetRowGradientEnd(i16 Row, OleColor Value);
+    // Never reaches fixed columns or the filler column.
+    void SetRowMode(i16 Row, i32 Value);
+    void SetRowStyle(i16 Row, i32 Value);
+    void SetRowTextAlign(i16 Row, i32 Value);
+    // In a row that is not fixed these two leave out as many columns at the left as there are fixed rows.
+    void SetRowTextMarginLeft(i16 Row, i16 Value);
+    void SetRowTextMarginRight(i16 Row, i16 Value);
+    // The line below the row's cells.
+    void SetRowLineColor(i16 Row, OleColor Value);
+    // Whether the user may size the row. Refreshes nothing, reports itself.
+    bool RowResize(i16 Row) const;
+    void SetRowResize(i16 Row, bool Value);
+
+    // -- Attributes of a rectangle
+    // -------------------------------------------------------------------------------------- Corners in any order. Each
+    // refreshes the columns of the rectangle.
+
+    // The back colour alone: shades and gradient colours stay.
+    void SetCellsBackColor(i16 Row1, i16 Col1, i16 Row2, i16 Col2, OleColor Value);
+    void SetCellsForeColor(i16 Row1, i16 Col1, i16 Row2, i16 Col2, OleColor Value);
+    // Error 5 without a font.
+    void SetCellsFont(i16 Row1, i16 Col1, i16 Row2, i16 Col2, const FontPtr& Value);
+
+    // -- Templates
+    // ------------------------------------------------------------------------------------------------------ What new
+    // columns and new fixed cells start with. At design time (ambient UserMode false) existing cells are written too.
+    // Each repaints, whether Redraw is on or not, and reports itself.
+
+    OleColor DefaultBkColor() const;
+    void SetDefaultBkColor(OleColor Value);
+    OleColor DefaultForeColor() const;
+    void SetDefaultForeColor(OleColor Value);
+    OleColor DefaultBkColorFixed() const;
+    void SetDefaultBkColorFixed(OleColor Value);
+    OleColor DefaultForeColorFixed() const;
+    void SetDefaultForeColorFixed(OleColor Value);
+    i32 DefaultMode() const;
+    void SetDefaultMode(i32 Value);
+    // Always written, like DefaultTextAlignFixed.
+    i32 DefaultTextAlign() const;
+    void SetDefaultTextAlign(i32 Value);
+    i32 DefaultTextAlignFixed() const;
+    void SetDefaultTextAlignFixed(i32 Value);
+    OleColor DefaultLineColor() const;
+    void SetDefaultLineColor(OleColor Value);
+    // Flags that every stored alignment carries; vxNoPrefix is always among them. Always written: the alignment of all
+    // cells becomes the value as given. Repaints, reports itself.
+    i32 CommonTextAlign() const;
+    void SetCommonTextAlign(i32 Value);
+    // Always written; error 5 without a font. These two repaint only while Redraw is on.
+    FontPtr Font() const;
+    void SetFont(const FontPtr& Value);
+    FontPtr FontFixed() const;
+    void SetFontFixed(const FontPtr& Value);
+    // Pixels. At design time existing lines are written, hidden ones too, and the grid is laid out anew; at run time
+    // only lines added later take them.
+    i16 DefaultHeight() const;
+    void SetDefaultHeight(i16 Value);
+    i16 DefaultWidth() const;
+    void SetDefaultWidth(i16 Value);
+    i16 DefaultHeightFixed() const;
+    void SetDefaultHeightFixed(i16 Value);
+    i16 DefaultWidthFixed() const;
+    void SetDefaultWidthFixed(i16 Value);
+    // All attributes, sizes and spans back to the defaults. Contents, column names and hidden columns stay.
+    void ResetGrid();
+
+    // -- Spans
+    // ----------------------------------------------------------------------------------------------------------
+
+    // Columns and rows that a cell covers; 0 for a plain cell. Written: older spans in the way are removed whole; a
+    // span that would leave the table changes nothing. Always written; repaints.
+    i16 ColSpan(i16 Row, i16 Col) const;
+    void SetColSpan(i16 Row, i16 Col, i16 Value);
+    i16 RowSpan(i16 Row, i16 Col) const;
+    void SetRowSpan(i16 Row, i16 Col, i16 Value);
+    // The cell whose span covers this one; of a plain cell its own index.
+    i16 ParentRow(i16 Row, i16 Col) const;
+    i16 ParentCol(i16 Row, i16 Col) const;
+    // Whether the second cell is the parent of the first. False for a first cell outside the real lines.
+    bool IsParent(i16 Row, i16 Col, i16 ParentRow, i16 ParentCol) const;
+    // Merges runs of rows with equal texts (or keys), without regard to case, in one column. Repaints once.
+    void SpanRows(i16 Col, bool bUseKey = false);
+    // Undoes it in `Cols` columns from `Col` on. Repaints once.
+    void RemoveSpanRows(i16 Col, i16 Cols = 1);
+
+    // -- Hidden lines, column order, parked looks
+    // -----------------------------------------------------------------------
+
+    // Hidden lines keep their place with a size of 0. Each lays out anew.
+    void HideRow(i16 Row, i16 Rows = 1);
+    void ShowRow(i16 Row, i16 Rows = 1);
+    void HideCol(i16 Col, i16 Cols = 1);
+    void ShowCol(i16 Col, i16 Cols = 1);
+    // Report themselves, also when nothing changed.
+    bool RowHide(i16 Row) const;
+    void SetRowHide(i16 Row, bool Value);
+    bool ColHide(i16 Col) const;
+    void SetColHide(i16 Col, bool Value);
+    // For a number: the index that this column had when it was made. For a name: the column's index now, -32767 if
+    // there is none.
+    i16 ColOrder(std::u16string_view index) const;
+    // Brings the columns back to the order in which they were made. Repaints once.
+    void ReOrderCols();
+    // Parks the look of a cell in entry `index`, and gives it back to the place it came from or to another cell. The
+    // store grows as needed; entries beyond its end give nothing back. A negative entry is error 9.
+    void StoreVisualCell(i16 index, i16 Row, i16 Col);
+    void RestoreVisualCell(i16 index);
+    void RestoreVisualToCell(i16 index, i16 Row, i16 Col);
+    void ClearVisualCell();
+
+    // -- Geometry
+    // -------------------------------------------------------------------------------------------------------
+
+    // Pixels; 0 while hidden. Negative values count as 0. Written to a hidden line they take effect when it is shown.
+    // Lay out anew.
+    i16 ColWidth(i16 Col) const;
+    void SetColWidth(i16 Col, i16 Value);
+    i16 RowHeight(i16 Row) const;
+    void SetRowHeight(i16 Row, i16 Value);
+    // Share of the room that the other columns leave, in percent; 0 is none. Always written; lays out anew.
+    i16 ColWidthPercent(i16 Col) const;
+    void SetColWidthPercent(i16 Col, i16 Value);
+    // Whether percent widths follow the layout.
+    bool ResizingWidth() const;
+    void SetResizingWidth(bool Value);
+    // Reports itself.
+    bool ResizingRows() const;
+    void SetResizingRows(bool Value);
+    // vxCellsEnum: which lines the user may size. Writes the flags of all rows and columns; reports itself.
+    i32 ResizeMode() const;
+    void SetResizeMode(i32 Value);
+    // vxCellsEnum: which headers select. Reports itself.
+    i32 SelectMode() const;
+    void SetSelectMode(i32 Value);
+    // vxCellsEnum: whether a filler column and row take the room behind the last ones. Lays out anew, reports itself.
+    i32 AdjustLast() const;
+    void SetAdjustLast(i32 Value);
+    // vxBorderStyleEnum. Lays out anew, reports itself.
+    i32 BorderStyle() const;
+    void SetBorderStyle(i32 Value);
+    // The title: the text of the top fixed row, drawn over the whole width. Cannot be turned on without a fixed row.
+    // Lays out anew, reports itself.
+    bool CaptionEnabled() const;
+    void SetCaptionEnabled(bool Value);
+    // At design time a first text adds a fixed row for it and an empty one takes it away. Refreshes the title, reports
+    // itself.
+    std::u16string Caption() const;
+    void SetCaption(std::u16string_view Value);
+    // Columns that stand still at the left. Ignored unless ShowSplit is on and the value is from 0 to below the last
+    // column's internal index. Lays out anew.
+    i16 SplitCols() const;
+    void SetSplitCols(i16 Value);
+    // Reports itself.
+    bool ShowSplit() const;
+    void SetShowSplit(bool Value);
+
+    // The cell under a pixel. False outside the cell area, with NoIndex in the direction that found nothing.
+    bool GetCellAtPos(i32 x, i32 y, i16& Row, i16& Col) const;
+    // The same, moved to the parent of the cell's span.
+    bool GetCellParentAtPos(i32 x, i32 y, i16& Row, i16& Col) const;
+    // Place of a cell in twips, border included. One that is scrolled out has the place of the first scrolling line.
+    void GetPositionCell(i16 Row, i16 Col, i32& x, i32& y) const;
+    // Pixels, spans included.
+    void GetSizeCell(i16 Row, i16 Col, i16& Width, i16& Height) const;
+    // Pixels of a block, spans left out unless it is one cell. Corners in any order.
+    void GetSizeCells(i16 Row1, i16 Col1, i16 Row2, i16 Col2, i16& Width, i16& Height) const;
+    // Does nothing.
+    void getWidthHeightCell(i16 iRow, i16 iCol, i16& iWidth, i16& iHeight) const;
+    // By the latest paint; fixed lines always, half-shown first columns not.
+    bool IsVisibleCell(i16 Row, i16 Col) const;
+    bool IsVisibleRow(i16 Row) const;
+    bool IsVisibleCol(i16 Col) const;
+    // Pixels of the client area that the bars leave.
+    float GetScaleWidth() const;
+    float GetScaleHeight() const;
+
+    // -- Scrolling
+    // ------------------------------------------------------------------------------------------------------
+
+    // First scrolling line. Negative values are ignored, large ones go to the last line. Lays out anew.
+    i16 FirstRow() const;
+    void SetFirstRow(i16 Value);
+    i16 FirstCol() const;
+    void SetFirstCol(i16 Value);
+    // Last line that is whole on the screen, from the latest paint.
+    i16 LastRow() const;
+    i16 LastCol() const;
+    // vxScrollEnum. Go back to whole columns, lay out anew, report themselves. ScrollVBar refuses vxScrollSmooth and,
+    // in virtual mode, takes vxScrollTrack as vxNormalScroll.
+    i32 ScrollHBar() const;
+    void SetScrollHBar(i32 Value);
+    i32 ScrollVBar() const;
+    void SetScrollVBar(i32 Value);
+    // Pixels. Writing does nothing.
+    i16 ScrollBarSize() const;
+    void SetScrollBarSize(i16 Value);
+
+    // -- Current cell and virtual mode, as far as they are read
+    // ------------------------------------------------------------
+
+    // NoIndex without a current cell.
+    i32 CurrentRow() const;
+    i16 CurrentCol() const;
+    // Rows of the page, 0 without virtual mode; place of the page in the list.
+    i16 VirtualPageSize() const;
+    i32 VirtualOffset() const;
+
+private:
+    class Call;
+    Call Enter() const;
+
+    std::unique_ptr<Control> control_;
+};
+
+} // namespace vornix

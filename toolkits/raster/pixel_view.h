@@ -1,4 +1,5 @@
-// Pixels in memory as the raster operations see them: where they lie, how logical coordinates map to them, what is clipped.
+// Pixels in memory as the raster operations see them: where they lie, how logical coordinates map to them, what is
+// clipped.
 #pragma once
 
 #include "vornix/types.h"

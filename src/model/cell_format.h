@@ -72,6 +72,7 @@ struct BackColorSet {
     ColorRef DarkShade = 0;
 
     BackColorSet(OleColor value, const SystemColors& colors);
+    // Writes the back colour, both gradient colours and the three shades.
     void ApplyTo(CellFormat& format) const;
 };
 

@@ -32,7 +32,7 @@ struct GridDefaults {
     CellFormat DefaultCellFormat;
     CellFormat DefaultCellFormatFixed;
 
-    // Makes both formats anew from the values above.
+    // Makes both formats anew from the values above. A missing font leaves the font values zero.
     void BuildFormats(const SystemColors& colors);
 };
 

@@ -1,14 +1,18 @@
 // The table itself: rows, columns and cells, by internal index, fixed ones first.
 //
-// Both arrays hold one element more than there are real lines: the filler row at MaxRow and the filler column at MaxCol.
-// A subscript outside raises error 9, a count that leaves 16 bits error 6, memory that runs out error 7.
+// Both arrays hold one element more than there are real lines: the filler row at MaxRow and the filler column at
+// MaxCol. A subscript outside raises error 9, a count that leaves 16 bits error 6, memory that runs out error 7.
+// Nothing is rolled back after a failure, but the table stays whole: every row has as many cells as there are columns.
 #pragma once
 
 #include "model/cell.h"
+#include "model/cell_block.h"
+#include "model/column_settings.h"
 #include "model/format_table.h"
 #include "model/grid_defaults.h"
 #include "vornix/types.h"
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,14 +20,14 @@
 namespace vornix {
 
 struct Row {
-    bool Resizable = false;
     OleColor LineColor = 0;
+    i32 RecordPos = 0;
     i16 Height = 0; // 0 while hidden
     i16 SavedHeight = 0;
-    i32 RecordPos = 0;
-    bool Hidden = false;
     i16 NextSkip = 0; // the next row of the chain is r + NextSkip + 1
     i16 PrevSkip = 0; // the one before is r - PrevSkip - 1
+    bool Resizable = false;
+    bool Hidden = false;
     CellBlock Cells; // 0 to MaxCol
 };
 
@@ -48,69 +52,131 @@ struct Column {
     FormatId CellDefaults = 0;
 };
 
+using CellEdit = std::function<void(Cell&)>;
+
+// References to rows, columns and cells hold until the next operation that changes the arrays or writes cells; those to
+// formats until the next write of a format. A Row or Column taken out as a copy must be back before the next write of a
+// format, for the store counts only its own use of format numbers.
 class GridStore {
 public:
     GridStore();
+    GridStore(const GridStore&) = delete;
+    GridStore& operator=(const GridStore&) = delete;
 
     GridDefaults Defaults;
 
-    // Counts. Rows and Cols are the lines that are not fixed.
-    i16 Rows() const;
-    i16 Cols() const;
-    i16 FixedRows() const;
-    i16 FixedCols() const;
-    i16 MaxRow() const;
-    i16 MaxCol() const;
-    i16 LastRowIndex() const;
-    i16 LastColIndex() const;
-    void StoreRows(i16 rows); // the counts alone; the arrays are resized by the operations below
-    void StoreCols(i16 cols);
-    void StoreFixedRows(i16 rows);
-    void StoreFixedCols(i16 cols);
+    // Counts. Rows and Cols are the lines that are not fixed. A new store has one of each and no arrays yet.
+    i16 Rows() const { return rowCount_; }
+    i16 Cols() const { return colCount_; }
+    i16 FixedRows() const { return fixedRowCount_; }
+    i16 FixedCols() const { return fixedColCount_; }
+    i16 MaxRow() const { return maxRow_; }
+    i16 MaxCol() const { return maxCol_; }
+    i16 LastRowIndex() const { return lastRowIndex_; }
+    i16 LastColIndex() const { return lastColIndex_; }
+    // The counts alone; the arrays are resized by the operations below.
+    void StoreRows(i16 rows) { rowCount_ = rows; }
+    void StoreCols(i16 cols) { colCount_ = cols; }
+    void StoreFixedRows(i16 rows) { fixedRowCount_ = rows; }
+    void StoreFixedCols(i16 cols) { fixedColCount_ = cols; }
     void RefreshLastIndices(); // LastRowIndex and LastColIndex from MaxRow and MaxCol
 
-    // Lines.
-    const Row& RowAt(int row) const;
-    Row& RowAt(int row);
-    const Column& ColumnAt(int col) const;
-    Column& ColumnAt(int col);
+    bool ContainsRow(int row) const { return row >= 0 && row < RowArraySize(); }
+    bool ContainsCol(int col) const { return col >= 0 && col < ColArraySize(); }
 
-    // Cells. Cell() reads; the others write and give the row a block of its own first.
-    const Cell& CellAt(int row, int col) const;
-    Cell& EditCell(int row, int col);
-    const CellFormat& Format(int row, int col) const;
+    // Lines.
+    const Row& RowAt(int row) const { return rows_[Subscript(row, RowArraySize())]; }
+    Row& RowAt(int row) { return rows_[Subscript(row, RowArraySize())]; }
+    const Column& ColumnAt(int col) const { return columns_[Subscript(col, ColArraySize())]; }
+    Column& ColumnAt(int col) { return columns_[Subscript(col, ColArraySize())]; }
+    i16 HeightOf(int row) const { return RowAt(row).Height; }
+    i16 WidthOf(int col) const { return ColumnAt(col).Width; }
+
+    // Cells. CellAt reads; EditCell is for writing and gives the row a block of its own first.
+    const Cell& CellAt(int row, int col) const { return RowAt(row).Cells.At(col); }
+    Cell& EditCell(int row, int col) { return RowAt(row).Cells.Edit(col); }
+    const CellFormat& Format(int row, int col) const { return formats_[CellAt(row, col).FormatNumber()]; }
+    const CellFormat& FormatOf(const Cell& cell) const { return formats_[cell.FormatNumber()]; }
     void SetFormat(int row, int col, const CellFormat& format);
     void EditFormat(int row, int col, const FormatEdit& edit);
-    // Cells first..last of a line, both included; the edit runs once for each distinct format.
+    // Cells first..last of a line, both included and nothing when first is above last; the edit runs once for each
+    // distinct format. A range that leaves the array at its end is written up to there and then raises error 9.
     void EditColFormats(int col, int firstRow, int lastRow, const FormatEdit& edit);
     void EditRowFormats(int row, int firstCol, int lastCol, const FormatEdit& edit);
     void EditRectFormats(int firstRow, int firstCol, int lastRow, int lastCol, const FormatEdit& edit);
-    const CellFormat& ColDefaults(int col) const;
+    // The same for what is not a format. Rows that share their cells go on sharing them: the edit runs once for all.
+    void EditColCells(int col, int firstRow, int lastRow, const CellEdit& edit);
+    const CellFormat& ColDefaults(int col) const { return formats_[ColumnAt(col).CellDefaults]; }
     void EditColDefaults(int col, const FormatEdit& edit);
-    FormatTable& Formats();
+    void SetColDefaults(int col, const CellFormat& format);
+    FormatTable& Formats() { return formats_; }
+    const FormatTable& Formats() const { return formats_; }
+
+    // Null when there are none.
+    void SetColumnSettings(ColumnSettings* settings) { columnSettings_ = settings; }
 
     // Operations on the arrays, named in the order they build on one another.
-    void InitGridStore();
+
+    // Builds everything anew from the counts and Defaults. Fixed totals, first visible lines, mouse and current cell
+    // memories and the caption are their owners' business.
+    void InitGridStore(const SystemColors& colors);
+    // Nothing when unchanged. The filler row stays on top.
     void ResizeRowStore(int newMaxRow);
+    // Moves no filler: the caller shifts it.
     void ResizeColStore(int newMaxCol);
+    // Copies lines source..upper bound to destination onward. What is left over above them keeps its old content.
     void ShiftRowsDown(int destination, int source);
-    void ShiftRowsUp(int position, int count);
     void ShiftColsDown(int destination, int source);
+    // Copies lines position..upper bound - count to position + count onward. The lines left over keep their old
+    // content.
+    void ShiftRowsUp(int position, int count);
     void ShiftColsUp(int position, int count);
+    // Hidden and SavedHeight of the rows stay as they were.
     void InitRows(int first, int last);
     void InitFixedRows(int first, int last);
+    // Key and span of the cells stay.
     void InitCols(int first, int last);
     void InitFixedCols(int first, int last);
     void InitFillerCol();
     void InitFillerRow();
-    // Contents stay; attributes, sizes and spans go back to the defaults.
+    // Contents stay; attributes, sizes and spans go back to the defaults. The chain of visible rows stays too.
     void ResetAttributes();
 
-    // Bytes held by rows, cells and their texts.
+    // Bytes held by rows, columns, cells, their texts and the formats; what the allocator adds is not counted.
     std::size_t MemoryInUse() const;
 
 private:
-    // ... rows_, columns_, formats_, counts
+    static std::size_t Subscript(int index, int count) { return static_cast<std::size_t>(CheckedIndex(index, count)); }
+    int RowArraySize() const { return static_cast<int>(rows_.size()); }
+    int ColArraySize() const { return static_cast<int>(columns_.size()); }
+
+    // A block with the CellDefaults of every column.
+    CellBlock NewRowCells();
+    CellBlock NewFixedRowCells();
+    void ResetLine(Row& row, i16 height) const;
+    void ResetLine(Column& column, i16 width) const;
+    void BuildColumns();
+    void BuildRows();
+    void CopyTitlesToHeader();
+    // Columns first..last anew in rows of the range: format by column, no text, no picture.
+    void ResetCells(int firstRow, int lastRow, int firstCol, int lastCol, const std::vector<FormatId>& formats);
+    std::vector<FormatId> CellDefaultsOf(int firstCol, int lastCol) const;
+    void GrowCellBlocks(int count);
+    // Frees the numbers of formats that nothing uses any more, when many new ones have come.
+    void SweepFormats();
+
+    std::vector<Row> rows_;
+    std::vector<Column> columns_;
+    FormatTable formats_;
+    ColumnSettings* columnSettings_ = nullptr;
+    i16 rowCount_ = 1;
+    i16 colCount_ = 1;
+    i16 fixedRowCount_ = 0;
+    i16 fixedColCount_ = 0;
+    i16 maxRow_ = 0;
+    i16 maxCol_ = 0;
+    i16 lastRowIndex_ = -1;
+    i16 lastColIndex_ = -1;
 };
 
 } // namespace vornix

@@ -1,4 +1,7 @@
 // Hidden rows and columns, and the chain of visible rows.
+//
+// The chain runs from the first non-fixed row to the last row, both in it even when hidden, over all rows between them
+// that have a height. It is held as gaps in the records, so rows that shift carry it along.
 #pragma once
 
 #include "model/grid_store.h"
@@ -22,7 +25,19 @@ public:
     // be: a change to 0 takes the row out of the chain, one from 0 puts it in.
     void UpdateChain(int row, int heightBefore, int heightAfter);
 
+    // The neighbours of a row by its links, always ahead of it and behind it, however stale the links are. Not bounded
+    // by the ends of the chain.
+    int NextInChain(int row) const;
+    int PrevInChain(int row) const;
+
 private:
+    bool IsInnerRow(int row) const { return row > store_.FixedRows() && row < store_.LastRowIndex(); }
+    bool IsLinked(int row) const;
+    void TakeOut(int row);
+    void PutIn(int row);
+    // Makes two rows neighbours in the chain.
+    void Link(int row, int next);
+
     GridStore& store_;
 };
 

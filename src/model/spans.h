@@ -1,7 +1,13 @@
 // Merged cells. Nothing is kept beside the cells: a parent carries the size, its children the way back to it.
+//
+// Spans do not overlap, a cell is a child of at most one parent, and a rectangle lies below MaxRow and MaxCol: the
+// operations keep that by removing older spans that are in the way.
 #pragma once
 
 #include "model/grid_store.h"
+
+#include <functional>
+#include <string_view>
 
 namespace vornix {
 
@@ -11,6 +17,9 @@ struct CellIndex {
     friend bool operator==(const CellIndex&, const CellIndex&) = default;
 };
 
+// Whether two texts count as equal.
+using TextsEqual = std::function<bool(std::u16string_view, std::u16string_view)>;
+
 class Spans {
 public:
     explicit Spans(GridStore& store)
@@ -18,16 +27,36 @@ public:
     {
     }
 
-    // Stores the span in the cell, removing older spans it touches. A span that would leave the store changes nothing;
-    // one whose place plus size leaves 16 bits is error 6. `force` writes the links only.
-    void SetColSpan(int row, int col, i16 span, bool force = false);
-    void SetRowSpan(int row, int col, i16 span, bool force = false);
+    // Stores the span in the cell, removing older spans it touches, and gives back what the cell has then. A span that
+    // would leave the store changes nothing; one whose place plus size leaves 16 bits is error 6. `force` writes the
+    // links only.
+    i16 SetColSpan(int row, int col, i16 span, bool force = false);
+    i16 SetRowSpan(int row, int col, i16 span, bool force = false);
+    // Clears the whole span of a parent.
     void RemoveSpan(int row, int col);
 
     // The parent of a cell, or the cell itself.
     CellIndex ParentOf(int row, int col) const;
+    // The cells a parent covers in each direction, 1 and more.
+    int RowsCovered(int row, int col) const;
+    int ColsCovered(int row, int col) const;
+
+    // Merges runs of neighbouring equal cells of one column, by text or by key, and marks the column. False, and
+    // nothing done, when there are no rows.
+    bool MergeEqualRows(int col, bool useKey, const TextsEqual& equal);
+    // Removes the spans over several rows that begin in the column, and its mark.
+    void RemoveMergedRows(int col);
 
 private:
+    struct Direction;
+
+    i16 SetSpan(const Direction& along, CellIndex cell, i16 span, bool force);
+    void RemoveSpanAt(CellIndex cell);
+    // Makes way at a cell that a growing span takes.
+    void Free(CellIndex cell);
+    void LinkToParent(CellIndex child, CellIndex parent);
+    void ClearLinks(CellIndex cell);
+
     GridStore& store_;
 };
 

@@ -1,0 +1,176 @@
+#include "model/spans.h"
+
+#include "automation/checked.h"
+
+#include <algorithm>
+#include <string>
+
+namespace vornix {
+
+// A span grows along columns or along rows; the other direction is across.
+struct Spans::Direction {
+    bool isColumns;
+
+    int Place(CellIndex cell) const { return isColumns ? cell.col : cell.row; }
+    int PlaceAcross(CellIndex cell) const { return isColumns ? cell.row : cell.col; }
+    CellIndex At(int across, int place) const
+    {
+        return isColumns ? CellIndex { across, place } : CellIndex { place, across };
+    }
+    int Bound(const GridStore& store) const { return isColumns ? store.MaxCol() : store.MaxRow(); }
+    int BoundAcross(const GridStore& store) const { return isColumns ? store.MaxRow() : store.MaxCol(); }
+    i16 Stored(const Cell& cell) const { return isColumns ? cell.ColSpan() : cell.RowSpan(); }
+    i16 StoredAcross(const Cell& cell) const { return isColumns ? cell.RowSpan() : cell.ColSpan(); }
+    void Store(Cell& cell, i16 span) const { isColumns ? cell.SetColSpan(span) : cell.SetRowSpan(span); }
+};
+
+namespace {
+
+// 0 and 1 are treated alike, and so is whatever a host made negative.
+int SizeOf(i16 stored)
+{
+    return std::max<int>(stored, 1);
+}
+
+} // namespace
+
+i16 Spans::SetColSpan(int row, int col, i16 span, bool force)
+{
+    return SetSpan({ .isColumns = true }, { row, col }, span, force);
+}
+
+i16 Spans::SetRowSpan(int row, int col, i16 span, bool force)
+{
+    return SetSpan({ .isColumns = false }, { row, col }, span, force);
+}
+
+i16 Spans::SetSpan(const Direction& along, CellIndex cell, i16 span, bool force)
+{
+    const Cell& parent = store_.CellAt(cell.row, cell.col);
+    if (span == 0)
+        span = 1;
+    const int place = along.Place(cell);
+    const int placeAcross = along.PlaceAcross(cell);
+    const int end = ToI16(place + span);
+    if (end > along.Bound(store_) || placeAcross >= along.BoundAcross(store_))
+        return along.Stored(parent);
+    if (!force && parent.IsChild())
+        RemoveSpanAt(ParentOf(cell.row, cell.col));
+
+    const Cell& alone = store_.CellAt(cell.row, cell.col);
+    const int endAcross = std::min(placeAcross + SizeOf(along.StoredAcross(alone)), along.BoundAcross(store_));
+    const int oldEnd = std::min(place + SizeOf(along.Stored(alone)), along.Bound(store_));
+    for (int across = placeAcross; across < endAcross; ++across) {
+        // A grown part takes its cells from older spans; a forced one takes them all, as they are.
+        for (int target = force ? place : oldEnd; target < end; ++target) {
+            const CellIndex child = along.At(across, target);
+            if (!force)
+                Free(child);
+            LinkToParent(child, cell);
+        }
+        if (force)
+            continue;
+        // A shrunk part lets its cells go, the parent's own row or column never.
+        for (int target = std::max(end, place + 1); target < oldEnd; ++target)
+            ClearLinks(along.At(across, target));
+    }
+    along.Store(store_.EditCell(cell.row, cell.col), span);
+    return span;
+}
+
+void Spans::Free(CellIndex cell)
+{
+    const Cell& target = store_.CellAt(cell.row, cell.col);
+    if (target.RowSpan() > 0 || target.ColSpan() >= 1)
+        RemoveSpanAt(cell);
+    if (store_.CellAt(cell.row, cell.col).IsChild())
+        RemoveSpanAt(ParentOf(cell.row, cell.col));
+}
+
+void Spans::LinkToParent(CellIndex child, CellIndex parent)
+{
+    // A cell that stands as it is keeps its row's cells shared.
+    const Cell& before = store_.CellAt(child.row, child.col);
+    const i16 parentRow = ToI16(parent.row - child.row);
+    const i16 parentCol = ToI16(parent.col - child.col);
+    if (before.ParentRow() == parentRow && before.ParentCol() == parentCol)
+        return;
+    Cell& cell = store_.EditCell(child.row, child.col);
+    cell.SetParentCol(parentCol);
+    cell.SetParentRow(parentRow);
+}
+
+void Spans::ClearLinks(CellIndex cell)
+{
+    LinkToParent(cell, cell);
+}
+
+void Spans::RemoveSpan(int row, int col)
+{
+    RemoveSpanAt({ row, col });
+}
+
+void Spans::RemoveSpanAt(CellIndex cell)
+{
+    const int endRow = std::min(cell.row + RowsCovered(cell.row, cell.col), store_.MaxRow() + 1);
+    const int endCol = std::min(cell.col + ColsCovered(cell.row, cell.col), store_.MaxCol() + 1);
+    for (int row = cell.row; row < endRow; ++row)
+        for (int col = cell.col; col < endCol; ++col)
+            ClearLinks({ row, col });
+    Cell& parent = store_.EditCell(cell.row, cell.col);
+    parent.SetRowSpan(0);
+    parent.SetColSpan(0);
+}
+
+CellIndex Spans::ParentOf(int row, int col) const
+{
+    const Cell& cell = store_.CellAt(row, col);
+    return { row + cell.ParentRow(), col + cell.ParentCol() };
+}
+
+int Spans::RowsCovered(int row, int col) const
+{
+    return SizeOf(store_.CellAt(row, col).RowSpan());
+}
+
+int Spans::ColsCovered(int row, int col) const
+{
+    return SizeOf(store_.CellAt(row, col).ColSpan());
+}
+
+bool Spans::MergeEqualRows(int col, bool useKey, const TextsEqual& equal)
+{
+    if (store_.Rows() == 0)
+        return false;
+    const auto valueAt = [&](int row) {
+        const Cell& cell = store_.CellAt(row, col);
+        return useKey ? std::u16string(cell.Key()) : cell.Text();
+    };
+    const auto closeRun = [&](int firstRow, int endRow) {
+        if (endRow - firstRow > 1)
+            SetRowSpan(firstRow, col, ToI16(endRow - firstRow));
+    };
+    int firstRow = store_.FixedRows();
+    std::u16string value = valueAt(firstRow);
+    for (int row = firstRow; row <= store_.LastRowIndex(); ++row) {
+        std::u16string next = valueAt(row);
+        if (equal(next, value))
+            continue;
+        closeRun(firstRow, row);
+        firstRow = row;
+        value = std::move(next);
+    }
+    closeRun(firstRow, store_.MaxRow());
+    store_.ColumnAt(col).SpanRows = true;
+    return true;
+}
+
+void Spans::RemoveMergedRows(int col)
+{
+    for (int row = store_.FixedRows(); row <= store_.LastRowIndex(); ++row)
+        if (RowsCovered(row, col) > 1)
+            RemoveSpan(row, col);
+    store_.ColumnAt(col).SpanRows = false;
+}
+
+} // namespace vornix

@@ -6,6 +6,8 @@
 
 #include <cstdint>
 #include <limits>
+#include <new>
+#include <stdexcept>
 
 namespace vornix {
 
@@ -33,6 +35,51 @@ inline int CheckedIndex(int index, int count)
     if (index < 0 || index >= count)
         RaiseError(ErrorNumber::SubscriptOutOfRange);
     return index;
+}
+
+// Sums and products of the interface's integers; error 6 when the result does not fit.
+inline i16 AddI16(i16 a, i16 b)
+{
+    return ToI16(std::int64_t { a } + b);
+}
+inline i16 SubtractI16(i16 a, i16 b)
+{
+    return ToI16(std::int64_t { a } - b);
+}
+inline i16 MultiplyI16(i16 a, i16 b)
+{
+    return ToI16(std::int64_t { a } * b);
+}
+inline i32 AddI32(i32 a, i32 b)
+{
+    return ToI32(std::int64_t { a } + b);
+}
+inline i32 SubtractI32(i32 a, i32 b)
+{
+    return ToI32(std::int64_t { a } - b);
+}
+inline i32 MultiplyI32(i32 a, i32 b)
+{
+    return ToI32(std::int64_t { a } * b);
+}
+
+// A condition on an argument; error 5 when it does not hold.
+inline void CheckArgument(bool isValid)
+{
+    if (!isValid)
+        RaiseError(ErrorNumber::InvalidArgument);
+}
+
+// Runs a step that makes or widens an array; error 7 when there is no memory for it.
+template <typename Step> decltype(auto) CheckedAllocation(Step&& step)
+{
+    try {
+        return step();
+    } catch (const std::bad_alloc&) {
+        RaiseError(ErrorNumber::OutOfMemory);
+    } catch (const std::length_error&) {
+        RaiseError(ErrorNumber::OutOfMemory);
+    }
 }
 
 // To the nearest integer, ties to the even one: how floats become integers on the interface.

@@ -1,0 +1,140 @@
+#include "automation/text_conversions.h"
+
+#include "automation/checked.h"
+#include "automation/date_parser.h"
+#include "automation/numeric_parser.h"
+#include "automation/text_cursor.h"
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+
+namespace vornix {
+
+namespace {
+
+ParsedNumber ParseNumberOrRaise(std::u16string_view text, const Locale& locale)
+{
+    std::optional<ParsedNumber> number = ParseNumber(text, locale);
+    if (!number)
+        RaiseError(ErrorNumber::TypeMismatch);
+    return std::move(*number);
+}
+
+// Saturates far outside the range of a double.
+int ExponentOf(const std::string& digits)
+{
+    constexpr int farOut = 1'000'000'000;
+    const std::size_t mark = digits.find('e');
+    if (mark == std::string::npos)
+        return 0;
+    int exponent = 0;
+    const auto [rest, error] = std::from_chars(digits.data() + mark + 1, digits.data() + digits.size(), exponent);
+    if (error == std::errc::result_out_of_range)
+        return digits[mark + 1] == '-' ? -farOut : farOut;
+    return exponent;
+}
+
+// Of a number out of the range of a double: does it lie near zero? Otherwise it is too large.
+bool IsTiny(const std::string& digits)
+{
+    const std::size_t firstDigit = digits.find_first_of("123456789");
+    const std::size_t mark = std::min(digits.find('e'), digits.size());
+    if (firstDigit >= mark)
+        return true;
+    const auto point = static_cast<std::int64_t>(std::min(digits.find('.'), mark));
+    return point - static_cast<std::int64_t>(firstDigit) + ExponentOf(digits) <= 0;
+}
+
+double MagnitudeOf(const ParsedNumber& number)
+{
+    if (number.kind == ParsedNumber::Kind::Bits)
+        return static_cast<double>(number.bits);
+    double value = 0;
+    const char* end = number.digits.data() + number.digits.size();
+    const auto [rest, error] = std::from_chars(number.digits.data(), end, value);
+    if (error == std::errc::result_out_of_range) {
+        if (!IsTiny(number.digits))
+            RaiseError(ErrorNumber::Overflow);
+        value = 0;
+    }
+    return value;
+}
+
+double ValueOf(const ParsedNumber& number)
+{
+    const double magnitude = MagnitudeOf(number);
+    return number.isNegative ? -magnitude : magnitude;
+}
+
+// Hexadecimal and octal texts are bit patterns: they fill the type up to its sign.
+template <typename Signed, typename Unsigned> std::int64_t PatternOf(const ParsedNumber& number)
+{
+    if (number.bits > std::numeric_limits<Unsigned>::max())
+        RaiseError(ErrorNumber::Overflow);
+    const std::int64_t value = static_cast<Signed>(static_cast<Unsigned>(number.bits));
+    return number.isNegative ? -value : value;
+}
+
+} // namespace
+
+bool IsNumeric(std::u16string_view text, const Locale& locale)
+{
+    const std::optional<ParsedNumber> number = ParseNumber(text, locale);
+    if (!number)
+        return false;
+    try {
+        MagnitudeOf(*number);
+        return true;
+    } catch (const AutomationError&) {
+        return false;
+    }
+}
+
+bool IsDate(std::u16string_view text, const Locale& locale)
+{
+    return ParseDate(text, locale, CurrentYear()).has_value();
+}
+
+i16 TextToI2(std::u16string_view text, const Locale& locale)
+{
+    const ParsedNumber number = ParseNumberOrRaise(text, locale);
+    if (number.kind == ParsedNumber::Kind::Bits)
+        return ToI16(PatternOf<i16, u16>(number));
+    return RoundToI16(ValueOf(number));
+}
+
+i32 TextToI4(std::u16string_view text, const Locale& locale)
+{
+    const ParsedNumber number = ParseNumberOrRaise(text, locale);
+    if (number.kind == ParsedNumber::Kind::Bits)
+        return ToI32(PatternOf<i32, u32>(number));
+    return RoundToI32(ValueOf(number));
+}
+
+double TextToR8(std::u16string_view text, const Locale& locale)
+{
+    return ValueOf(ParseNumberOrRaise(text, locale));
+}
+
+bool TextToBool(std::u16string_view text, const Locale& locale)
+{
+    const LocaleWords& words = locale.Words();
+    for (const std::u16string_view word : { std::u16string_view(words.trueWord), { u"True" }, { u"#TRUE#" } })
+        if (EqualsNoCase(text, word, locale))
+            return true;
+    for (const std::u16string_view word : { std::u16string_view(words.falseWord), { u"False" }, { u"#FALSE#" } })
+        if (EqualsNoCase(text, word, locale))
+            return false;
+    return TextToR8(text, locale) != 0;
+}
+
+double TextToDate(std::u16string_view text, const Locale& locale)
+{
+    const std::optional<double> date = ParseDate(text, locale, CurrentYear());
+    if (!date)
+        RaiseError(ErrorNumber::TypeMismatch);
+    return *date;
+}
+
+} // namespace vornix

@@ -20,8 +20,15 @@ public:
     void SetSize(int width, int height);
     // False when there is no picture or no surface; a surface as it was is gone then.
     bool FillBackGround(Device& window);
+    // The surface at full brightness: white, without a look at the picture.
+    bool FillWhite(Device& window);
+    // Whether a surface as large as Width and Height exists at this device's scale.
+    bool IsBuiltFor(const Device& window) const;
 
 private:
+    std::unique_ptr<Surface> LightenedPicture(Device& window) const;
+    bool BuildSurface(Device& window);
+
     PicturePtr picture_;
     u32 blend_ = 0;
     std::unique_ptr<Surface> surface_;

@@ -1,0 +1,62 @@
+// Where the handle of the split lies, and when a split makes no sense any more.
+#include "render/paint_pipeline.h"
+
+#include <algorithm>
+
+namespace vornix {
+
+void PaintPipeline::PaintSplitBar()
+{
+    const LayoutEngine& layout = context_.layout;
+    if (layout.Settings.SplitCols >= 1 && layout.HBarHeight() != 0)
+        PlaceSplitHandleOverCells();
+    if (SplitMakesNoSense())
+        DropSplit();
+    if (layout.Settings.SplitCols == 0)
+        PlaceSplitHandleAtBar();
+}
+
+void PaintPipeline::PlaceSplitHandleOverCells()
+{
+    const LayoutEngine& layout = context_.layout;
+    const int lastFrozen = layout.FirstScrollCol() - 1;
+    ChildWindow& handle = context_.container.Child(ChildName::picSplitCol);
+    const int left = layout.CellOriginAt(0, lastFrozen).x + context_.store.WidthOf(lastFrozen) - 3;
+    const int top = layout.CaptionHeight();
+    const int height = std::min<int>(layout.ClientHeight() - top, layout.ClientHeight());
+    handle.Move({ left, top, left + handle.Place().Width(), top + height });
+}
+
+bool PaintPipeline::SplitMakesNoSense() const
+{
+    const LayoutEngine& layout = context_.layout;
+    const bool nothingSplit = layout.Settings.SplitCols >= 1 && layout.FrozenColsWidth() == layout.FixedColsWidth();
+    const bool outside = context_.container.Child(ChildName::picSplitCol).Place().left >= layout.ClientWidth();
+    return layout.HBarHeight() == 0 || nothingSplit || outside;
+}
+
+void PaintPipeline::DropSplit()
+{
+    LayoutEngine& layout = context_.layout;
+    const int fixedCols = context_.store.FixedCols();
+    layout.Settings.SplitCols = 0;
+    layout.SetFirstScrollCol(fixedCols);
+    context_.scroll.SetFirstCol(fixedCols);
+    layout.SetSmoothOffset(0);
+}
+
+// Without a split the handle waits at the left end of the horizontal bar.
+void PaintPipeline::PlaceSplitHandleAtBar()
+{
+    LayoutEngine& layout = context_.layout;
+    ChildWindow& handle = context_.container.Child(ChildName::picSplitCol);
+    const int width = handle.Place().Width();
+    const int clientWidth = layout.ClientWidth();
+    const int clientHeight = layout.ClientHeight();
+    handle.Move({ 0, clientHeight, width, clientHeight + layout.Settings.ScrollBarSize });
+    const int barTop = clientHeight - 1;
+    context_.container.Child(ChildName::scrH).Move({ width, barTop, clientWidth, barTop + layout.HBarHeight() + 1 });
+    layout.SetFrozenColsWidth(layout.FixedColsWidth());
+}
+
+} // namespace vornix

@@ -1,0 +1,81 @@
+#include "cell_content.h"
+
+#include "date_content.h"
+#include "number_content.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+namespace vornix::viewer {
+
+namespace {
+
+constexpr std::size_t LongestValue = 48;
+
+// Upper case ASCII with one kind of blank; anything else stays as it is.
+std::u16string Normalized(std::u16string_view text)
+{
+    const auto isBlank = [](char16_t unit) { return unit == ' ' || unit == 0xA0 || unit == 0x202F || unit == 0x2009; };
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back()))
+        text.remove_suffix(1);
+    if (text.size() > LongestValue)
+        return {};
+    std::u16string normalized(text);
+    for (char16_t& unit : normalized) {
+        if (isBlank(unit))
+            unit = u' ';
+        else if (unit >= u'a' && unit <= u'z')
+            unit = static_cast<char16_t>(unit - u'a' + u'A');
+        else if (unit == 0x2212) // the minus sign of typesetters
+            unit = u'-';
+    }
+    return normalized;
+}
+
+struct Word {
+    std::u16string_view text;
+    bool value;
+    Content content;
+};
+constexpr std::array Words {
+    Word { u"TRUE", true, WordTrueFalse },
+    Word { u"FALSE", false, WordTrueFalse },
+    Word { u"YES", true, WordYesNo },
+    Word { u"NO", false, WordYesNo },
+    Word { u"Y", true, LetterYesNo },
+    Word { u"N", false, LetterYesNo },
+    Word { u"T", true, LetterTrueFalse },
+    Word { u"F", false, LetterTrueFalse },
+    Word { u"1", true, 0 },
+    Word { u"0", false, 0 },
+};
+
+const Word* FindWord(std::u16string_view normalized)
+{
+    const auto* found
+        = std::find_if(Words.begin(), Words.end(), [&](const Word& word) { return word.text == normalized; });
+    return found == Words.end() ? nullptr : found;
+}
+
+} // namespace
+
+Content ContentOf(std::u16string_view text)
+{
+    const std::u16string value = Normalized(text);
+    if (value.empty())
+        return 0;
+    const Word* word = FindWord(value);
+    const Content truth = word ? word->content : 0;
+    return truth | NumberContentOf(value) | DateContentOf(value);
+}
+
+std::optional<bool> TruthValueOf(std::u16string_view text)
+{
+    const Word* word = FindWord(Normalized(text));
+    return word ? std::optional(word->value) : std::nullopt;
+}
+
+} // namespace vornix::viewer

@@ -1,0 +1,16 @@
+// Reads a text file of separated values.
+#pragma once
+
+#include "loading.h"
+#include "table.h"
+
+namespace vornix::viewer {
+
+class InputFile;
+
+// Finds out encoding, separator and header by looking, then reads the file to its end, so that every fault in it is
+// found and every row counted. Rows that differ in their number of fields are filled up or widen the table, and a
+// notice says so; when fewer than half of the rows agree on a number, the file is refused. Raises LoadError.
+Table ReadCsv(InputFile& file, const LoadLimits& limits, const ProgressFunction& progress);
+
+} // namespace vornix::viewer

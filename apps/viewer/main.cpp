@@ -1,0 +1,86 @@
+// vornix-view: shows a file of separated values or a table of a database.
+#include "open_source.h"
+#include "options.h"
+#include "progress_line.h"
+#include "report.h"
+#include "sample_path.h"
+#include "show.h"
+#include "text_output.h"
+
+#include <filesystem>
+#include <iostream>
+#include <new>
+#include <unistd.h>
+
+namespace {
+
+using namespace vornix::viewer;
+
+std::string FileName(const ViewerOptions& options)
+{
+    return std::filesystem::path(options.file).filename().string();
+}
+
+Table Load(const ViewerOptions& options)
+{
+    ProgressLine line(std::cerr, FileName(options));
+    ProgressFunction progress;
+    if (::isatty(STDERR_FILENO))
+        progress = [&](const Progress& state) { line.Update(state); };
+    return OpenSource(options, LoadLimits(), progress);
+}
+
+int List(const ViewerOptions& options)
+{
+    for (const SourceEntry& entry : ListSource(options))
+        std::cout << entry.kind << '\t' << entry.name << '\n';
+    return 0;
+}
+
+int LoadAndShow(const ViewerOptions& options)
+{
+    const Table table = Load(options);
+    for (const std::string& notice : table.Notices())
+        ReportLine(FileName(options) + ": " + notice);
+    if (options.action == ViewerAction::Show)
+        return ShowTable(table, options);
+    WriteAsText(table, std::cout);
+    return 0;
+}
+
+int Act(ViewerOptions& options)
+{
+    if (options.action == ViewerAction::Message) {
+        std::cout << options.message;
+        return 0;
+    }
+    if (options.file.empty())
+        options.file = SamplePath();
+    return options.action == ViewerAction::List ? List(options) : LoadAndShow(options);
+}
+
+int Run(int count, const char* const* arguments)
+{
+    ViewerOptions options;
+    try {
+        options = ParseOptions(count, arguments);
+        const int status = Act(options);
+        if (std::cout.flush())
+            return status;
+        ReportLine("standard output cannot be written");
+    } catch (const OptionsError& error) {
+        ReportLine(error.what());
+    } catch (const LoadError& error) {
+        ReportLine(options.file.empty() ? error.what() : options.file + ": " + error.what());
+    } catch (const std::bad_alloc&) {
+        ReportLine(options.file + ": it does not fit into memory");
+    }
+    return 1;
+}
+
+} // namespace
+
+int main(int count, char** arguments)
+{
+    return Run(count, arguments);
+}

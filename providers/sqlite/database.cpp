@@ -1,0 +1,196 @@
+#include "vornix/sqlite/database.h"
+
+#include "raise.h"
+
+#include <filesystem>
+
+namespace vornix::sqlite {
+
+namespace {
+
+constexpr std::string_view FileSignature("SQLite format 3\0", 16);
+constexpr int StepsBetweenProgress = 10000;
+
+// A name in a URI: everything that could end it or mean something else as %XX.
+std::string EscapedForUri(const std::string& path)
+{
+    constexpr std::string_view hexDigits = "0123456789ABCDEF";
+    std::string escaped;
+    for (const char c : path) {
+        if (c != '%' && c != '?' && c != '#') {
+            escaped += c;
+            continue;
+        }
+        escaped += '%';
+        escaped += hexDigits[static_cast<unsigned char>(c) >> 4];
+        escaped += hexDigits[static_cast<unsigned char>(c) & 15];
+    }
+    return escaped;
+}
+
+// A writer has left changes beside the file; only a connection that takes part in the locking can see them.
+bool HasPendingChanges(const std::string& path)
+{
+    std::error_code ignored;
+    const auto size = std::filesystem::file_size(path + "-wal", ignored);
+    return !ignored && size > 0;
+}
+
+char LowerCase(char c)
+{
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool SameName(std::string_view a, std::string_view b)
+{
+    if (a.size() != b.size())
+        return false;
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        if (LowerCase(a[i]) != LowerCase(b[i]))
+            return false;
+    }
+    return true;
+}
+
+int ReportProgress(void* context)
+{
+    const auto& progress = *static_cast<const ProgressFunction*>(context);
+    return progress && !progress() ? 1 : 0;
+}
+
+sqlite3_stmt* Prepare(sqlite3* connection, std::string_view sql, std::string_view* rest = nullptr)
+{
+    sqlite3_stmt* statement = nullptr;
+    const char* tail = nullptr;
+    const int result = sqlite3_prepare_v2(connection, sql.data(), static_cast<int>(sql.size()), &statement, &tail);
+    if (result != SQLITE_OK)
+        throw ErrorOf(connection, result);
+    if (rest)
+        *rest = sql.substr(static_cast<std::size_t>(tail - sql.data()));
+    return statement;
+}
+
+} // namespace
+
+bool IsDatabaseHeader(std::string_view firstBytes)
+{
+    return firstBytes.starts_with(FileSignature);
+}
+
+std::string QuotedName(std::string_view name)
+{
+    std::string quoted = "\"";
+    for (const char c : name) {
+        quoted += c;
+        if (c == '"')
+            quoted += c;
+    }
+    return quoted + '"';
+}
+
+void Database::Closer::operator()(sqlite3* connection) const
+{
+    sqlite3_close_v2(connection);
+}
+
+Database::Database(const std::string& path, std::chrono::milliseconds patience)
+    : progress_(std::make_unique<ProgressFunction>())
+{
+    try {
+        Open(path, false, patience);
+    } catch (const Error& error) {
+        // A write-ahead database in a folder that cannot be written has no place for its lock file.
+        std::error_code ignored;
+        const bool isFile = std::filesystem::is_regular_file(path, ignored);
+        if (error.Kind() != ErrorKind::CannotOpen || !isFile || HasPendingChanges(path))
+            throw;
+        Open(path, true, patience);
+    }
+}
+
+Database::~Database() = default;
+
+void Database::Open(const std::string& path, bool immutable, std::chrono::milliseconds patience)
+{
+    // As a URI with an absolute path, so that no name can be taken for an option or for a database in memory.
+    const std::string absolute = std::filesystem::absolute(path).string();
+    const std::string uri = "file://" + EscapedForUri(absolute) + (immutable ? "?immutable=1" : "");
+    sqlite3* connection = nullptr;
+    const int result = sqlite3_open_v2(uri.c_str(), &connection, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, nullptr);
+    connection_.reset(connection);
+    if (result != SQLITE_OK)
+        throw ErrorOf(connection, result);
+    sqlite3_extended_result_codes(connection, 1);
+    sqlite3_busy_timeout(connection, static_cast<int>(patience.count()));
+    sqlite3_db_config(connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+    sqlite3_progress_handler(connection, StepsBetweenProgress, ReportProgress, progress_.get());
+    ProbeHeader();
+}
+
+// Opening reads nothing yet; the first read finds out what the file is.
+void Database::ProbeHeader() const
+{
+    Statement statement(connection_.get(), Prepare(connection_.get(), "SELECT count(*) FROM sqlite_schema"));
+    statement.Next();
+}
+
+void Database::SetProgress(ProgressFunction progress)
+{
+    *progress_ = std::move(progress);
+}
+
+std::vector<TableInfo> Database::Tables() const
+{
+    Statement statement(connection_.get(),
+        Prepare(connection_.get(),
+            "SELECT name, type FROM sqlite_schema WHERE type IN ('table', 'view')"
+            " AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\' ORDER BY rowid"));
+    std::vector<TableInfo> tables;
+    while (statement.Next()) {
+        sqlite3_stmt* row = statement.statement_.get();
+        const auto text = [&](int column) { return reinterpret_cast<const char*>(sqlite3_column_text(row, column)); };
+        if (const char* name = text(0))
+            tables.push_back({ name, std::string_view(text(1)) == "view" });
+    }
+    return tables;
+}
+
+TableInfo Database::FindTable(std::string_view name) const
+{
+    for (const TableInfo& table : Tables()) {
+        if (SameName(table.name, name))
+            return table;
+    }
+    throw Error(ErrorKind::Sql, "the database has no table or view named " + std::string(name));
+}
+
+Statement Database::ReadTable(std::string_view name) const
+{
+    return ReadQuery("SELECT * FROM " + QuotedName(name));
+}
+
+Statement Database::ReadQuery(std::string_view sql) const
+{
+    std::string_view rest;
+    Statement statement(connection_.get(), Prepare(connection_.get(), sql, &rest));
+    if (!statement.statement_)
+        throw Error(ErrorKind::NotAQuery, "the query is empty");
+    const Statement second(connection_.get(), Prepare(connection_.get(), rest));
+    if (second.statement_)
+        throw Error(ErrorKind::NotAQuery, "the query is more than one statement");
+    if (statement.ColumnCount() == 0)
+        throw Error(ErrorKind::NotAQuery, "the query returns no columns");
+    if (!sqlite3_stmt_readonly(statement.statement_.get()))
+        throw Error(ErrorKind::NotAQuery, "the query would change the database, which is opened for reading only");
+    return statement;
+}
+
+std::uint64_t Database::CountRows(std::string_view name) const
+{
+    Statement statement = ReadQuery("SELECT count(*) FROM " + QuotedName(name));
+    statement.Next();
+    return static_cast<std::uint64_t>(statement.Integer(0));
+}
+
+} // namespace vornix::sqlite

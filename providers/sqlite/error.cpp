@@ -1,0 +1,72 @@
+#include "vornix/sqlite/error.h"
+
+#include "raise.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+namespace vornix::sqlite {
+
+namespace {
+
+std::string OneLine(std::string text)
+{
+    std::replace_if(
+        text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
+    return text;
+}
+
+std::string EngineMessage(sqlite3* connection, int resultCode)
+{
+    return connection ? sqlite3_errmsg(connection) : sqlite3_errstr(resultCode);
+}
+
+Error OpenError(sqlite3* connection)
+{
+    const int systemError = connection ? sqlite3_system_errno(connection) : 0;
+    if (systemError != 0)
+        return { ErrorKind::CannotOpen, std::strerror(systemError) };
+    return { ErrorKind::CannotOpen, "the database cannot be opened" };
+}
+
+} // namespace
+
+Error::Error(ErrorKind kind, const std::string& message)
+    : std::runtime_error(OneLine(message))
+    , kind_(kind)
+{
+}
+
+Error ErrorOf(sqlite3* connection, int resultCode)
+{
+    const std::string message = EngineMessage(connection, resultCode);
+    switch (resultCode & 0xFF) {
+    case SQLITE_CANTOPEN:
+    case SQLITE_PERM:
+    case SQLITE_AUTH:
+        return OpenError(connection);
+    case SQLITE_NOTADB:
+        return { ErrorKind::NotADatabase, "this is not a SQLite database (or an encrypted one)" };
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+    case SQLITE_PROTOCOL:
+        return { ErrorKind::InUse, "the database is in use: another program has locked it" };
+    case SQLITE_READONLY:
+        return { ErrorKind::InUse,
+            "the database was left in the middle of a change; a program that may write to it must open it first" };
+    case SQLITE_CORRUPT:
+    case SQLITE_IOERR:
+        return { ErrorKind::Damaged, "the database is damaged (" + message + ")" };
+    case SQLITE_TOOBIG:
+        return { ErrorKind::TooLong, "a value of the database is too long" };
+    case SQLITE_INTERRUPT:
+        return { ErrorKind::Stopped, "reading was stopped" };
+    case SQLITE_ERROR:
+        return { ErrorKind::Sql, "SQL error: " + message };
+    default:
+        return { ErrorKind::Other, message };
+    }
+}
+
+} // namespace vornix::sqlite

@@ -1,0 +1,65 @@
+// A SQLite database opened for reading only.
+#pragma once
+
+#include "vornix/sqlite/error.h"
+#include "vornix/sqlite/statement.h"
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vornix::sqlite {
+
+// Called every few thousand steps of the database engine; false stops the query with ErrorKind::Stopped.
+using ProgressFunction = std::function<bool()>;
+
+struct TableInfo {
+    std::string name; // UTF-8
+    bool isView = false;
+};
+
+// True when these first bytes of a file are those of a SQLite database.
+bool IsDatabaseHeader(std::string_view firstBytes);
+
+// A name as it stands in a statement: in double quotes, inner ones doubled.
+std::string QuotedName(std::string_view name);
+
+// Every member raises Error. Nothing is ever written to the file.
+class Database {
+public:
+    // Waits up to `patience` for a lock of another program to go away. A file that another program is not using
+    // and whose folder cannot be written opens all the same.
+    explicit Database(const std::string& path, std::chrono::milliseconds patience = std::chrono::milliseconds(1000));
+    ~Database();
+    Database(const Database&) = delete;
+    Database& operator=(const Database&) = delete;
+
+    void SetProgress(ProgressFunction progress);
+
+    // Tables and views in the order of their creation, without the engine's own.
+    std::vector<TableInfo> Tables() const;
+    // The table or view of this name, in any case (of ASCII letters), or an Error that says there is none.
+    TableInfo FindTable(std::string_view name) const;
+
+    Statement ReadTable(std::string_view name) const;
+    // A single statement that reads and gives at least one column; anything else is ErrorKind::NotAQuery.
+    Statement ReadQuery(std::string_view sql) const;
+    std::uint64_t CountRows(std::string_view name) const;
+
+private:
+    struct Closer {
+        void operator()(sqlite3* connection) const;
+    };
+
+    void Open(const std::string& path, bool immutable, std::chrono::milliseconds patience);
+    void ProbeHeader() const;
+
+    std::unique_ptr<ProgressFunction> progress_; // at a fixed address: the engine keeps a pointer to it
+    std::unique_ptr<sqlite3, Closer> connection_;
+};
+
+} // namespace vornix::sqlite

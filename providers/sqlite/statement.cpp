@@ -1,0 +1,81 @@
+#include "vornix/sqlite/statement.h"
+
+#include "raise.h"
+
+namespace vornix::sqlite {
+
+void Statement::Finalizer::operator()(sqlite3_stmt* statement) const
+{
+    sqlite3_finalize(statement);
+}
+
+Statement::Statement(sqlite3* connection, sqlite3_stmt* statement)
+    : connection_(connection)
+    , statement_(statement)
+    , columnCount_(sqlite3_column_count(statement))
+{
+}
+
+std::u16string Statement::ColumnName(int column) const
+{
+    const auto* name = static_cast<const char16_t*>(sqlite3_column_name16(statement_.get(), column));
+    return name ? std::u16string(name) : std::u16string();
+}
+
+std::string Statement::DeclaredType(int column) const
+{
+    const char* type = sqlite3_column_decltype(statement_.get(), column);
+    return type ? type : "";
+}
+
+bool Statement::Next()
+{
+    const int result = sqlite3_step(statement_.get());
+    if (result == SQLITE_ROW)
+        return true;
+    if (result == SQLITE_DONE)
+        return false;
+    throw ErrorOf(connection_, result);
+}
+
+ValueType Statement::Type(int column) const
+{
+    switch (sqlite3_column_type(statement_.get(), column)) {
+    case SQLITE_INTEGER:
+        return ValueType::Integer;
+    case SQLITE_FLOAT:
+        return ValueType::Real;
+    case SQLITE_TEXT:
+        return ValueType::Text;
+    case SQLITE_BLOB:
+        return ValueType::Blob;
+    default:
+        return ValueType::Null;
+    }
+}
+
+std::int64_t Statement::Integer(int column) const
+{
+    return sqlite3_column_int64(statement_.get(), column);
+}
+
+double Statement::Real(int column) const
+{
+    return sqlite3_column_double(statement_.get(), column);
+}
+
+std::size_t Statement::ByteCount(int column) const
+{
+    return static_cast<std::size_t>(sqlite3_column_bytes(statement_.get(), column));
+}
+
+std::u16string_view Statement::Text(int column) const
+{
+    const auto* text = static_cast<const char16_t*>(sqlite3_column_text16(statement_.get(), column));
+    const auto bytes = static_cast<std::size_t>(sqlite3_column_bytes16(statement_.get(), column));
+    if (!text && sqlite3_column_type(statement_.get(), column) != SQLITE_NULL)
+        throw Error(ErrorKind::TooLong, "a text of the database is too long");
+    return text ? std::u16string_view(text, bytes / sizeof(char16_t)) : std::u16string_view();
+}
+
+} // namespace vornix::sqlite

@@ -136,7 +136,7 @@ HitResult LayoutEngine::HitTestCell(int x, int y) const
 int LayoutEngine::NextVisibleCol(int col) const
 {
     for (int next = col; next <= store_.LastColIndex(); ++next)
-        if (store_.ColumnAt(next).Width != 0)
+        if (store_.WidthOf(next) != 0)
             return next;
     return col;
 }
@@ -144,7 +144,7 @@ int LayoutEngine::NextVisibleCol(int col) const
 int LayoutEngine::NextVisibleRow(int row) const
 {
     for (int next = row; next <= store_.LastRowIndex(); ++next)
-        if (store_.RowAt(next).Height != 0)
+        if (store_.HeightOf(next) != 0)
             return next;
     return row;
 }
@@ -152,13 +152,13 @@ int LayoutEngine::NextVisibleRow(int row) const
 int LayoutEngine::FirstColForLast(int last) const
 {
     return FirstForLast(
-        last, firstScrollCol_, frozenColsWidth_, clientWidth_, [this](int col) { return store_.ColumnAt(col).Width; });
+        last, firstScrollCol_, frozenColsWidth_, clientWidth_, [this](int col) { return store_.WidthOf(col); });
 }
 
 int LayoutEngine::FirstRowForLast(int last) const
 {
-    return FirstForLast(last, store_.FixedRows(), fixedRowsHeight_, clientHeight_,
-        [this](int row) { return store_.RowAt(row).Height; });
+    return FirstForLast(
+        last, store_.FixedRows(), fixedRowsHeight_, clientHeight_, [this](int row) { return store_.HeightOf(row); });
 }
 
 bool LayoutEngine::IsVisibleRow(int row) const

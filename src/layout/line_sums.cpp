@@ -8,12 +8,12 @@ namespace {
 
 auto HeightsOf(const GridStore& store)
 {
-    return [&store](int row) { return store.RowAt(row).Height; };
+    return [&store](int row) { return store.HeightOf(row); };
 }
 
 auto WidthsOf(const GridStore& store)
 {
-    return [&store](int col) { return store.ColumnAt(col).Width; };
+    return [&store](int col) { return store.WidthOf(col); };
 }
 
 template <class SizeOf> i16 Add(int start, int first, int last, SizeOf sizeOf)

@@ -131,6 +131,18 @@ TEST(PercentWidths, HiddenPlainColumnsTakeNoRoom)
     EXPECT_EQ(table.Widths(), (W { 200, 0 }));
 }
 
+TEST(PercentWidths, AColumnMarkedHiddenTakesNoRoomWhateverItsWidth)
+{
+    Table table(0, 1, 0, 2);
+    table.layout.SetColWidthPercent(0, 100);
+    table.store.ColumnAt(1).Hidden = true; // as on a column that was made anew while hidden
+    table.Widths({ 0, 50 });
+    table.NoBars();
+    table.Window(200, 100);
+    table.Layout(true);
+    EXPECT_EQ(table.Widths(), (W { 200, 50 }));
+}
+
 TEST(PercentWidths, NoRoomGivesWidthZero)
 {
     Table table(0, 1, 0, 3);

@@ -57,6 +57,7 @@ TEST(LineSums, RoomStopsBehindTheLineThatIsTooMuch)
     EXPECT_EQ(sums.RoomAfterRows(20, 0, 1), 0);
     EXPECT_EQ(sums.RoomAfterRows(25, 0, 3), 5 - 32767); // the last row is not reached
     EXPECT_EQ(sums.RoomAfterCols(15, 0, 2), -5);
+    EXPECT_EQ(sums.RoomAfterCols(20, 0, 2), -10); // an area filled to the pixel does not stop the walk
     EXPECT_EQ(sums.RoomAfterCols(15, 3, 2), 15);
     EXPECT_EQ(ErrorOf([&] { sums.RoomAfterRows(-2, 2, 3); }), ErrorNumber::Overflow);
 }

@@ -66,10 +66,17 @@ std::span<const Reading> ReadingsBesideMonth(std::size_t count)
     return {};
 }
 
+std::u16string_view WithoutTrailingBlanks(std::u16string_view text)
+{
+    while (!text.empty() && TextCursor::IsBlank(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+
 class DateParser {
 public:
     DateParser(std::u16string_view text, const Locale& locale, int currentYear)
-        : cursor_(text)
+        : cursor_(WithoutTrailingBlanks(text))
         , locale_(locale)
         , symbols_(locale.Dates())
         , currentYear_(currentYear)
@@ -113,8 +120,6 @@ private:
     {
         separator_ = NoSeparator;
         const bool hasBlank = cursor_.SkipBlanks();
-        if (cursor_.AtEnd())
-            return true;
         const char16_t unit = cursor_.Peek();
         if (cursor_.TakeWord(symbols_.dateSeparator) || cursor_.Take(u'/') || cursor_.Take(u'-')
             || cursor_.Take(u',')) {

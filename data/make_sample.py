@@ -12,7 +12,8 @@ import sqlite3
 import sys
 
 from sample_texts import (CATEGORIES, CUSTOMER_NOTES, EMPLOYEES, NOTES_BY_LANGUAGE, ORDER_REMARKS, PLACES, PRODUCTS,
-                          SELLER_OF_LANGUAGE, SUPPLIER_NAMES, SUPPLIER_NOTES)
+                          SELLER_OF_LANGUAGE, SUPPLIER_NAMES, SUPPLIER_NOTES,
+                          SUPPLIERS_OF_CATEGORY)
 
 FIRST_DAY = datetime.date(2023, 7, 3)
 LAST_DAY = datetime.date(2025, 6, 30)
@@ -188,12 +189,13 @@ def make_customer(dice, place, family, kind):
     city, country, prefix = dice.pick(place["cities"])
     since = datetime.date(2014, 1, 1) + datetime.timedelta(days=dice.below(3450))
     contact = place["order"].format(given=dice.pick(place["given"]), family=family)
+    phone = f"{prefix} {dice.between(20, 899)} {dice.between(1000, 9999)} {dice.between(10, 99)}"
     mail = f"{dice.pick(['office', 'orders', 'hello', 'info', 'kitchen'])}@shop{dice.between(100, 999)}.example"
     return (
         kind.format(family),
         contact if dice.happens(0.9) else None,
         mail if dice.happens(0.85) else None,
-        f"{prefix} {dice.between(20, 899)} {dice.between(1000, 9999)} {dice.between(10, 99)}" if dice.happens(0.8) else None,
+        phone if dice.happens(0.8) else None,
         place["street"].format(dice.pick(place["streets"]), dice.between(1, 180)),
         f"{dice.between(1000, 99999):05d}" if dice.happens(0.92) else None,
         city,
@@ -216,12 +218,12 @@ def make_suppliers(dice):
     return suppliers
 
 
-def make_products(dice, supplier_count):
+def make_products(dice):
     products = []
     for category, (_, names, units, (low, high)) in enumerate(PRODUCTS, start=1):
         for name in names:
             base = dice.between(low, high)
-            supplier = dice.between(1, supplier_count)
+            supplier = dice.pick(SUPPLIERS_OF_CATEGORY[category - 1])
             for unit, factor in units:
                 number = len(products) + 1
                 price = max(95, int(base * factor) // 50 * 50 - 5)
@@ -239,7 +241,7 @@ def make_employees(dice):
     for number, (name, job, boss) in enumerate(EMPLOYEES, start=1):
         hired = datetime.date(2012, 2, 1) + datetime.timedelta(days=dice.below(3700))
         left = LAST_DAY - datetime.timedelta(days=dice.between(15, 300)) if number in (9, 14) else None
-        salary = 3_400_000 + dice.below(180) * 10_000 + (2_500_000 if boss in (None, 1) else 0)
+        salary = 3_400_000 + dice.below(180) * 10_000 + {None: 5_200_000, 1: 2_500_000}.get(boss, 0)
         employees.append((number, name, job, boss, hired.isoformat(), left and left.isoformat(), money(salary),
                           int(dice.happens(0.8))))
     return employees
@@ -272,7 +274,8 @@ def make_order_dates(dice):
 def make_lines(dice, order_id, products, customer_discount):
     lines = []
     cents = 0
-    for line_no, product in enumerate(dice.shuffled(range(len(products)))[:dice.pick([1, 2, 2, 3, 3, 3, 4, 5, 6])], start=1):
+    chosen = dice.shuffled(range(len(products)))[:dice.pick([1, 2, 2, 3, 3, 3, 4, 5, 6])]
+    for line_no, product in enumerate(chosen, start=1):
         price = round(products[product][7] * 100)
         quantity = dice.pick([1, 2, 2, 3, 4, 5, 6, 8, 10, 12, 12, 20, 24])
         discount = customer_discount if dice.happens(0.6) else 0
@@ -305,8 +308,8 @@ def make_orders(dice, customers, products):
         shipped = min(ordered + datetime.timedelta(days=dice.between(1, 4)), LAST_DAY) if is_sent else None
         paid = status != "cancelled" and dice.happens(0.93 if (LAST_DAY - ordered).days > 30 else 0.6)
         remark = dice.pick(ORDER_REMARKS["*"] + 4 * ORDER_REMARKS.get(language, [])) if dice.happens(0.35) else None
-        orders.append((order_id, customer[0], SELLER_OF_LANGUAGE[language], ordered.isoformat(), shipped and shipped.isoformat(),
-                       status, sum(line[3] for line in order_lines), money(cents), int(paid), remark))
+        orders.append((order_id, customer[0], SELLER_OF_LANGUAGE[language], ordered.isoformat(),
+                       shipped and shipped.isoformat(), status, sum(line[3] for line in order_lines), money(cents), int(paid), remark))
         lines += order_lines
         if paid:
             payments += payment_rows(dice, order_id, ordered, cents, len(payments) + 1)
@@ -337,7 +340,7 @@ def make(path):
     connection.executescript("PRAGMA page_size = 4096;" + SCHEMA)
     customers = make_customers(dice)
     suppliers = make_suppliers(dice)
-    products = make_products(dice, len(suppliers))
+    products = make_products(dice)
     employees = make_employees(dice)
     orders, lines, payments = make_orders(dice, customers, products)
     fill(connection, "customers", customers)

@@ -48,7 +48,8 @@ PLACES = [
           ["Dvořáček", "Novotník", "Říhovský", "Žižlavský", "Čapková", "Šťastný"],
           ["Čajovna {0}", "Pražírna {0}", "Koloniál {0} a synové", "Kavárna U {0}"],
           ["Nádražní", "Květná", "Pod Kaštany", "Zámecké náměstí"]),
-    place("Turkish", [("İzmir", "Türkiye", "+90"), ("Eskişehir", "Türkiye", "+90"), ("Diyarbakır", "Türkiye", "+90")],
+    place("Turkish", [("İzmir", "Türkiye", "+90"), ("Eskişehir", "Türkiye", "+90"),
+                      ("Diyarbakır", "Türkiye", "+90")],
           ["Gülşah", "Çağrı", "İrem", "Oğuz", "Şükrü", "Işıl"],
           ["Yıldızer", "Çelikbaş", "Gündoğdu", "Özışık", "Karabağlı", "Şahinöz"],
           ["{0} Çay Evi", "{0} Kuruyemiş", "{0} ve Oğulları", "Kahveci {0}"],
@@ -289,3 +290,9 @@ SELLER_OF_LANGUAGE = {
     "Czech": 7, "Nordic": 7, "Ukrainian": 7, "Bulgarian": 10, "Turkish": 8, "Arabic": 8, "Hebrew": 8, "Hindi": 6,
     "Thai": 6, "Vietnamese": 6, "Chinese": 11, "Japanese": 11, "Korean": 11,
 }
+
+# Which of SUPPLIER_NAMES (from 1) deliver a category (from 1).
+SUPPLIERS_OF_CATEGORY = [
+    (1, 2, 4, 20), (3, 5, 7, 23), (4, 8, 22), (1, 13, 15, 18), (9, 10, 11, 12), (14, 15, 20, 21), (13, 14, 16), (13, 16),
+    (17, 18, 19), (6, 24, 25), (16, 26), (3, 25),
+]

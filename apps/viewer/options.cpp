@@ -56,75 +56,102 @@ void CheckPictureSize(const ViewerOptions& options)
         throw OptionsError("the size times the scale gives a picture of more than 256 million pixels");
 }
 
-// The parser's own messages, in one line and with a capital at no surprising place.
-std::string ParserMessage(const CLI::ParseError& error)
-{
-    std::string message = OneLine(error.what());
-    while (message.ends_with(' '))
-        message.pop_back();
-    return message + " (see --help)";
-}
+// The options as the parser sees them, and what they mean together.
+class CommandLine {
+public:
+    CommandLine()
+    {
+        file_ = Add("FILE", "FILE", "the file to show; without one the sample database is shown");
+        table_ = Add("--table", "NAME", "the table or view of the database to show, instead of the first");
+        query_ = Add("--query", "SQL", "the query whose result to show");
+        snapshot_ = Add("--snapshot", "OUT.png", "write a picture to this file instead of opening a window");
+        size_ = Add("--size", "WxH", "width and height in logical pixels, 1280x800 unless given");
+        scale_ = Add("--scale", "S", "device pixels for each logical pixel, from 1 to 4");
+        list_ = AddFlag("--list", "list the tables and views, and do nothing else");
+        text_ = AddFlag("--text", "write the table as tab separated values, and do nothing else");
+        parser_.set_version_flag("--version", "vornix-view " VORNIX_VERSION, "show the version and exit");
+        parser_.set_help_flag("-h,--help", "show this help and exit");
+        query_->excludes(table_);
+        list_->excludes(table_)->excludes(query_)->excludes(snapshot_)->excludes(text_);
+        text_->excludes(snapshot_);
+    }
+
+    ViewerOptions Parse(int count, const char* const* arguments)
+    {
+        ViewerOptions options;
+        options.action = ViewerAction::Message;
+        try {
+            parser_.parse(count, arguments);
+            return Collect();
+        } catch (const CLI::CallForHelp&) {
+            options.message = parser_.help();
+        } catch (const CLI::CallForVersion& version) {
+            options.message = std::string(version.what()) + '\n';
+        } catch (const CLI::ParseError& error) {
+            throw OptionsError(OneLine(error.what()) + " (see --help)");
+        }
+        return options;
+    }
+
+private:
+    CLI::Option* Add(const std::string& name, const std::string& value, const std::string& description)
+    {
+        return parser_.add_option(name, description)
+            ->expected(1)
+            ->type_name("value")
+            ->option_text(name == value ? " " : value);
+    }
+
+    CLI::Option* AddFlag(const std::string& name, const std::string& description)
+    {
+        return parser_.add_flag(name)->description(description)->option_text(" ");
+    }
+
+    static std::optional<std::string> ValueOf(const CLI::Option* option)
+    {
+        if (option->count() == 0)
+            return {};
+        const std::string value = option->as<std::string>();
+        if (value.empty())
+            throw OptionsError(option->get_name() + " is empty");
+        return value;
+    }
+
+    ViewerOptions Collect() const
+    {
+        ViewerOptions options;
+        options.file = ValueOf(file_).value_or("");
+        options.table = ValueOf(table_);
+        options.query = ValueOf(query_);
+        options.snapshot = ValueOf(snapshot_);
+        if (const auto size = ValueOf(size_))
+            SetSize(options, *size);
+        if (const auto scale = ValueOf(scale_))
+            SetScale(options, *scale);
+        CheckPictureSize(options);
+        if (list_->count() > 0)
+            options.action = ViewerAction::List;
+        if (text_->count() > 0)
+            options.action = ViewerAction::Text;
+        return options;
+    }
+
+    CLI::App parser_ { "Shows a file of separated values (CSV, TSV) or a table of a SQLite database.", "vornix-view" };
+    CLI::Option* file_ = nullptr;
+    CLI::Option* table_ = nullptr;
+    CLI::Option* query_ = nullptr;
+    CLI::Option* snapshot_ = nullptr;
+    CLI::Option* size_ = nullptr;
+    CLI::Option* scale_ = nullptr;
+    CLI::Option* list_ = nullptr;
+    CLI::Option* text_ = nullptr;
+};
 
 } // namespace
 
 ViewerOptions ParseOptions(int count, const char* const* arguments)
 {
-    ViewerOptions options;
-    CLI::App parser("Shows a file of separated values (CSV, TSV) or a table of a SQLite database.", "vornix-view");
-    std::string size;
-    std::string scale;
-    std::string table;
-    std::string query;
-    std::string snapshot;
-    bool list = false;
-    bool text = false;
-    parser.add_option("FILE", options.file, "the file to show; without one the sample database is shown");
-    auto* const tableOption
-        = parser.add_option("--table", table, "the table or view of the database to show, instead of the first");
-    auto* const queryOption
-        = parser.add_option("--query", query, "the query whose result to show")->excludes(tableOption);
-    auto* const snapshotOption
-        = parser.add_option("--snapshot", snapshot, "write a picture to this PNG file instead of opening a window");
-    auto* const sizeOption
-        = parser.add_option("--size", size, "width and height in logical pixels, 1280x800 unless given");
-    auto* const scaleOption = parser.add_option("--scale", scale, "device pixels for each logical pixel, from 1 to 4");
-    auto* const listFlag = parser.add_flag("--list", list, "list the tables and views, and do nothing else");
-    auto* const textFlag
-        = parser.add_flag("--text", text, "write the table to standard output as tab separated values");
-    listFlag->excludes(tableOption)->excludes(queryOption)->excludes(snapshotOption)->excludes(textFlag);
-    textFlag->excludes(snapshotOption);
-    parser.set_version_flag("--version", "vornix-view " VORNIX_VERSION);
-
-    try {
-        parser.parse(count, arguments);
-    } catch (const CLI::CallForHelp&) {
-        options.message = parser.help();
-    } catch (const CLI::CallForVersion& version) {
-        options.message = std::string(version.what()) + '\n';
-    } catch (const CLI::ParseError& error) {
-        throw OptionsError(ParserMessage(error));
-    }
-    if (!options.message.empty()) {
-        options.action = ViewerAction::Message;
-        return options;
-    }
-
-    const auto given = [](const CLI::Option* option, const std::string& value) {
-        return option->count() > 0 ? std::optional(value) : std::nullopt;
-    };
-    options.table = given(tableOption, table);
-    options.query = given(queryOption, query);
-    options.snapshot = given(snapshotOption, snapshot);
-    if (sizeOption->count() > 0)
-        SetSize(options, size);
-    if (scaleOption->count() > 0)
-        SetScale(options, scale);
-    CheckPictureSize(options);
-    if (listFlag->count() > 0)
-        options.action = ViewerAction::List;
-    if (textFlag->count() > 0)
-        options.action = ViewerAction::Text;
-    return options;
+    return CommandLine().Parse(count, arguments);
 }
 
 } // namespace vornix::viewer

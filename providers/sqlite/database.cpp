@@ -125,14 +125,22 @@ void Database::Open(const std::string& path, bool immutable, std::chrono::millis
     sqlite3_db_config(connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_db_config(connection, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
     sqlite3_progress_handler(connection, StepsBetweenProgress, ReportProgress, progress_.get());
-    ProbeHeader();
+    Probe(path);
 }
 
 // Opening reads nothing yet; the first read finds out what the file is.
-void Database::ProbeHeader() const
+void Database::Probe(const std::string& path) const
 {
-    Statement statement(connection_.get(), Prepare(connection_.get(), "SELECT count(*) FROM sqlite_schema"));
-    statement.Next();
+    Statement firstRead(connection_.get(), Prepare(connection_.get(), "SELECT count(*) FROM sqlite_schema"));
+    firstRead.Next();
+    // While that statement has not ended its read lock stands, so no writer can be halfway through a page. The engine
+    // itself reads what is missing of a last page as zeros.
+    Statement pageSize(connection_.get(), Prepare(connection_.get(), "PRAGMA page_size"));
+    std::error_code ignored;
+    const auto size = std::filesystem::file_size(path, ignored);
+    if (!ignored && !HasPendingChanges(path) && pageSize.Next()
+        && size % static_cast<std::uintmax_t>(pageSize.Integer(0)) != 0)
+        throw Error(ErrorKind::Damaged, "the database is damaged (its last page is cut short)");
 }
 
 void Database::SetProgress(ProgressFunction progress)

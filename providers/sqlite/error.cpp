@@ -3,7 +3,6 @@
 #include "raise.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cstring>
 
 namespace vornix::sqlite {
@@ -22,12 +21,11 @@ std::string EngineMessage(sqlite3* connection, int resultCode)
     return connection ? sqlite3_errmsg(connection) : sqlite3_errstr(resultCode);
 }
 
-Error OpenError(sqlite3* connection)
+// The operating system's reason where it gave one.
+Error SystemError(sqlite3* connection, const Error& otherwise)
 {
     const int systemError = connection ? sqlite3_system_errno(connection) : 0;
-    if (systemError != 0)
-        return { ErrorKind::CannotOpen, std::strerror(systemError) };
-    return { ErrorKind::CannotOpen, "the database cannot be opened" };
+    return systemError != 0 ? Error(ErrorKind::CannotOpen, std::strerror(systemError)) : otherwise;
 }
 
 } // namespace
@@ -45,7 +43,7 @@ Error ErrorOf(sqlite3* connection, int resultCode)
     case SQLITE_CANTOPEN:
     case SQLITE_PERM:
     case SQLITE_AUTH:
-        return OpenError(connection);
+        return SystemError(connection, { ErrorKind::CannotOpen, "the database cannot be opened" });
     case SQLITE_NOTADB:
         return { ErrorKind::NotADatabase, "this is not a SQLite database (or an encrypted one)" };
     case SQLITE_BUSY:
@@ -56,8 +54,9 @@ Error ErrorOf(sqlite3* connection, int resultCode)
         return { ErrorKind::InUse,
             "the database was left in the middle of a change; a program that may write to it must open it first" };
     case SQLITE_CORRUPT:
-    case SQLITE_IOERR:
         return { ErrorKind::Damaged, "the database is damaged (" + message + ")" };
+    case SQLITE_IOERR:
+        return SystemError(connection, { ErrorKind::Damaged, "the database is damaged (" + message + ")" });
     case SQLITE_TOOBIG:
         return { ErrorKind::TooLong, "a value of the database is too long" };
     case SQLITE_INTERRUPT:

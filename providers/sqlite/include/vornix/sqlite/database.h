@@ -56,7 +56,7 @@ private:
     };
 
     void Open(const std::string& path, bool immutable, std::chrono::milliseconds patience);
-    void ProbeHeader() const;
+    void Probe(const std::string& path) const;
 
     std::unique_ptr<ProgressFunction> progress_; // at a fixed address: the engine keeps a pointer to it
     std::unique_ptr<sqlite3, Closer> connection_;

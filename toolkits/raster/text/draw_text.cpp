@@ -1,0 +1,61 @@
+#include "line_layout.h"
+#include "line_painter.h"
+#include "text_engine.h"
+#include "text_renderer.h"
+
+#include <algorithm>
+
+namespace vornix {
+
+namespace {
+
+class NoLines : public LineSink {
+public:
+    bool Wants(int, int) override { return false; }
+    void Take(const PlacedLine&) override { }
+};
+
+Rect ClipFor(const PixelView& view, const Rect& rect, u32 format)
+{
+    // With DT_TABSTOP these bits are a number.
+    if ((format & DT_NOCLIP) && !(format & DT_TABSTOP))
+        return view.clip;
+    const Rect device = view.map.ToDevice(rect);
+    return { std::max(view.clip.left, device.left), std::max(view.clip.top, device.top),
+        std::min(view.clip.right, device.right), std::min(view.clip.bottom, device.bottom) };
+}
+
+} // namespace
+
+int DrawTextOnPixels(const PixelView& view, std::u16string_view text, Rect& rect, u32 format,
+    const FontDescription& font, const TextColors& colors)
+{
+    TextEngine& engine = TextEngine::OfThread();
+    engine.BeginCall();
+    Font& resolved = engine.Resolve(font);
+    LineLayout layout(engine, resolved, rect, format);
+    if ((format & DT_CALCRECT) && !(format & DT_TABSTOP)) {
+        NoLines none;
+        const LineLayout::Extent extent = layout.LayOut(text, none);
+        rect.right = rect.left + extent.widest;
+        rect.bottom = extent.bottom;
+        return extent.bottom - rect.top;
+    }
+    const Rect clip = ClipFor(view, rect, format);
+    if (clip.IsEmpty() || !view.pixels) {
+        NoLines none;
+        return layout.LayOut(text, none).bottom - rect.top;
+    }
+    LinePainter painter(engine, resolved, view, clip, colors);
+    painter.Decorate(layout, rect, format, font);
+    return layout.LayOut(text, painter).bottom - rect.top;
+}
+
+FontMetrics MeasureFont(const FontDescription& font)
+{
+    TextEngine& engine = TextEngine::OfThread();
+    engine.BeginCall();
+    return engine.Resolve(font).Metrics();
+}
+
+} // namespace vornix

@@ -1,0 +1,132 @@
+#include "control/control.h"
+
+#include "automation/checked.h"
+
+namespace vornix {
+
+namespace {
+
+// Closing goes on whatever fails on the way.
+template <typename Step> void IgnoringFailures(const Step& step) noexcept
+{
+    try {
+        step();
+    } catch (const std::exception&) {
+    }
+}
+
+} // namespace
+
+Control::Control(Container& windowContainer, VornixEvents& host)
+    : container(windowContainer)
+    , events(host)
+    , scroll(store)
+    , layout(store, scroll)
+    , hidden(store)
+    , spans(store)
+    , interaction(current, editor)
+    , paint({ store, layout, scroll, gate, interaction, container, events })
+    , funnel({ store, layout, paint, gate, editor, bars, container })
+    , broadcast(store, funnel)
+    , twipsPerPixel(container.TwipsPerPixel())
+{
+}
+
+int Control::InternalRow(i16 Row) const
+{
+    return ToI16(Row + store.FixedRows());
+}
+
+int Control::InternalCol(i16 Col) const
+{
+    return ToI16(Col + store.FixedCols());
+}
+
+i16 Control::PublicRow(int row) const
+{
+    return ToI16(row - store.FixedRows());
+}
+
+i16 Control::PublicCol(int col) const
+{
+    return ToI16(col - store.FixedCols());
+}
+
+const CellFormat& Control::Format(i16 Row, i16 Col) const
+{
+    const auto [row, col] = Internal(Row, Col);
+    return store.Format(row, col);
+}
+
+void Control::EditFormat(i16 Row, i16 Col, const FormatEdit& edit)
+{
+    const auto [row, col] = Internal(Row, Col);
+    store.EditFormat(row, col, edit);
+    funnel.RefreshCellUnderGate(row, col);
+}
+
+void Control::Report(std::string_view name)
+{
+    if (!closed_)
+        container.PropertyChanged(name);
+}
+
+void Control::RequireTable() const
+{
+    if (!hasTable_)
+        RaiseError(ErrorNumber::SubscriptOutOfRange);
+}
+
+void Control::BeginCall()
+{
+    if (closed_)
+        throw AutomationError(ErrorNumber::InvalidArgument, "The control is closed");
+    ++depth_;
+}
+
+void Control::EndCall() noexcept
+{
+    --depth_;
+    if (closed_ && depth_ == 0)
+        Release();
+}
+
+void Control::Close()
+{
+    if (closed_)
+        return;
+    closed_ = true;
+    events.Silence();
+    funnel.SetReady(false);
+    // The steps still running put the value of Redraw back into the gate: it must not open again.
+    gate.SetRedraw(false);
+    gate.Close();
+    if (depth_ == 0)
+        Release();
+}
+
+void Control::Release() noexcept
+{
+    if (released_)
+        return;
+    released_ = true;
+    IgnoringFailures([this] {
+        store.Defaults.Font.reset();
+        store.Defaults.FontFixed.reset();
+        paint.Release();
+    });
+    IgnoringFailures([this] { container.SetTimer(0, false); });
+    IgnoringFailures([this] { FreeTable(); });
+    HookBars(false);
+}
+
+void Control::FreeTable()
+{
+    visualCells.Clear();
+    if (!hasTable_)
+        return;
+    store.ResizeRowStore(0);
+    store.ResizeColStore(0);
+}
+
+} // namespace vornix

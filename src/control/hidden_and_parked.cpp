@@ -1,0 +1,173 @@
+// Hidden lines, the order of columns, and looks that a host parks.
+#include "automation/checked.h"
+#include "automation/text_conversions.h"
+#include "control/column_move.h"
+#include "control/control.h"
+
+namespace vornix {
+
+namespace {
+
+void HideRows(Control& control, i16 Row, i16 count, bool hide)
+{
+    const int first = control.InternalRow(Row);
+    for (int row = first; row < first + count; ++row) {
+        const bool changed = hide ? control.hidden.HideRow(row) : control.hidden.ShowRow(row);
+        if (changed && row < control.store.FixedRows())
+            control.layout.MarkMetricsDirty();
+    }
+    control.funnel.RecalcLayout(false);
+}
+
+void HideCols(Control& control, i16 Col, i16 count, bool hide)
+{
+    const int first = control.InternalCol(Col);
+    for (int col = first; col < first + count; ++col) {
+        const bool changed = hide ? control.hidden.HideCol(col) : control.hidden.ShowCol(col);
+        if (changed && col < control.layout.FirstScrollCol())
+            control.layout.MarkMetricsDirty();
+    }
+    control.funnel.RecalcLayout();
+}
+
+void RestoreTo(Control& control, const VisualCell& cell, int row, int col)
+{
+    control.store.SetFormat(row, col, cell.Format);
+    control.funnel.RefreshCellUnderGate(row, col);
+}
+
+} // namespace
+
+void Vornix::HideRow(i16 Row, i16 Rows)
+{
+    const auto control = Enter();
+    HideRows(*control, Row, Rows, true);
+}
+
+void Vornix::ShowRow(i16 Row, i16 Rows)
+{
+    const auto control = Enter();
+    HideRows(*control, Row, Rows, false);
+}
+
+void Vornix::HideCol(i16 Col, i16 Cols)
+{
+    const auto control = Enter();
+    HideCols(*control, Col, Cols, true);
+}
+
+void Vornix::ShowCol(i16 Col, i16 Cols)
+{
+    const auto control = Enter();
+    HideCols(*control, Col, Cols, false);
+}
+
+bool Vornix::RowHide(i16 Row) const
+{
+    const auto control = Enter();
+    return control->store.RowAt(control->InternalRow(Row)).Hidden;
+}
+
+void Vornix::SetRowHide(i16 Row, bool Value)
+{
+    const auto control = Enter();
+    HideRows(*control, Row, 1, Value);
+    control->Report("RowHide");
+}
+
+bool Vornix::ColHide(i16 Col) const
+{
+    const auto control = Enter();
+    return control->store.ColumnAt(control->InternalCol(Col)).Hidden;
+}
+
+void Vornix::SetColHide(i16 Col, bool Value)
+{
+    const auto control = Enter();
+    HideCols(*control, Col, 1, Value);
+    control->Report("ColHide");
+}
+
+i16 Vornix::ColOrder(std::u16string_view index) const
+{
+    const auto control = Enter();
+    const GridStore& store = control->store;
+    const Locale& locale = control->container.GetLocale();
+    if (IsNumeric(index, locale))
+        return store.ColumnAt(control->InternalCol(TextToI2(index, locale))).Order;
+    for (int col = 0; col <= store.LastColIndex(); ++col) {
+        if (store.ColumnAt(col).Name == index)
+            return control->PublicCol(col);
+    }
+    return NoIndex;
+}
+
+void Vornix::ReOrderCols()
+{
+    const auto control = Enter();
+    {
+        RedrawGate::Closed closed(control->gate);
+        control->RestoreColumnOrder();
+    }
+    control->funnel.RepaintUnderGate();
+}
+
+void Control::RestoreColumnOrder()
+{
+    // Fixed columns stay: a move concerns the others only.
+    for (int col = store.FixedCols(); col <= store.LastColIndex(); ++col) {
+        const int order = col - store.FixedCols();
+        if (store.ColumnAt(col).Order == order)
+            continue;
+        int found = col + 1;
+        while (found <= store.LastColIndex() && store.ColumnAt(found).Order != order)
+            ++found;
+        if (found <= store.LastColIndex())
+            MoveColumnLeft(found, col);
+    }
+}
+
+void Control::MoveColumnLeft(int from, int to)
+{
+    ColumnMove(store, spans).MoveLeft(from, to);
+    const bool movesCaption = to == store.FixedCols() && layout.Settings.CaptionEnabled && store.FixedRows() >= 1;
+    if (movesCaption) {
+        // The title keeps its cell; the text that came with the column goes to where the title went.
+        const std::u16string text = store.CellAt(0, to).Text();
+        store.EditCell(0, to).SetText(store.CellAt(0, to + 1).Text());
+        store.EditCell(0, to + 1).SetText(text);
+    }
+    if (current.IsValid() && current.Col() >= to && current.Col() < from)
+        current.Set(current.Row(), current.Col() + 1);
+    if (to < layout.FirstScrollCol())
+        layout.MarkMetricsDirty();
+}
+
+void Vornix::StoreVisualCell(i16 index, i16 Row, i16 Col)
+{
+    const auto control = Enter();
+    const auto [row, col] = control->Internal(Row, Col);
+    control->visualCells.Store(index, { control->store.Format(row, col), ToI16(row), ToI16(col) });
+}
+
+void Vornix::RestoreVisualCell(i16 index)
+{
+    const auto control = Enter();
+    if (const VisualCell* cell = control->visualCells.Find(index))
+        RestoreTo(*control, *cell, cell->Row, cell->Col);
+}
+
+void Vornix::RestoreVisualToCell(i16 index, i16 Row, i16 Col)
+{
+    const auto control = Enter();
+    const auto [row, col] = control->Internal(Row, Col);
+    if (const VisualCell* cell = control->visualCells.Find(index))
+        RestoreTo(*control, *cell, row, col);
+}
+
+void Vornix::ClearVisualCell()
+{
+    Enter()->visualCells.Clear();
+}
+
+} // namespace vornix

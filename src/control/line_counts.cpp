@@ -1,0 +1,153 @@
+// How many rows and columns there are. Lines come and go at the end; fixed ones at the outside.
+#include "automation/checked.h"
+#include "control/control.h"
+
+namespace vornix {
+
+namespace {
+
+// Fixed lines cannot be fewer than none: their lines would have to come from before the table.
+void RequireCount(i16 count)
+{
+    if (count < 0)
+        RaiseError(ErrorNumber::SubscriptOutOfRange);
+}
+
+} // namespace
+
+i16 Vornix::Rows() const
+{
+    return Enter()->store.Rows();
+}
+
+void Vornix::SetRows(i16 Value)
+{
+    const auto control = Enter();
+    GridStore& store = control->store;
+    const i16 oldRows = store.Rows();
+    if (Value < 0 || Value == oldRows)
+        return;
+    control->RequireTable();
+    control->selection.Collapse();
+    if (Value < oldRows)
+        store.ShiftRowsDown(store.FixedRows() + Value, store.MaxRow());
+    control->settings.VirtualPageSize = 0;
+    store.ResizeRowStore(ToI16(store.FixedRows() + Value));
+    if (Value > oldRows) {
+        store.ShiftRowsUp(store.FixedRows() + oldRows, Value - oldRows);
+        store.InitRows(store.FixedRows() + oldRows, store.MaxRow() - 1);
+    }
+    control->scroll.ClampFirstVisible();
+    if (Value < oldRows)
+        control->current.AdjustForRows(store, store.FixedRows() + oldRows, Value - oldRows);
+    store.StoreRows(Value);
+    control->funnel.RecalcLayout();
+    control->Report("Rows");
+}
+
+i16 Vornix::Cols() const
+{
+    return Enter()->store.Cols();
+}
+
+void Vornix::SetCols(i16 Value)
+{
+    const auto control = Enter();
+    GridStore& store = control->store;
+    const i16 oldCols = store.Cols();
+    if (Value < 0 || Value == oldCols)
+        return;
+    control->RequireTable();
+    control->selection.Collapse();
+    if (Value < oldCols)
+        store.ShiftColsDown(store.FixedCols() + Value, store.MaxCol());
+    store.ResizeColStore(ToI16(store.FixedCols() + Value));
+    if (Value > oldCols) {
+        const int firstNew = store.FixedCols() + oldCols;
+        store.ShiftColsUp(firstNew, Value - oldCols);
+        store.InitCols(firstNew, store.MaxCol() - 1);
+        for (int col = firstNew; col < store.MaxCol(); ++col)
+            store.ColumnAt(col).Order = ToI16(col - store.FixedCols());
+    }
+    control->scroll.ClampFirstVisible();
+    if (Value < oldCols)
+        control->current.AdjustForCols(store, store.FixedCols() + oldCols, Value - oldCols);
+    store.StoreCols(Value);
+    control->funnel.RecalcLayout();
+    control->Report("Cols");
+}
+
+i16 Vornix::FixedRows() const
+{
+    return Enter()->store.FixedRows();
+}
+
+void Vornix::SetFixedRows(i16 Value)
+{
+    const auto control = Enter();
+    control->SetFixedRowCount(Value);
+}
+
+void Control::SetFixedRowCount(i16 count)
+{
+    const int delta = count - store.FixedRows();
+    if (delta == 0)
+        return;
+    RequireTable();
+    RequireCount(count);
+    const i16 newMaxRow = ToI16(store.Rows() + count);
+    selection.Collapse();
+    editor.CloseEditor();
+    if (delta < 0)
+        store.ShiftRowsDown(0, -delta);
+    scroll.SetFirstRow(scroll.FirstRow() + delta);
+    store.ResizeRowStore(newMaxRow);
+    if (delta > 0) {
+        store.ShiftRowsUp(0, delta);
+        store.InitFixedRows(0, delta - 1);
+    }
+    store.StoreFixedRows(count);
+    scroll.ClampFirstVisible();
+    current.AdjustForRows(store, 0, delta);
+    if (count == 0)
+        layout.Settings.CaptionEnabled = false;
+    CopyCaption();
+    layout.MarkMetricsDirty();
+    funnel.RecalcLayout();
+    Report("FixedRows");
+}
+
+i16 Vornix::FixedCols() const
+{
+    return Enter()->store.FixedCols();
+}
+
+void Vornix::SetFixedCols(i16 Value)
+{
+    const auto control = Enter();
+    GridStore& store = control->store;
+    const int delta = Value - store.FixedCols();
+    if (delta == 0)
+        return;
+    control->RequireTable();
+    RequireCount(Value);
+    const i16 newMaxCol = ToI16(store.Cols() + Value);
+    control->selection.Collapse();
+    if (delta < 0)
+        store.ShiftColsDown(0, -delta);
+    control->scroll.SetFirstCol(control->scroll.FirstCol() + delta);
+    control->layout.SetFirstScrollCol(ToI16(control->layout.Settings.SplitCols + Value));
+    store.ResizeColStore(newMaxCol);
+    if (delta > 0) {
+        store.ShiftColsUp(0, delta);
+        store.InitFixedCols(0, delta - 1);
+    }
+    store.StoreFixedCols(Value);
+    control->scroll.ClampFirstVisible();
+    control->current.AdjustForCols(store, 0, delta);
+    control->layout.MarkMetricsDirty();
+    control->funnel.RecalcLayout();
+    control->Report("FixedCols");
+}
+
+} // namespace vornix

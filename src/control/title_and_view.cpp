@@ -1,0 +1,216 @@
+// The title, the split, and where the view stands.
+#include "control/control.h"
+
+#include <algorithm>
+
+namespace vornix {
+
+bool Vornix::CaptionEnabled() const
+{
+    return Enter()->layout.Settings.CaptionEnabled;
+}
+
+void Vornix::SetCaptionEnabled(bool Value)
+{
+    const auto control = Enter();
+    LayoutSettings& settings = control->layout.Settings;
+    if (Value == settings.CaptionEnabled || (Value && control->store.FixedRows() == 0))
+        return;
+    settings.CaptionEnabled = Value;
+    control->CopyCaption();
+    control->funnel.RecalcLayout(false);
+    control->Report("CaptionEnabled");
+}
+
+std::u16string Vornix::Caption() const
+{
+    return Enter()->settings.Caption;
+}
+
+void Vornix::SetCaption(std::u16string_view Value)
+{
+    const auto control = Enter();
+    const bool wasEmpty = control->settings.Caption.empty();
+    if (Value == control->settings.Caption)
+        return;
+    control->settings.Caption = Value;
+    if (!control->IsRunMode())
+        control->FollowCaption(wasEmpty);
+    control->CopyCaption();
+    if (control->layout.Settings.CaptionEnabled)
+        control->funnel.RefreshCellUnderGate(0, control->store.FixedCols());
+    control->Report("Caption");
+}
+
+void Control::FollowCaption(bool wasEmpty)
+{
+    bool& enabled = layout.Settings.CaptionEnabled;
+    if (wasEmpty && !enabled) {
+        enabled = true;
+        SetFixedRowCount(static_cast<i16>(store.FixedRows() + 1));
+    } else if (settings.Caption.empty() && enabled && store.FixedRows() > 0) {
+        enabled = false;
+        SetFixedRowCount(static_cast<i16>(store.FixedRows() - 1));
+    }
+}
+
+i16 Vornix::SplitCols() const
+{
+    return Enter()->layout.Settings.SplitCols;
+}
+
+void Vornix::SetSplitCols(i16 Value)
+{
+    const auto control = Enter();
+    if (control->layout.SetSplitCols(Value))
+        control->funnel.ApplyScrollAndRepaint();
+}
+
+bool Vornix::ShowSplit() const
+{
+    return Enter()->layout.Settings.ShowSplit;
+}
+
+void Vornix::SetShowSplit(bool Value)
+{
+    const auto control = Enter();
+    LayoutEngine& layout = control->layout;
+    const SplitChange change = layout.SetShowSplit(Value);
+    if (change == SplitChange::None)
+        return;
+    control->container.Child(ChildName::picSplitCol).Show(false);
+    if (!Value && layout.HBarHeight() > 0) {
+        const int top = layout.ClientHeight() - 1;
+        control->container.Child(ChildName::scrH).Move({ 0, top, layout.ClientWidth(), top + layout.HBarHeight() + 1 });
+    }
+    if (change == SplitChange::Dropped)
+        control->funnel.RecalcLayout(false);
+    else
+        control->funnel.PaintSplitBar();
+    control->Report("ShowSplit");
+}
+
+i16 Vornix::FirstRow() const
+{
+    const auto control = Enter();
+    return control->PublicRow(control->scroll.FirstRow());
+}
+
+void Vornix::SetFirstRow(i16 Value)
+{
+    const auto control = Enter();
+    if (Value < 0)
+        return;
+    const GridStore& store = control->store;
+    const int row = std::max<int>(
+        control->InternalRow(std::min<i16>(Value, static_cast<i16>(store.Rows() - 1))), store.FixedRows());
+    if (row == control->scroll.FirstRow())
+        return;
+    control->scroll.SetFirstRow(row);
+    control->funnel.ApplyScrollAndRepaint();
+}
+
+i16 Vornix::FirstCol() const
+{
+    const auto control = Enter();
+    return control->PublicCol(control->scroll.FirstCol());
+}
+
+void Vornix::SetFirstCol(i16 Value)
+{
+    const auto control = Enter();
+    if (Value < 0)
+        return;
+    const i16 lastCol = static_cast<i16>(control->store.Cols() - 1);
+    const int col = control->InternalCol(std::min(Value, lastCol));
+    if (col == control->scroll.FirstCol() && control->layout.SmoothOffset() == 0)
+        return;
+    control->scroll.SetFirstCol(std::max(col, control->layout.FirstScrollCol()));
+    control->layout.SetSmoothOffset(0);
+    control->funnel.ApplyScrollAndRepaint();
+}
+
+i16 Vornix::LastRow() const
+{
+    const auto control = Enter();
+    return control->PublicRow(control->scroll.LastRow());
+}
+
+i16 Vornix::LastCol() const
+{
+    const auto control = Enter();
+    return control->PublicCol(control->scroll.LastCol());
+}
+
+i32 Vornix::ScrollHBar() const
+{
+    return Enter()->layout.Settings.ScrollHBar;
+}
+
+void Vornix::SetScrollHBar(i32 Value)
+{
+    const auto control = Enter();
+    if (Value == control->layout.Settings.ScrollHBar)
+        return;
+    control->layout.Settings.ScrollHBar = Value;
+    control->layout.SetSmoothOffset(0);
+    control->RelayoutForBars();
+    control->Report("ScrollHBar");
+}
+
+i32 Vornix::ScrollVBar() const
+{
+    return Enter()->layout.Settings.ScrollVBar;
+}
+
+void Vornix::SetScrollVBar(i32 Value)
+{
+    const auto control = Enter();
+    if (Value == control->layout.Settings.ScrollVBar || Value == vxScrollSmooth)
+        return;
+    // Dragging must not fetch a page at every step.
+    const bool isVirtual = control->settings.VirtualPageSize >= 1;
+    control->layout.Settings.ScrollVBar = isVirtual && Value == vxScrollTrack ? i32(vxNormalScroll) : Value;
+    control->RelayoutForBars();
+    control->Report("ScrollVBar");
+}
+
+void Control::RelayoutForBars()
+{
+    if (gate.IsOpen() || !IsRunMode())
+        funnel.RecalcLayout(false);
+}
+
+i16 Vornix::ScrollBarSize() const
+{
+    return Enter()->layout.Settings.ScrollBarSize;
+}
+
+void Vornix::SetScrollBarSize(i16 /*Value*/)
+{
+    const auto control = Enter();
+}
+
+i32 Vornix::CurrentRow() const
+{
+    const auto control = Enter();
+    return control->current.IsValid() ? control->PublicRow(control->current.Row()) : NoIndex;
+}
+
+i16 Vornix::CurrentCol() const
+{
+    const auto control = Enter();
+    return control->current.IsValid() ? control->PublicCol(control->current.Col()) : NoIndex;
+}
+
+i16 Vornix::VirtualPageSize() const
+{
+    return Enter()->settings.VirtualPageSize;
+}
+
+i32 Vornix::VirtualOffset() const
+{
+    return Enter()->settings.VirtualOffset;
+}
+
+} // namespace vornix

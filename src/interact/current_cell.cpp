@@ -1,0 +1,39 @@
+#include "interact/current_cell.h"
+
+namespace vornix {
+
+void CurrentCell::Set(int row, int col)
+{
+    valid_ = true;
+    row_ = row;
+    col_ = col;
+}
+
+void CurrentCell::Clear()
+{
+    valid_ = false;
+    row_ = None;
+    col_ = None;
+}
+
+void CurrentCell::AdjustForRows(const GridStore& store, int position, int delta)
+{
+    if (valid_ && position <= row_)
+        row_ += delta;
+    ClearIfOutside(store);
+}
+
+void CurrentCell::AdjustForCols(const GridStore& store, int position, int delta)
+{
+    if (valid_ && position <= col_)
+        col_ += delta;
+    ClearIfOutside(store);
+}
+
+void CurrentCell::ClearIfOutside(const GridStore& store)
+{
+    if (row_ < 0 || row_ >= store.MaxRow() || col_ < 0 || col_ >= store.MaxCol())
+        Clear();
+}
+
+} // namespace vornix

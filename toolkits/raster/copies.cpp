@@ -4,7 +4,6 @@
 #include "pixel_surface.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <utility>
 
 namespace vornix {
@@ -26,16 +25,7 @@ bool IsMirrored(const Rect& rect)
 
 bool IsFar(Point point)
 {
-    return std::max(std::abs(point.x), std::abs(point.y)) > FarAway;
-}
-
-// Cuts the target at the surface, moving the source's origin along.
-void CutTarget(Rect& target, Point& sourceOrigin, Size size)
-{
-    const Rect cut = Intersect(target, { 0, 0, size.width, size.height });
-    sourceOrigin.x += cut.left - target.left;
-    sourceOrigin.y += cut.top - target.top;
-    target = cut;
+    return std::min(point.x, point.y) < -FarAway || std::max(point.x, point.y) > FarAway;
 }
 
 bool LeavesSurface(const Rect& rect, Size size)
@@ -94,13 +84,10 @@ bool PixelSurface::BitBlt(const Rect& target, const Surface& source, Point sourc
         return false;
     if (target.IsEmpty() || IsFar(sourceOrigin) || IsFar({ target.left, target.top }))
         return true;
-    Rect cut = target;
-    CutTarget(cut, sourceOrigin, size_);
-    if (cut.IsEmpty())
-        return true;
-    const Rect sourceRect { sourceOrigin.x, sourceOrigin.y, sourceOrigin.x + cut.Width(),
-        sourceOrigin.y + cut.Height() };
-    return CopyRect(cut, *from, sourceRect, operation);
+    const Rect near { target.left, target.top, std::min(target.right, FarAway), std::min(target.bottom, FarAway) };
+    const Rect sourceRect { sourceOrigin.x, sourceOrigin.y, sourceOrigin.x + near.Width(),
+        sourceOrigin.y + near.Height() };
+    return CopyRect(near, *from, sourceRect, operation);
 }
 
 bool PixelSurface::StretchBlt(const Rect& target, const Surface& source, const Rect& sourceRect, RasterOp operation)

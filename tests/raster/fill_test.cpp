@@ -158,6 +158,27 @@ TEST(Gradient, CutAtTheSurfaceKeepsItsColors)
         EXPECT_EQ(PixelAt(*part, x, 0), PixelAt(*whole, x + 5, 0));
 }
 
+TEST(Gradient, FollowsItsFormulaForAllColorsAndSizes)
+{
+    std::mt19937 random(31);
+    for (int round = 0; round < 500; ++round) {
+        const int width = Between(random, 1, 300);
+        const int begin = Between(random, -100, 20);
+        const u16 first = static_cast<u16>(Between(random, 0, 0xFFFF));
+        const u16 last = static_cast<u16>(Between(random, 0, 0xFFFF));
+        auto surface = WhiteSurface(100, 1);
+        surface->GradientFill(Vertex(begin, 0, first, 0, last), Vertex(begin + width, 1, last, 0xFFFF, first),
+            GradientDirection::Horizontal);
+        for (int x = std::max(begin, 0); x < std::min(begin + width, 100); ++x) {
+            const int i = x - begin;
+            const auto channel = [&](u32 from, u32 to) { return ((from * (width - i) + to * i) / width) >> 8; };
+            ASSERT_EQ(PixelAt(*surface, x, 0),
+                0xFF000000u | channel(first, last) << 16 | channel(0, 0xFFFF) << 8 | channel(last, first))
+                << width << ' ' << i;
+        }
+    }
+}
+
 TEST(Gradient, OfAnUnknownDirectionFails)
 {
     auto surface = WhiteSurface(2, 1);

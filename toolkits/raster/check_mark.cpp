@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
 #include <vector>
 
 namespace vornix {
@@ -73,21 +74,28 @@ int Coverage(int x, int y, int size)
     return covered;
 }
 
-// The coverage of every pixel of a box of `size` pixels, row by row; the last one asked for is kept, since a column of
-// check boxes asks for the same again and again.
-const std::vector<u8>& CoverageOf(int size)
+std::vector<u8> CoverageOf(int size)
 {
-    thread_local int keptSize = 0;
-    thread_local std::vector<u8> kept;
-    if (size == keptSize)
-        return kept;
-    kept.clear();
+    std::vector<u8> coverage;
     for (int y = 0; y < size; ++y) {
         for (int x = 0; x < size; ++x)
-            kept.push_back(static_cast<u8>(Coverage(x, y, size)));
+            coverage.push_back(static_cast<u8>(Coverage(x, y, size)));
     }
-    keptSize = size;
-    return kept;
+    return coverage;
+}
+
+// The coverage of every pixel of a box of `size` pixels, row by row. A column of check boxes asks for the same few
+// sizes again and again, so some are kept.
+const std::vector<u8>& KeptCoverageOf(int size)
+{
+    constexpr std::size_t MostKept = 8;
+    thread_local std::map<int, std::vector<u8>> kept;
+    const auto found = kept.find(size);
+    if (found != kept.end())
+        return found->second;
+    if (kept.size() >= MostKept)
+        kept.clear();
+    return kept[size] = CoverageOf(size);
 }
 
 u32 Mix(u32 below, u32 above, int covered)
@@ -105,7 +113,7 @@ u32 Mix(u32 below, u32 above, int covered)
 void DrawSmooth(const PixelView& view, const Rect& box, u32 pixel)
 {
     const int size = box.Width() < box.Height() ? box.Width() : box.Height();
-    const std::vector<u8>& coverage = CoverageOf(size);
+    const std::vector<u8>& coverage = KeptCoverageOf(size);
     const Rect area = Intersect({ box.left, box.top, box.left + size, box.top + size }, view.clip);
     for (int y = area.top; y < area.bottom; ++y) {
         u32* const row = view.Row(y);

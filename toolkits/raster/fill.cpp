@@ -12,16 +12,53 @@ namespace vornix {
 
 namespace {
 
-u32 Interpolate(u16 first, u16 last, std::int64_t index, std::int64_t count)
-{
-    return static_cast<u32>(((first * (count - index) + last * index) / count) >> 8);
-}
+// One channel of a gradient, pixel by pixel: floor((first * (n - i) + last * i) / n) without a division in each step.
+class Ramp {
+public:
+    Ramp(u16 first, u16 last, int index, int count)
+        : count_(count)
+    {
+        const std::int64_t rise = std::int64_t { last } - first;
+        step_ = static_cast<int>(rise >= 0 ? rise / count : -((-rise + count - 1) / count));
+        stepRest_ = rise - std::int64_t { step_ } * count;
+        const std::int64_t sum = std::int64_t { first } * count + rise * index;
+        value_ = static_cast<int>(sum / count);
+        rest_ = sum % count;
+    }
 
-u32 GradientPixel(const GradientVertex& first, const GradientVertex& last, int index, int count)
-{
-    return 0xFF000000u | Interpolate(first.red, last.red, index, count) << 16
-        | Interpolate(first.green, last.green, index, count) << 8 | Interpolate(first.blue, last.blue, index, count);
-}
+    // The high byte of the present pixel's channel; goes on to the next pixel.
+    u32 Next()
+    {
+        const u32 channel = static_cast<u32>(value_) >> 8;
+        rest_ += stepRest_;
+        const bool carries = rest_ >= count_;
+        rest_ -= carries ? count_ : 0;
+        value_ += step_ + (carries ? 1 : 0);
+        return channel;
+    }
+
+private:
+    std::int64_t count_;
+    std::int64_t stepRest_ = 0;
+    std::int64_t rest_ = 0;
+    int step_ = 0;
+    int value_ = 0;
+};
+
+struct ColorRamp {
+    ColorRamp(const GradientVertex& first, const GradientVertex& last, int index, int count)
+        : red(first.red, last.red, index, count)
+        , green(first.green, last.green, index, count)
+        , blue(first.blue, last.blue, index, count)
+    {
+    }
+
+    u32 Next() { return 0xFF000000u | red.Next() << 16 | green.Next() << 8 | blue.Next(); }
+
+    Ramp red;
+    Ramp green;
+    Ramp blue;
+};
 
 void CopyFirstRowDown(const PixelView& view, const Rect& area)
 {
@@ -124,16 +161,16 @@ void FillDeviceGradient(const PixelView& view, const Rect& deviceRect, const Gra
     if (area.IsEmpty())
         return;
     if (direction == GradientDirection::Horizontal) {
+        ColorRamp ramp(first, last, area.left - deviceRect.left, deviceRect.Width());
         u32* const row = view.Row(area.top);
         for (int x = area.left; x < area.right; ++x)
-            row[x] = GradientPixel(first, last, x - deviceRect.left, deviceRect.Width());
+            row[x] = ramp.Next();
         CopyFirstRowDown(view, area);
         return;
     }
-    for (int y = area.top; y < area.bottom; ++y) {
-        const u32 pixel = GradientPixel(first, last, y - deviceRect.top, deviceRect.Height());
-        std::fill_n(view.Row(y) + area.left, area.Width(), pixel);
-    }
+    ColorRamp ramp(first, last, area.top - deviceRect.top, deviceRect.Height());
+    for (int y = area.top; y < area.bottom; ++y)
+        std::fill_n(view.Row(y) + area.left, area.Width(), ramp.Next());
 }
 
 } // namespace vornix

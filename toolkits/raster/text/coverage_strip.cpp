@@ -59,7 +59,8 @@ bool StripStore::Collect(const ShapedLine& line, RasterSize size, int phase)
     for (const ShapedGlyph& glyph : line.Glyphs()) {
         const PenPosition pen = PenPosition::At(start + glyph.x * size.scale);
         const int rise = glyph.y == 0 ? 0 : static_cast<int>(std::lround(glyph.y * size.scale));
-        const GlyphImage& image = glyphs_.Get(library_.Face(glyph.face), glyph.glyph, size.emHeight64, pen.phase);
+        const GlyphImage& image
+            = glyphs_.Get(library_.Face(glyph.face), glyph.glyph, size.EmHeightOf(glyph), pen.phase);
         *piece++ = { &image, pen.pixel + image.left, image.top - rise };
     }
     return glyphs_.Images().Rotations() == rotations;

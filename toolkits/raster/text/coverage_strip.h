@@ -37,6 +37,11 @@ struct RasterSize {
     float scale = 1;
     // 64ths of a device pixel.
     int emHeight64 = 0;
+
+    int EmHeightOf(const ShapedGlyph& glyph) const
+    {
+        return glyph.percent == 100 ? emHeight64 : emHeight64 * glyph.percent / 100;
+    }
 };
 
 class FontLibrary;

@@ -96,6 +96,22 @@ bool AsksForEmoji(std::span<const char32_t> cluster)
 
 } // namespace
 
+int FallbackPercent(hb_script_t script)
+{
+    switch (script) {
+    case HB_SCRIPT_THAI:
+        return 91;
+    case HB_SCRIPT_MYANMAR:
+        return 92;
+    case HB_SCRIPT_TIBETAN:
+        return 86;
+    case HB_SCRIPT_KHMER:
+        return 95;
+    default:
+        return 100;
+    }
+}
+
 FontFace& FallbackFinder::FaceFor(const Font& font, std::span<const char32_t> cluster, hb_script_t script)
 {
     FontFace& primary = font.Face();

@@ -9,6 +9,10 @@
 
 namespace vornix {
 
+// Faces of scripts that stack marks are made a little smaller when they stand in for another one, so that the marks
+// keep within its line. In percent of the em height.
+int FallbackPercent(hb_script_t script);
+
 class FallbackFinder {
 public:
     explicit FallbackFinder(FontLibrary& library)

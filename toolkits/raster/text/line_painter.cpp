@@ -96,7 +96,7 @@ void LinePainter::DrawShaped(ShapedLine& line, float x, int baseline)
         const int rise = static_cast<int>(std::lround(glyph.y * size_.scale));
         FontFace& face = engine_.Library().Face(glyph.face);
         const GlyphImage& image
-            = engine_.Glyphs().Get(face, glyph.glyph, size_.emHeight64, face.IsColor() ? 0 : pen.phase);
+            = engine_.Glyphs().Get(face, glyph.glyph, size_.EmHeightOf(glyph), face.IsColor() ? 0 : pen.phase);
         DrawGlyph(image, left + image.left, baseline - rise + image.top);
     }
 }

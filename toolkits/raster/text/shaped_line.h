@@ -22,6 +22,8 @@ struct ShapedGlyph {
     // The code unit its cluster begins at.
     u32 cluster = 0;
     u16 face = 0;
+    // Of the font's em height.
+    u16 percent = 100;
 };
 
 struct ShapedLine {

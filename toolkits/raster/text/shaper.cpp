@@ -86,7 +86,7 @@ bool Shaper::ShapeSimple(Font& font, std::u16string_view text)
             glyphs[unit - 1].advance += move;
             x += move;
         }
-        glyphs[unit] = { x, 0, simple.advance, simple.glyph, static_cast<u32>(unit), face.Id() };
+        glyphs[unit] = { x, 0, simple.advance, simple.glyph, static_cast<u32>(unit), face.Id(), 100 };
         x += simple.advance;
         before = character;
     }
@@ -224,14 +224,16 @@ void Shaper::ShapeRun(const Font& font, const Run& run)
     unsigned count = 0;
     const hb_glyph_info_t* infos = hb_buffer_get_glyph_infos(buffer_, &count);
     const hb_glyph_position_t* positions = hb_buffer_get_glyph_positions(buffer_, &count);
-    const float scale = font.EmHeight() / static_cast<float>(face.Metrics().unitsPerEm);
+    const int percent = &face == &font.Face() ? 100 : FallbackPercent(run.script);
+    const float em = font.EmHeight() * static_cast<float>(percent) / 100;
+    const float scale = em / static_cast<float>(face.Metrics().unitsPerEm);
     for (unsigned index = 0; index < count; ++index) {
         const hb_glyph_position_t& position = positions[index];
         const int extra = position.x_advance != 0 ? face.ExtraAdvance() : 0;
         const float advance = static_cast<float>(position.x_advance + extra) * scale;
         result_.glyphs.push_back({ result_.width + static_cast<float>(position.x_offset) * scale,
             static_cast<float>(position.y_offset) * scale, advance, infos[index].codepoint,
-            units_[infos[index].cluster], face.Id() });
+            units_[infos[index].cluster], face.Id(), static_cast<u16>(percent) });
         result_.width += advance;
     }
 }

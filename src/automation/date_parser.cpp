@@ -89,7 +89,9 @@ public:
         if (cursor_.AtEnd() || !ReadItem())
             return std::nullopt;
         while (!cursor_.AtEnd()) {
-            if (!ReadSeparator() || !ReadItem())
+            if (!ReadSeparator())
+                return std::nullopt;
+            if (!cursor_.AtEnd() && !ReadItem())
                 return std::nullopt;
         }
         return Result();
@@ -101,8 +103,8 @@ private:
     // One number, month or time; false for anything else.
     bool ReadItem()
     {
-        const bool isNumber = TextCursor::IsDigit(cursor_.Peek());
-        if (isNumber ? !ReadNumberOrTime() : !ReadMonth())
+        const bool isNumber = TextCursor::IsDigit(cursor_.Peek()) && !StartsNumberedMonth();
+        if (isNumber ? !ReadNumberOrTime() : !ReadTimeBehindHalfOfDay() && !ReadMonth())
             return false;
         const bool besideTime = item_ == Item::Time || previousItem_ == Item::Time;
         const bool isDateSeparator = separator_ != NoSeparator && separator_ != u',';
@@ -121,6 +123,8 @@ private:
         separator_ = NoSeparator;
         const bool hasBlank = cursor_.SkipBlanks();
         const char16_t unit = cursor_.Peek();
+        if (symbols_.dateSeparator == u"." && TakeOrdinalDot())
+            return true;
         if (cursor_.TakeWord(symbols_.dateSeparator) || cursor_.Take(u'/') || cursor_.Take(u'-')
             || cursor_.Take(u',')) {
             separator_ = unit;
@@ -129,6 +133,19 @@ private:
         }
         const bool atDigit = TextCursor::IsDigit(unit);
         return hasBlank || (item_ == Item::Number && !atDigit) || (item_ == Item::Month && atDigit);
+    }
+
+    // "3. April 2020", "2020. 4. 3.": a dot in front of a blank or the end parts like a blank.
+    bool TakeOrdinalDot()
+    {
+        const std::u16string_view rest = cursor_.Rest();
+        const bool isOrdinal
+            = item_ == Item::Number && rest.starts_with(u'.') && (rest.size() == 1 || TextCursor::IsBlank(rest[1]));
+        if (!isOrdinal)
+            return false;
+        cursor_.Advance();
+        cursor_.SkipBlanks();
+        return true;
     }
 
     // -1 for one that is too long.
@@ -158,6 +175,17 @@ private:
         return numbers_.size() <= 3;
     }
 
+    // In some places the half of the day is said ahead of the time.
+    bool ReadTimeBehindHalfOfDay()
+    {
+        const std::size_t half = symbols_.longTime.find(u't');
+        if (half >= symbols_.longTime.find_first_of(u"hH") || !ReadHalfOfDay())
+            return false;
+        cursor_.SkipBlanks();
+        const int hour = TextCursor::IsDigit(cursor_.Peek()) ? ReadNumber() : -1;
+        return hour >= 0 && TakeTimeSeparator() && ReadTime(hour);
+    }
+
     bool TakeTimeSeparator()
     {
         if (cursor_.Take(u':'))
@@ -180,9 +208,11 @@ private:
         return SetTime(hour, minute, second);
     }
 
-    // The words for morning and afternoon, perhaps behind blanks.
+    // The words for morning and afternoon, perhaps behind blanks, once.
     bool ReadHalfOfDay()
     {
+        if (isMorning_ || isAfternoon_)
+            return false;
         TextCursor ahead = cursor_;
         ahead.SkipBlanks();
         const auto takes = [&](std::u16string_view word) {
@@ -217,6 +247,15 @@ private:
     {
         const bool isAsciiLetter = (unit >= u'a' && unit <= u'z') || (unit >= u'A' && unit <= u'Z');
         return isAsciiLetter || (unit >= 0x00C0 && unit != 0x202F);
+    }
+
+    // Some languages number their months and put a word behind.
+    bool StartsNumberedMonth()
+    {
+        if (symbols_.months[0].empty() || !TextCursor::IsDigit(symbols_.months[0].front()) || month_ != 0)
+            return false;
+        DateParser ahead(*this);
+        return ahead.ReadMonth();
     }
 
     // The longest name that stands here as a whole word.

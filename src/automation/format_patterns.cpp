@@ -46,12 +46,13 @@ std::optional<double> NumberOf(std::u16string_view text, const Locale& locale)
     return TextToR8(text, locale);
 }
 
-// A number is a date when it is a day number in range.
+// A text that reads as a date is that one, also where its separators could group digits; any other number is a day
+// number.
 std::optional<DateFields> DateOf(std::u16string_view text, const Locale& locale)
 {
-    std::optional<double> date = NumberOf(text, locale);
+    std::optional<double> date = ParseDate(text, locale, CurrentYear());
     if (!date)
-        date = ParseDate(text, locale, CurrentYear());
+        date = NumberOf(text, locale);
     if (!date || !IsDateInRange(*date))
         return std::nullopt;
     return SplitDate(*date);

@@ -150,6 +150,8 @@ TEST(FormatPatterns, ANumberIsADayToADatePattern)
     EXPECT_EQ(Formatted(u"43832.5", u"yyyy-mm-dd hh:nn"), "2020-01-02 12:00");
     EXPECT_EQ(Formatted(u"-1.25", u"yyyy-mm-dd hh:nn"), "1899-12-29 06:00");
     EXPECT_EQ(Formatted(u"1e9", u"yyyy"), "1e9");
+    // A month and a year rather than a grouped number.
+    EXPECT_EQ(Formatted(u"12,34", u"yyyy-mm"), "2034-12");
 }
 
 TEST(FormatPatterns, ADateIsATextToANumberPattern)

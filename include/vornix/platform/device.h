@@ -2,7 +2,8 @@
 //
 // All coordinates are logical pixels. A device has a scale (device pixels per logical pixel); a logical edge x lies at
 // device pixel floor(x * scale + 0.5), whoever draws it, so neighbouring rectangles never leave a seam or overlap.
-// Nothing here raises an error to the host: what cannot be drawn is not drawn, and what reports success does so by bool.
+// Nothing here raises an error to the host: what cannot be drawn is not drawn, and what reports success does so by
+// bool.
 #pragma once
 
 #include "vornix/types.h"
@@ -20,7 +21,7 @@ class Surface;
 // The number by which a host names a device (PictureHdc, PrinterHdc, hDC). 0 is none.
 using Hdc = std::intptr_t;
 
-// Ternary raster operations, by their published codes.
+// Ternary raster operations, by their published codes. Where one asks for a pattern, it is white.
 enum class RasterOp : u32 {
     Blackness = 0x00000042,
     NotSrcErase = 0x001100A6,
@@ -39,7 +40,8 @@ enum class RasterOp : u32 {
     Whiteness = 0x00FF0062
 };
 
-// A solid pen. Lines leave out their end point. Width in logical pixels, at least 1.
+// A solid pen. Lines leave out their end point. Width in logical pixels, at least 1: a pen of width w covers the square
+// of w by w pixels that begins w / 2 (truncated) left of and above each point of the line.
 struct Pen {
     ColorRef color = 0;
     int width = 1;
@@ -157,7 +159,11 @@ public:
     // Tiles the surface over the rectangle, its first tile at (0, 0) of this device.
     virtual void FillPattern(const Rect& rect, const Surface& pattern) = 0;
     virtual void FrameRect(const Rect& rect, ColorRef color) = 0;
-    virtual bool GradientFill(const GradientVertex& first, const GradientVertex& second, GradientDirection direction) = 0;
+    // Fills the rectangle between the vertices, which come in either order. Pixel i of n along the direction takes of
+    // each channel (first * (n - i) + last * i) / n, truncated, and of that the high byte. False for an unknown
+    // direction.
+    virtual bool GradientFill(const GradientVertex& first, const GradientVertex& second, GradientDirection direction)
+        = 0;
 
     // Lines and pixels.
     virtual void SelectPen(const Pen& pen) = 0;
@@ -167,18 +173,24 @@ public:
     // 0xFFFFFFFF outside the device.
     virtual ColorRef GetPixel(int x, int y) const = 0;
 
-    // Frames.
+    // Frames. Where two sides of an edge meet, the right or bottom one is drawn over the left or top one.
     virtual void DrawEdge(const Rect& rect, u32 edge, u32 sides) = 0;
     virtual void DrawFrameControl(const Rect& rect, u32 kind, u32 state) = 0;
     // A dotted rectangle that inverts what is below: drawn twice it is gone.
     virtual void DrawFocusRect(const Rect& rect) = 0;
 
-    // Copies. A source of another scale is stretched to this device's.
+    // Copies. A source of another scale is stretched to this device's. A source in the same memory is read as it was
+    // before. What lies outside the source or this device is left out, and that is no failure. From a monochrome source
+    // black becomes the text colour and white the background colour of this device.
     virtual bool BitBlt(const Rect& target, const Surface& source, Point sourceOrigin, RasterOp operation) = 0;
-    // Colours are taken from the nearest source pixel (stretch mode 3).
+    // Colours are taken from the source pixel below the centre of the target's (stretch mode 3). A rectangle with its
+    // edges in reversed order mirrors.
     virtual bool StretchBlt(const Rect& target, const Surface& source, const Rect& sourceRect, RasterOp operation) = 0;
-    virtual bool TransparentBlt(const Rect& target, const Surface& source, const Rect& sourceRect, ColorRef transparent) = 0;
-    // False, with nothing drawn, when the source rectangle leaves the source.
+    // False, with nothing drawn, for rectangles with their edges in reversed order; the same holds for AlphaBlend.
+    virtual bool TransparentBlt(const Rect& target, const Surface& source, const Rect& sourceRect, ColorRef transparent)
+        = 0;
+    // Each channel becomes (source * alpha + target * (255 - alpha)) / 255, rounded to the nearest. False, with nothing
+    // drawn, when the source rectangle leaves the source.
     virtual bool AlphaBlend(const Rect& target, const Surface& source, const Rect& sourceRect, u32 blendFunction) = 0;
     // A picture with its own transparency, natural size.
     virtual void DrawIcon(int x, int y, const PictureObject& picture) = 0;

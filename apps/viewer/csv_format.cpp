@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <map>
 #include <set>
 
@@ -31,11 +32,13 @@ FieldCounts CountFields(std::u16string_view sample, bool isWholeFile, char16_t s
         ++counts.rowsOf[record.fields.size()];
         counts.splitRows += record.fields.size() > 1 ? 1 : 0;
     };
-    CsvParser parser(separator, LoadLimits(), count);
+    LoadLimits noLimits;
+    noLimits.maxColumns = std::numeric_limits<int>::max();
+    CsvParser parser(separator, noLimits, count);
     try {
         parser.Feed(sample);
-        // The end of a cut sample is a row only when there is no other.
-        if (isWholeFile || counts.rows == 0)
+        // The cut end of a sample counts only where there is little else, as with very long rows.
+        if (isWholeFile || counts.rows < 2)
             parser.Finish();
     } catch (const LoadError&) {
         // What is wrong with the file comes out when it is read; here the rows before it are enough.

@@ -37,6 +37,7 @@ int AsciiShare(std::string_view sample, TextEncoding encoding)
     return units == 0 || decoder.HasFailed() ? -1 : static_cast<int>(ascii * 100 / units);
 }
 
+// UTF-8 with a few zeros astray; other control characters are the halves of characters in UTF-16.
 bool IsUtf8WithoutItsZeros(std::string_view sample)
 {
     std::string bytes(sample);
@@ -44,7 +45,7 @@ bool IsUtf8WithoutItsZeros(std::string_view sample)
     std::u16string text;
     TextDecoder decoder(TextEncoding::Utf8);
     decoder.Decode(bytes, text);
-    return !decoder.HasFailed();
+    return !decoder.HasFailed() && std::none_of(text.begin(), text.end(), IsBadControl);
 }
 
 } // namespace

@@ -28,12 +28,16 @@ std::string EscapedForUri(const std::string& path)
     return escaped;
 }
 
-// A writer has left changes beside the file; only a connection that takes part in the locking can see them.
+// A writer has left something beside the file; only a connection that takes part in the locking can use it.
 bool HasPendingChanges(const std::string& path)
 {
-    std::error_code ignored;
-    const auto size = std::filesystem::file_size(path + "-wal", ignored);
-    return !ignored && size > 0;
+    for (const char* suffix : { "-wal", "-journal" }) {
+        std::error_code ignored;
+        const auto size = std::filesystem::file_size(path + suffix, ignored);
+        if (!ignored && size > 0)
+            return true;
+    }
+    return false;
 }
 
 char LowerCase(char c)
@@ -102,7 +106,8 @@ Database::Database(const std::string& path, std::chrono::milliseconds patience)
         // A write-ahead database in a folder that cannot be written has no place for its lock file.
         std::error_code ignored;
         const bool isFile = std::filesystem::is_regular_file(path, ignored);
-        if (error.Kind() != ErrorKind::CannotOpen || !isFile || HasPendingChanges(path))
+        const bool hasNoPlace = error.Kind() == ErrorKind::CannotOpen || error.Kind() == ErrorKind::Unfinished;
+        if (!hasNoPlace || !isFile || HasPendingChanges(path))
             throw;
         Open(path, true, patience);
     }

@@ -51,7 +51,7 @@ Error ErrorOf(sqlite3* connection, int resultCode)
     case SQLITE_PROTOCOL:
         return { ErrorKind::InUse, "the database is in use: another program has locked it" };
     case SQLITE_READONLY:
-        return { ErrorKind::InUse,
+        return { ErrorKind::Unfinished,
             "the database was left in the middle of a change; a program that may write to it must open it first" };
     case SQLITE_CORRUPT:
         return { ErrorKind::Damaged, "the database is damaged (" + message + ")" };

@@ -10,6 +10,7 @@ enum class ErrorKind {
     CannotOpen, // missing, a folder, or not permitted
     NotADatabase, // the file holds something else, or is encrypted
     InUse, // another program holds a lock on it
+    Unfinished, // a change was begun, and only a program that may write can end it or take it back
     Damaged, // cut short or overwritten
     Sql, // the statement is wrong: syntax, unknown names, failing expressions
     NotAQuery, // the statement is fine but gives no rows to show, or would change something

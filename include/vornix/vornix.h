@@ -59,6 +59,7 @@ public:
     bool IsTerminated() const noexcept;
     // Whether a call into the control is running, as it is inside every handler of an event.
     bool IsInCall() const noexcept;
+    // The next four work on a terminated control too.
     // The picture of the whole grid, as large as the largest client area so far; null before the first Resize.
     const Surface* BackStore() const;
     // How often the whole grid was repainted, and how many cells were painted one by one, since ClearPaintCounters.
@@ -114,7 +115,7 @@ public:
     // vxPictureModeEnum: how the cells take their piece. Repaints, reports itself.
     i32 PictureMode() const;
     void SetPictureMode(i32 Value);
-    // 0 to 100, washing the picture toward white; values above are ignored. Repaints, reports itself.
+    // 0 to 100, washing the picture toward white; other values are ignored. Repaints, reports itself.
     i32 PictureBrightness() const;
     void SetPictureBrightness(i32 Value);
     // 1 to 100; other values are ignored. Repaints, reports itself.

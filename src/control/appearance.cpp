@@ -142,7 +142,7 @@ i32 Vornix::PictureBrightness() const
 void Vornix::SetPictureBrightness(i32 Value)
 {
     const auto control = Enter();
-    if (Value > 100 || Value == control->paint.Settings.PictureBrightness)
+    if (Value < 0 || Value > 100 || Value == control->paint.Settings.PictureBrightness)
         return;
     control->paint.SetPictureBrightness(Value);
     control->funnel.RepaintUnderGate();

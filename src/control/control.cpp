@@ -101,6 +101,8 @@ void Control::Close()
     // The steps still running put the value of Redraw back into the gate: it must not open again.
     gate.SetRedraw(false);
     gate.Close();
+    // Stops a paint that is going on.
+    IgnoringFailures([this] { paint.Release(); });
     if (depth_ == 0)
         Release();
 }
@@ -113,7 +115,6 @@ void Control::Release() noexcept
     IgnoringFailures([this] {
         store.Defaults.Font.reset();
         store.Defaults.FontFixed.reset();
-        paint.Release();
     });
     IgnoringFailures([this] { container.SetTimer(0, false); });
     IgnoringFailures([this] { FreeTable(); });

@@ -197,22 +197,22 @@ bool Vornix::IsInCall() const noexcept
 
 const Surface* Vornix::BackStore() const
 {
-    return Enter()->paint.BackStore();
+    return control_->paint.BackStore();
 }
 
 int Vornix::Repaints() const
 {
-    return Enter()->paint.Repaints();
+    return control_->paint.Repaints();
 }
 
 int Vornix::Refreshes() const
 {
-    return Enter()->paint.Refreshes();
+    return control_->paint.Refreshes();
 }
 
 void Vornix::ClearPaintCounters()
 {
-    Enter()->paint.ClearCounters();
+    control_->paint.ClearCounters();
 }
 
 bool Vornix::Redraw() const

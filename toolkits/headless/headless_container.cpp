@@ -1,0 +1,160 @@
+#include "vornix/headless_container.h"
+
+#include <algorithm>
+#include <new>
+
+namespace vornix {
+
+namespace {
+
+constexpr Size ScreenInPixels { 1920, 1080 };
+constexpr int TwipsAPixel = 15;
+constexpr u32 ClientEdge = 512;
+constexpr u32 StaticEdge = 131072;
+
+constexpr std::array<std::string_view, 8> ChildNames {
+    "scrV",
+    "scrH",
+    "txtTmp",
+    "cboTmp",
+    "fraEdit",
+    "cPivot",
+    "picSplitCol",
+    "picSplitMove",
+};
+
+// Pixels that the border takes on each side.
+int BorderWidth(u32 extendedStyle)
+{
+    if (extendedStyle & ClientEdge)
+        return 2;
+    return extendedStyle & StaticEdge ? 1 : 0;
+}
+
+FontPtr MakeAmbientFont()
+{
+    FontObject font;
+    font.Name = u"DejaVu Sans";
+    font.Size = 9;
+    return std::make_shared<const FontObject>(font);
+}
+
+} // namespace
+
+HeadlessContainer::HeadlessContainer(const HeadlessOptions& options)
+    : size_ { options.width, options.height }
+    , scale_(options.scale)
+    , userMode_(!options.design)
+    , font_(MakeAmbientFont())
+    , settings_(options.settings ? options.settings : std::make_shared<MemorySettings>())
+    , log_(options.events)
+{
+    MakeWindow(ClientSize());
+    grid_ = std::make_unique<Vornix>(*this, log_);
+    const MemoryBag emptyBag;
+    if (options.design && !options.bag)
+        grid_->InitProperties();
+    else
+        grid_->ReadProperties(options.bag ? *options.bag : emptyBag);
+    isLoaded_ = true;
+    grid_->Resize();
+    if (options.show)
+        grid_->Show();
+}
+
+HeadlessContainer::~HeadlessContainer() = default;
+
+void HeadlessContainer::Resize(int width, int height)
+{
+    const Size before = ClientSize();
+    size_ = { width, height };
+    TellClientSize(before);
+}
+
+void HeadlessContainer::TellClientSize(Size before)
+{
+    if (isLoaded_ && ClientSize() != before)
+        grid_->Resize();
+}
+
+void HeadlessContainer::HoldKey(int code, bool down)
+{
+    if (down)
+        keysDown_.insert(code);
+    else
+        keysDown_.erase(code);
+}
+
+void HeadlessContainer::ClearLog()
+{
+    log_.Clear();
+    propertyChanges_.clear();
+    grid_->ClearPaintCounters();
+}
+
+HeadlessChild* HeadlessContainer::FindChild(std::string_view name)
+{
+    const auto found = std::find(ChildNames.begin(), ChildNames.end(), name);
+    return found == ChildNames.end() ? nullptr : &children_[static_cast<std::size_t>(found - ChildNames.begin())];
+}
+
+Size HeadlessContainer::ScreenSizeInTwips() const
+{
+    return { ScreenInPixels.width * TwipsAPixel, ScreenInPixels.height * TwipsAPixel };
+}
+
+Size HeadlessContainer::TwipsPerPixel() const
+{
+    return { TwipsAPixel, TwipsAPixel };
+}
+
+Size HeadlessContainer::ClientSize() const
+{
+    const int border = 2 * BorderWidth(extendedStyle_);
+    return { std::max(size_.width - border, 0), std::max(size_.height - border, 0) };
+}
+
+// The window's picture is the back store itself. A new size comes into force here, where no paint is going on.
+Surface* HeadlessContainer::BackStore(Size size)
+{
+    if (size != windowSize_)
+        MakeWindow(size);
+    return window_.get();
+}
+
+void HeadlessContainer::MakeWindow(Size client)
+{
+    const Size atLeastOne { std::max(client.width, 1), std::max(client.height, 1) };
+    auto window = RasterSurface::Create(atLeastOne, scale_, colors_);
+    if (!window)
+        throw std::bad_alloc();
+    window->FillRect({ 0, 0, atLeastOne.width, atLeastOne.height },
+        colors_.values[static_cast<std::size_t>(SystemColor::ButtonFace)]);
+    window_ = std::move(window);
+    windowSize_ = client;
+}
+
+void HeadlessContainer::SetExtendedStyle(u32 style)
+{
+    const Size before = ClientSize();
+    extendedStyle_ = style;
+    TellClientSize(before);
+}
+
+void HeadlessContainer::SetTimer(int interval, bool enabled)
+{
+    timerInterval_ = interval;
+    timerEnabled_ = enabled;
+}
+
+ChildWindow& HeadlessContainer::Child(ChildName name)
+{
+    return children_[static_cast<std::size_t>(name)];
+}
+
+void HeadlessContainer::ShowMessage(std::u16string_view title, std::u16string_view text, MessageIcon icon)
+{
+    messageBoxes_.push_back({ std::u16string(title), std::u16string(text), icon });
+}
+
+} // namespace vornix

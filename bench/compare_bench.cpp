@@ -196,7 +196,8 @@ void TableColBackColor(benchmark::State& state)
     QTableWidget& table = ShownTable();
     int shade = 0;
     for (auto _ : state) {
-        const QBrush brush(QColor(shade = (shade + 7) % 256, 128, 128));
+        shade = (shade + 7) % 256;
+        const QBrush brush { QColor(shade, 128, 128) };
         for (int row = 0; row < Rows; ++row)
             table.item(row, 2)->setBackground(brush);
     }

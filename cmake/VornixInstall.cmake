@@ -22,11 +22,6 @@ vornix_install_component(headless vornix_headless ${PROJECT_SOURCE_DIR}/toolkits
 vornix_install_component(icu vornix_icu ${PROJECT_SOURCE_DIR}/toolkits/icu/include)
 vornix_install_component(qt vornix_qt ${PROJECT_SOURCE_DIR}/toolkits/qt/include)
 
-if(TARGET vornix-view)
-    install(TARGETS vornix-view RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-    install(FILES ${PROJECT_SOURCE_DIR}/data/sample.db DESTINATION ${CMAKE_INSTALL_DATADIR}/vornix)
-endif()
-
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/VornixConfig.cmake.in ${PROJECT_BINARY_DIR}/VornixConfig.cmake
     INSTALL_DESTINATION ${package_dir})
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/VornixConfigVersion.cmake COMPATIBILITY SameMinorVersion)

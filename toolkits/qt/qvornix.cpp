@@ -55,6 +55,11 @@ const Vornix& QVornix::Grid() const
     return *grid_;
 }
 
+Device& QVornix::MeasuringDevice()
+{
+    return container_->WindowDevice();
+}
+
 QSize QVornix::sizeHint() const
 {
     return { 640, 480 };

@@ -29,6 +29,8 @@ public:
 
     Vornix& Grid();
     const Vornix& Grid() const;
+    // The device that the grid is drawn on, for measuring texts before the widget is shown.
+    Device& MeasuringDevice();
 
     QSize sizeHint() const override;
 

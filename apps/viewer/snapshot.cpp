@@ -1,0 +1,19 @@
+#include "snapshot.h"
+
+#include "present.h"
+#include "vornix/headless_container.h"
+
+namespace vornix::viewer {
+
+void SavePicture(const Table& table, const ViewerOptions& options, const std::string& path)
+{
+    HeadlessOptions window;
+    window.width = options.width;
+    window.height = options.height;
+    window.scale = options.scale;
+    HeadlessContainer container(window);
+    PresentTable(container.Grid(), container.WindowDevice(), table);
+    container.SavePng(path);
+}
+
+} // namespace vornix::viewer

@@ -82,7 +82,9 @@ std::u16string CompactText::ToString() const
 {
     std::u16string scratch;
     const std::u16string_view view = View(scratch);
-    return view.data() == scratch.data() ? std::move(scratch) : std::u16string(view);
+    if (view.data() == scratch.data())
+        return scratch;
+    return OrOutOfMemory([&] { return std::u16string(view); });
 }
 
 std::u16string_view CompactText::View(std::u16string& scratch) const
@@ -91,7 +93,7 @@ std::u16string_view CompactText::View(std::u16string& scratch) const
         return { WideUnits(Block()), BlockLength() };
     const u8* units = IsOnHeap() ? Block() + LengthSize : bytes_;
     const std::size_t length = Length();
-    scratch.assign(units, units + length);
+    OrOutOfMemory([&] { scratch.assign(units, units + length); });
     return scratch;
 }
 

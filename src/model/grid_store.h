@@ -159,8 +159,8 @@ private:
     void BuildRows();
     void CopyTitlesToHeader();
     // Columns first..last anew in rows of the range: format by column, no text, no picture.
-    void ResetCells(int firstRow, int lastRow, int firstCol, int lastCol, const std::vector<FormatId>& formats);
-    std::vector<FormatId> CellDefaultsOf(int firstCol, int lastCol) const;
+    using FormatOfCol = std::function<FormatId(int col)>;
+    void ResetCells(int firstRow, int lastRow, int firstCol, int lastCol, const FormatOfCol& formatOf);
     void GrowCellBlocks(int count);
     // Frees the numbers of formats that nothing uses any more, when many new ones have come.
     void SweepFormats();

@@ -34,8 +34,9 @@ void GridStore::InitGridStore(const SystemColors& colors)
     OrOutOfMemory([&] {
         std::vector<Row> rows(static_cast<std::size_t>(maxRow) + 1);
         std::vector<Column> columns(static_cast<std::size_t>(maxCol) + 1);
+        const CellBlock blank(maxCol + 1);
         for (Row& row : rows)
-            row.Cells = CellBlock();
+            row.Cells = blank;
         rows_ = std::move(rows);
         columns_ = std::move(columns);
     });
@@ -145,21 +146,11 @@ void GridStore::InitFixedRows(int first, int last)
     }
 }
 
-std::vector<FormatId> GridStore::CellDefaultsOf(int firstCol, int lastCol) const
-{
-    std::vector<FormatId> formats;
-    OrOutOfMemory([&] {
-        for (int col = firstCol; col <= lastCol; ++col)
-            formats.push_back(ColumnAt(col).CellDefaults);
-    });
-    return formats;
-}
-
-void GridStore::ResetCells(int firstRow, int lastRow, int firstCol, int lastCol, const std::vector<FormatId>& formats)
+void GridStore::ResetCells(int firstRow, int lastRow, int firstCol, int lastCol, const FormatOfCol& formatOf)
 {
     RewriteBlocks(rows_, firstRow, lastRow, NoPrefetch, [&](CellBlock& block) {
         for (int col = firstCol; col <= lastCol; ++col)
-            ResetCell(block.Edit(col), formats[static_cast<std::size_t>(col - firstCol)]);
+            ResetCell(block.Edit(col), formatOf(col));
     });
 }
 
@@ -175,10 +166,9 @@ void GridStore::InitCols(int first, int last)
             ColumnAt(col).CellDefaults = format;
         }
     }
-    const std::vector<FormatId> formats = CellDefaultsOf(first, last);
     const FormatId fixedFormat = formats_.Intern(Defaults.DefaultCellFormatFixed);
-    ResetCells(0, fixedRowCount_ - 1, first, last, std::vector<FormatId>(formats.size(), fixedFormat));
-    ResetCells(fixedRowCount_, RowArraySize() - 1, first, last, formats);
+    ResetCells(0, fixedRowCount_ - 1, first, last, [=](int) { return fixedFormat; });
+    ResetCells(fixedRowCount_, RowArraySize() - 1, first, last, [this](int col) { return ColumnAt(col).CellDefaults; });
     EditRowFormats(maxRow_, first, last, [](CellFormat& format) { format.Mode = vxCellFixed; });
 }
 
@@ -192,7 +182,7 @@ void GridStore::InitFixedCols(int first, int last)
         ResetLine(ColumnAt(col), Defaults.DefaultWidthFixed);
         ColumnAt(col).CellDefaults = format;
     }
-    ResetCells(0, RowArraySize() - 1, first, last, CellDefaultsOf(first, last));
+    ResetCells(0, RowArraySize() - 1, first, last, [=](int) { return format; });
 }
 
 void GridStore::InitFillerCol()

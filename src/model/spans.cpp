@@ -1,6 +1,7 @@
 #include "model/spans.h"
 
 #include "automation/checked.h"
+#include "model/out_of_memory.h"
 
 #include <algorithm>
 #include <string>
@@ -144,7 +145,7 @@ bool Spans::MergeEqualRows(int col, bool useKey, const TextsEqual& equal)
         return false;
     const auto valueAt = [&](int row) {
         const Cell& cell = store_.CellAt(row, col);
-        return useKey ? std::u16string(cell.Key()) : cell.Text();
+        return useKey ? OrOutOfMemory([&] { return std::u16string(cell.Key()); }) : cell.Text();
     };
     const auto closeRun = [&](int firstRow, int endRow) {
         if (endRow - firstRow > 1)

@@ -54,6 +54,8 @@ constexpr bool IsIn(int unit, int first, int last, int step)
 
 char16_t SimpleLower(char16_t unit)
 {
+    if (unit < 0x80)
+        return unit >= u'A' && unit <= u'Z' ? static_cast<char16_t>(unit + 32) : unit;
     for (const CaseRange& range : CaseRanges) {
         if (unit < range.first)
             break;

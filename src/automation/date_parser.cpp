@@ -75,7 +75,7 @@ std::u16string_view WithoutTrailingBlanks(std::u16string_view text)
 
 class DateParser {
 public:
-    DateParser(std::u16string_view text, const Locale& locale, int currentYear)
+    DateParser(std::u16string_view text, const Locale& locale, std::optional<int> currentYear)
         : cursor_(WithoutTrailingBlanks(text))
         , locale_(locale)
         , symbols_(locale.Dates())
@@ -319,7 +319,10 @@ private:
     // A date without a day is the first of its month.
     CalendarDate Read(Reading reading) const
     {
-        CalendarDate date { currentYear_, month_, 1 };
+        CalendarDate date { 0, month_, 1 };
+        // The clock is asked only where its answer counts.
+        if (reading.find('y') == Reading::npos)
+            date.year = currentYear_ ? *currentYear_ : CurrentYear();
         for (std::size_t i = 0; i < reading.size(); ++i) {
             if (reading[i] == 'y')
                 date.year = FullYear(numbers_[i]);
@@ -334,7 +337,7 @@ private:
     TextCursor cursor_;
     const Locale& locale_;
     const DateSymbols& symbols_;
-    int currentYear_;
+    std::optional<int> currentYear_;
     Item item_ = Item::None;
     Item previousItem_ = Item::None;
     char16_t separator_ = NoSeparator;
@@ -347,7 +350,7 @@ private:
 
 } // namespace
 
-std::optional<double> ParseDate(std::u16string_view text, const Locale& locale, int currentYear)
+std::optional<double> ParseDate(std::u16string_view text, const Locale& locale, std::optional<int> currentYear)
 {
     return DateParser(text, locale, currentYear).Parse();
 }

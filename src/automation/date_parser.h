@@ -8,8 +8,9 @@
 
 namespace vornix {
 
-// Nothing when the text is no date. A date without a year is one of `currentYear`.
-std::optional<double> ParseDate(std::u16string_view text, const Locale& locale, int currentYear);
+// Nothing when the text is no date. A date without a year is one of `currentYear`, by default that of the clock.
+std::optional<double> ParseDate(
+    std::u16string_view text, const Locale& locale, std::optional<int> currentYear = std::nullopt);
 
 // Of the local clock.
 int CurrentYear();

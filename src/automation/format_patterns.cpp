@@ -50,7 +50,7 @@ std::optional<double> NumberOf(std::u16string_view text, const Locale& locale)
 // number.
 std::optional<DateFields> DateOf(std::u16string_view text, const Locale& locale)
 {
-    std::optional<double> date = ParseDate(text, locale, CurrentYear());
+    std::optional<double> date = ParseDate(text, locale);
     if (!date)
         date = NumberOf(text, locale);
     if (!date || !IsDateInRange(*date))

@@ -93,7 +93,7 @@ bool IsNumeric(std::u16string_view text, const Locale& locale)
 
 bool IsDate(std::u16string_view text, const Locale& locale)
 {
-    return ParseDate(text, locale, CurrentYear()).has_value();
+    return ParseDate(text, locale).has_value();
 }
 
 i16 TextToI2(std::u16string_view text, const Locale& locale)
@@ -131,7 +131,7 @@ bool TextToBool(std::u16string_view text, const Locale& locale)
 
 double TextToDate(std::u16string_view text, const Locale& locale)
 {
-    const std::optional<double> date = ParseDate(text, locale, CurrentYear());
+    const std::optional<double> date = ParseDate(text, locale);
     if (!date)
         RaiseError(ErrorNumber::TypeMismatch);
     return *date;

@@ -138,6 +138,8 @@ constexpr LetterForm LetterForms[] = {
 
 const LetterForm* FindLetterForm(char16_t letter)
 {
+    if (letter < LetterForms[0].letter)
+        return nullptr;
     const auto* found = std::lower_bound(std::begin(LetterForms), std::end(LetterForms), letter,
         [](const LetterForm& form, char16_t wanted) { return form.letter < wanted; });
     return found != std::end(LetterForms) && found->letter == letter ? found : nullptr;

@@ -19,6 +19,8 @@ namespace {
 
 constexpr int Rows = 30000;
 constexpr int Cols = 33;
+constexpr int RowHeight = 21;
+constexpr int ColumnWidth = 120;
 constexpr int WindowWidth = 1920;
 constexpr int WindowHeight = 1080;
 
@@ -54,6 +56,9 @@ std::unique_ptr<QTableWidget> FilledTable()
 {
     const std::vector<std::u16string>& texts = GridTexts();
     auto table = std::make_unique<QTableWidget>(Rows, Cols);
+    // The grid's sizes, so that both show the same cells.
+    table->verticalHeader()->setDefaultSectionSize(RowHeight);
+    table->horizontalHeader()->setDefaultSectionSize(ColumnWidth);
     for (int row = 0; row < Rows; ++row)
         for (int col = 0; col < Cols; ++col)
             table->setItem(
@@ -92,17 +97,22 @@ template <class Widget> Widget& Shown(Widget& widget)
     return widget;
 }
 
-// One of each for all benchmarks of painting.
+// One of each for all benchmarks of painting; gone before the application is.
+std::unique_ptr<QTableWidget> sharedTable;
+std::unique_ptr<vornix::QVornix> sharedGrid;
+
 QTableWidget& ShownTable()
 {
-    static const std::unique_ptr<QTableWidget> table = FilledTable();
-    return Shown(*table);
+    if (!sharedTable)
+        sharedTable = FilledTable();
+    return Shown(*sharedTable);
 }
 
 vornix::QVornix& ShownGrid()
 {
-    static const std::unique_ptr<vornix::QVornix> widget = FilledGrid();
-    return Shown(*widget);
+    if (!sharedGrid)
+        sharedGrid = FilledGrid();
+    return Shown(*sharedGrid);
 }
 
 void TableFill(benchmark::State& state)
@@ -169,7 +179,7 @@ void GridFreshPage(benchmark::State& state)
 {
     const auto widget = FilledGrid();
     vornix::Vornix& grid = Shown(*widget).Grid();
-    const int page = WindowHeight / 21;
+    const int page = WindowHeight / RowHeight;
     int first = 0;
     for (auto _ : state) {
         state.PauseTiming();
@@ -234,6 +244,8 @@ int main(int argc, char** argv)
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;
     benchmark::RunSpecifiedBenchmarks();
+    sharedTable.reset();
+    sharedGrid.reset();
     benchmark::Shutdown();
     return 0;
 }

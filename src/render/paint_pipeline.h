@@ -88,7 +88,6 @@ private:
 
     void PlaceSplitHandleOverCells();
     bool SplitMakesNoSense() const;
-    void DropSplit();
     void PlaceSplitHandleAtBar();
 
     PaintContext context_;

@@ -11,7 +11,7 @@ void PaintPipeline::PaintSplitBar()
     if (layout.Settings.SplitCols >= 1 && layout.HBarHeight() != 0)
         PlaceSplitHandleOverCells();
     if (SplitMakesNoSense())
-        DropSplit();
+        context_.layout.DropSplit();
     if (layout.Settings.SplitCols == 0)
         PlaceSplitHandleAtBar();
 }
@@ -33,16 +33,6 @@ bool PaintPipeline::SplitMakesNoSense() const
     const bool nothingSplit = layout.Settings.SplitCols >= 1 && layout.FrozenColsWidth() == layout.FixedColsWidth();
     const bool outside = context_.container.Child(ChildName::picSplitCol).Place().left >= layout.ClientWidth();
     return layout.HBarHeight() == 0 || nothingSplit || outside;
-}
-
-void PaintPipeline::DropSplit()
-{
-    LayoutEngine& layout = context_.layout;
-    const int fixedCols = context_.store.FixedCols();
-    layout.Settings.SplitCols = 0;
-    layout.SetFirstScrollCol(fixedCols);
-    context_.scroll.SetFirstCol(fixedCols);
-    layout.SetSmoothOffset(0);
 }
 
 // Without a split the handle waits at the left end of the horizontal bar.

@@ -9,13 +9,7 @@
 
 namespace vornix {
 
-PenPosition PenPosition::At(float x)
-{
-    const int quarters = static_cast<int>(std::floor(x * GlyphCache::Phases + 0.5f));
-    return { quarters >> 2, quarters & 3 };
-}
-
-const CoverageStrip* StripStore::Make(ShapedLine& line, RasterSize size, int phase)
+const CoverageStrip* StripStore::Make(ShapedLine& line, RasterSize size, LinePhase phase)
 {
     if (line.hasColor || line.glyphs > MostGlyphs || line.width * size.scale > WidestLine
         || size.emHeight64 > TallestEm64)
@@ -23,9 +17,9 @@ const CoverageStrip* StripStore::Make(ShapedLine& line, RasterSize size, int pha
     // Pieces point into the glyph cache; when it dropped pictures meanwhile, all are fetched once more.
     if (!Collect(line, size, phase) && !Collect(line, size, phase))
         return nullptr;
-    int left = 0;
+    int left = line.glyphs > 0 ? pieces_[0].x : 0;
+    int right = left;
     int top = 0;
-    int right = 0;
     int bottom = 0;
     for (u32 index = 0; index < line.glyphs; ++index) {
         const Piece& piece = pieces_[index];
@@ -47,17 +41,16 @@ const CoverageStrip* StripStore::Make(ShapedLine& line, RasterSize size, int pha
     line.strip = strip;
     line.stripEpoch = epoch_;
     line.stripScale = size.scale;
-    line.stripPhase = static_cast<u8>(phase);
+    line.stripPhase = phase;
     return strip;
 }
 
-bool StripStore::Collect(const ShapedLine& line, RasterSize size, int phase)
+bool StripStore::Collect(const ShapedLine& line, RasterSize size, LinePhase phase)
 {
     const std::size_t rotations = glyphs_.Images().Rotations();
-    const float start = static_cast<float>(phase) / GlyphCache::Phases;
     Piece* piece = pieces_;
     for (const ShapedGlyph& glyph : line.Glyphs()) {
-        const PenPosition pen = PenPosition::At(start + glyph.x * size.scale);
+        const PenPosition pen = size.PenOf(glyph, line, phase);
         const int rise = glyph.y == 0 ? 0 : static_cast<int>(std::lround(glyph.y * size.scale));
         const GlyphImage& image
             = glyphs_.Get(library_.Face(glyph.face), glyph.glyph, size.EmHeightOf(glyph), pen.phase);

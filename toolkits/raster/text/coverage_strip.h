@@ -5,11 +5,12 @@
 #include "glyph_cache.h"
 #include "shaped_line.h"
 
+#include <cmath>
 #include <cstdint>
 
 namespace vornix {
 
-// `left` and `top` lead from the line's first pixel on the baseline to the corner.
+// `left` and `top` lead to the corner from the pixel on the baseline where the line begins or, AtRight, ends.
 struct CoverageStrip {
     int left = 0;
     int top = 0;
@@ -29,8 +30,17 @@ struct PenPosition {
     int pixel = 0;
     int phase = 0;
 
-    static PenPosition At(float x);
+    static PenPosition At(float x)
+    {
+        const int quarters = static_cast<int>(std::floor(x * GlyphCache::Phases + 0.5f));
+        return { quarters >> 2, quarters & 3 };
+    }
 };
+
+// Where a line begins within its first pixel, in quarters; or AtRight: its end is the left edge of a pixel. Then equal
+// ends of lines are equal pixels, and columns of digits stand straight.
+using LinePhase = u8;
+inline constexpr LinePhase AtRight = GlyphCache::Phases;
 
 // How a line is rasterised.
 struct RasterSize {
@@ -41,6 +51,13 @@ struct RasterSize {
     int EmHeightOf(const ShapedGlyph& glyph) const
     {
         return glyph.percent == 100 ? emHeight64 : emHeight64 * glyph.percent / 100;
+    }
+    // Relative to the pixel the line begins, or ends, at.
+    PenPosition PenOf(const ShapedGlyph& glyph, const ShapedLine& line, LinePhase phase) const
+    {
+        if (phase == AtRight)
+            return PenPosition::At((glyph.x - line.width) * scale);
+        return PenPosition::At(static_cast<float>(phase) / GlyphCache::Phases + glyph.x * scale);
     }
 };
 
@@ -57,7 +74,7 @@ public:
 
     // The line's strip, made when there is none; null for lines that are better drawn glyph by glyph. Valid until the
     // next call.
-    const CoverageStrip* Get(ShapedLine& line, RasterSize size, int phase)
+    const CoverageStrip* Get(ShapedLine& line, RasterSize size, LinePhase phase)
     {
         const bool isHeld = line.strip && line.stripEpoch + 1 >= epoch_;
         if (isHeld && line.stripScale == size.scale && line.stripPhase == phase)
@@ -80,8 +97,8 @@ private:
     static constexpr float WidestLine = 1536;
     static constexpr int TallestEm64 = 64 * 64;
 
-    const CoverageStrip* Make(ShapedLine& line, RasterSize size, int phase);
-    bool Collect(const ShapedLine& line, RasterSize size, int phase);
+    const CoverageStrip* Make(ShapedLine& line, RasterSize size, LinePhase phase);
+    bool Collect(const ShapedLine& line, RasterSize size, LinePhase phase);
     CoverageStrip* Allocate(int width, int height);
 
     FontLibrary& library_;

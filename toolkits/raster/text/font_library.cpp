@@ -12,7 +12,7 @@ namespace {
 
 // What a height of 0 asks for.
 constexpr int DefaultEmHeight = 12;
-constexpr double TallestEm = 4096;
+constexpr double TallestEm = 1000;
 
 double EmHeightOf(int height, const FaceMetrics& metrics)
 {

@@ -55,17 +55,17 @@ void LinePainter::Take(const PlacedLine& line)
         Fill(view_.map.ToDevice({ line.left, line.top, line.left + line.width, line.top + font_.Metrics().lineHeight }),
             backgroundColor_);
     const int baseline = view_.map.Y(line.top + font_.Metrics().ascent);
-    // Lines at a right edge end there exactly, so that columns of digits stand straight.
     const float width = line.exactWidth * size_.scale;
-    const float x = alignsRight_ ? static_cast<float>(view_.map.X(rect_.right)) - width
-                                 : static_cast<float>(view_.map.X(line.left));
+    const int edge = view_.map.X(alignsRight_ ? rect_.right : line.left);
+    const float x = static_cast<float>(edge) - (alignsRight_ ? width : 0);
     if (!marksOnly_) {
         if (line.shaped) {
-            DrawShaped(*line.shaped, x, baseline);
+            DrawShaped(*line.shaped, edge, alignsRight_ ? AtRight : LinePhase { 0 }, baseline);
         } else {
             layout_->ForEachSegment(line.text, [&](ShapedLine& segment, float place) {
                 const float from = layout_->RightToLeft() ? line.exactWidth - place - segment.width : place;
-                DrawShaped(segment, x + from * size_.scale, baseline);
+                const PenPosition pen = PenPosition::At(x + from * size_.scale);
+                DrawShaped(segment, pen.pixel, static_cast<LinePhase>(pen.phase), baseline);
             });
         }
         const FaceMetrics& metrics = font_.Face().Metrics();
@@ -78,18 +78,16 @@ void LinePainter::Take(const PlacedLine& line)
         DrawMark(line, x, baseline);
 }
 
-void LinePainter::DrawShaped(ShapedLine& line, float x, int baseline)
+void LinePainter::DrawShaped(ShapedLine& line, int pixel, LinePhase phase, int baseline)
 {
-    const PenPosition start = PenPosition::At(x);
-    if (const CoverageStrip* strip = engine_.Strips().Get(line, size_, start.phase)) {
-        DrawStrip(*strip, start.pixel + strip->left, baseline + strip->top);
+    if (const CoverageStrip* strip = engine_.Strips().Get(line, size_, phase)) {
+        DrawStrip(*strip, pixel + strip->left, baseline + strip->top);
         return;
     }
-    const float phase = static_cast<float>(start.phase) / GlyphCache::Phases;
     for (const ShapedGlyph& glyph : line.Glyphs()) {
-        const PenPosition pen = PenPosition::At(phase + glyph.x * size_.scale);
+        const PenPosition pen = size_.PenOf(glyph, line, phase);
         // A glyph reaches at most a few ems from its pen.
-        const int left = start.pixel + pen.pixel;
+        const int left = pixel + pen.pixel;
         const int reach = size_.emHeight64 / 16;
         if (left - reach > clip_.right || left + reach < clip_.left)
             continue;

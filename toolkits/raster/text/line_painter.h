@@ -19,7 +19,7 @@ public:
     void Take(const PlacedLine& line) override;
 
 private:
-    void DrawShaped(ShapedLine& line, float x, int baseline);
+    void DrawShaped(ShapedLine& line, int pixel, LinePhase phase, int baseline);
     void DrawStrip(const CoverageStrip& strip, int x, int y);
     void DrawGlyph(const GlyphImage& image, int x, int y);
     void DrawMark(const PlacedLine& line, float x, int baseline);

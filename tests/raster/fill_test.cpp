@@ -92,12 +92,14 @@ TEST(Pattern, OfScaleOneIsEnlargedOnAFinerDevice)
     EXPECT_EQ(Drawn(*surface), "\n##..##\n##..##\n");
 }
 
-TEST(Pattern, MayBeTheDeviceItself)
+TEST(Pattern, MayLieOnTheDeviceItself)
 {
-    auto surface = WhiteSurface(3, 1);
-    surface->SetPixel(0, 0, Red);
-    surface->FillPattern({ 0, 0, 3, 1 }, *surface);
-    EXPECT_EQ(Drawn(*surface), "\nr..\n");
+    auto surface = WhiteSurface(5, 1);
+    surface->SetPixel(1, 0, Red);
+    surface->SetPixel(2, 0, Blue);
+    const std::unique_ptr<Surface> part = surface->ComposeAt({ 1, 0 }, { 2, 1 }, { 0, 0, 5, 1 });
+    surface->FillPattern({ 0, 0, 5, 1 }, *part);
+    EXPECT_EQ(Drawn(*surface), "\nrbrbr\n");
 }
 
 namespace {

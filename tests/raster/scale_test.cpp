@@ -121,6 +121,19 @@ TEST_P(Scale, ABlendOfEqualLogicalSizeCoversTheWholeTarget)
     }
 }
 
+// At this scale five logical pixels are six device pixels from 0 on and seven from 1 on.
+TEST(ScaleOfOneAndAQuarter, RepeatsTheLastSourcePixelWhereRoundingLeavesItShort)
+{
+    auto surface = WhiteSurface(8, 1, 1.25);
+    const std::unique_ptr<Surface> source = surface->CreateCompatible({ 5, 1 });
+    const ColorRef colors[] { Red, Blue, Black, Green, Red };
+    for (int x = 0; x < 5; ++x)
+        source->SetPixel(x, 0, colors[x]);
+    ASSERT_EQ(Drawn(dynamic_cast<RasterSurface&>(*source)), "\nrbb#gr\n");
+    EXPECT_TRUE(surface->BitBlt({ 1, 0, 6, 1 }, *source, { 0, 0 }, RasterOp::SrcCopy));
+    EXPECT_EQ(Drawn(*surface), "\n.rbb#grr..\n");
+}
+
 TEST_P(Scale, SetPixelAndGetPixelAgree)
 {
     auto surface = WhiteSurface(9, 9, GetParam());

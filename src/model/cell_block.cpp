@@ -5,26 +5,9 @@
 #include <algorithm>
 #include <memory>
 #include <new>
+#include <utility>
 
 namespace vornix {
-
-struct CellBlock::Header {
-    i32 handles = 1;
-    i32 cellsMade = 0;
-};
-
-namespace {
-
-// Room for the header, a multiple of a cell's alignment.
-constexpr std::size_t HeaderSize = 8;
-static_assert(HeaderSize % alignof(Cell) == 0);
-
-void* BlockOf(Cell* cells)
-{
-    return reinterpret_cast<std::byte*>(cells) - HeaderSize;
-}
-
-} // namespace
 
 CellBlock::CellBlock(int count)
     : cells_(Allocate(count))
@@ -32,39 +15,6 @@ CellBlock::CellBlock(int count)
 {
     std::uninitialized_value_construct_n(cells_, count);
     Counter().cellsMade = count;
-}
-
-CellBlock::CellBlock(const CellBlock& other) noexcept
-    : cells_(other.cells_)
-    , count_(other.count_)
-{
-    if (!cells_)
-        return;
-    other.Share();
-    mayBeShared_ = true;
-}
-
-CellBlock::CellBlock(CellBlock&& other) noexcept
-    : cells_(std::exchange(other.cells_, nullptr))
-    , count_(std::exchange(other.count_, 0))
-    , mayBeShared_(std::exchange(other.mayBeShared_, false))
-{
-}
-
-CellBlock& CellBlock::operator=(const CellBlock& other) noexcept
-{
-    return *this = CellBlock(other);
-}
-
-CellBlock& CellBlock::operator=(CellBlock&& other) noexcept
-{
-    if (this == &other)
-        return *this;
-    Release();
-    cells_ = std::exchange(other.cells_, nullptr);
-    count_ = std::exchange(other.count_, 0);
-    mayBeShared_ = std::exchange(other.mayBeShared_, false);
-    return *this;
 }
 
 void CellBlock::Resize(int count)
@@ -104,7 +54,7 @@ std::size_t CellBlock::HeapBytes() const
 {
     if (!cells_)
         return 0;
-    std::size_t bytes = HeaderSize + sizeof(Cell) * static_cast<std::size_t>(count_);
+    std::size_t bytes = sizeof(Header) + sizeof(Cell) * static_cast<std::size_t>(count_);
     for (const Cell& cell : All())
         bytes += cell.HeapBytes();
     return bytes;
@@ -112,42 +62,21 @@ std::size_t CellBlock::HeapBytes() const
 
 Cell* CellBlock::Allocate(int count)
 {
-    static_assert(sizeof(Header) <= HeaderSize);
-    const std::size_t size = HeaderSize + sizeof(Cell) * static_cast<std::size_t>(count);
-    void* block = OrOutOfMemory([&] { return ::operator new(size); });
-    new (block) Header;
-    return reinterpret_cast<Cell*>(static_cast<std::byte*>(block) + HeaderSize);
+    const std::size_t size = sizeof(Header) + sizeof(Cell) * static_cast<std::size_t>(count);
+    Header* header = static_cast<Header*>(OrOutOfMemory([&] { return ::operator new(size); }));
+    std::construct_at(header);
+    return reinterpret_cast<Cell*>(header + 1);
 }
 
 void CellBlock::Free(Cell* cells) noexcept
 {
-    std::destroy_n(cells, static_cast<Header*>(BlockOf(cells))->cellsMade);
-    ::operator delete(BlockOf(cells));
+    Header* header = reinterpret_cast<Header*>(cells) - 1;
+    std::destroy_n(cells, header->cellsMade);
+    ::operator delete(header);
 }
 
-CellBlock::Header& CellBlock::Counter() const
+void CellBlock::CopyCells()
 {
-    return *static_cast<Header*>(BlockOf(cells_));
-}
-
-void CellBlock::Share() const noexcept
-{
-    ++Counter().handles;
-    mayBeShared_ = true;
-}
-
-bool CellBlock::IsShareCounted() const
-{
-    if (Counter().handles > 1)
-        return true;
-    mayBeShared_ = false;
-    return false;
-}
-
-void CellBlock::DetachShared()
-{
-    if (!IsShareCounted())
-        return;
     CellBlock own;
     own.cells_ = Allocate(count_);
     // Should a copy fail, the cells made so far are destroyed there and `own` frees an empty block.
@@ -155,16 +84,6 @@ void CellBlock::DetachShared()
     own.Counter().cellsMade = count_;
     own.count_ = count_;
     *this = std::move(own);
-}
-
-void CellBlock::Release() noexcept
-{
-    if (!cells_)
-        return;
-    if (!mayBeShared_ || --Counter().handles == 0)
-        Free(cells_);
-    cells_ = nullptr;
-    count_ = 0;
 }
 
 } // namespace vornix

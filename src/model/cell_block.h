@@ -16,10 +16,32 @@ public:
     CellBlock() = default;
     // `count` default cells. Error 7 when memory runs out, here and wherever a shared block is written.
     explicit CellBlock(int count);
-    CellBlock(const CellBlock& other) noexcept;
-    CellBlock(CellBlock&& other) noexcept;
-    CellBlock& operator=(const CellBlock& other) noexcept;
-    CellBlock& operator=(CellBlock&& other) noexcept;
+    CellBlock(const CellBlock& other) noexcept
+        : cells_(other.cells_)
+        , count_(other.count_)
+    {
+        if (!cells_)
+            return;
+        ++other.Counter().handles;
+        other.mayBeShared_ = mayBeShared_ = true;
+    }
+    CellBlock(CellBlock&& other) noexcept
+        : cells_(std::exchange(other.cells_, nullptr))
+        , count_(std::exchange(other.count_, 0))
+        , mayBeShared_(std::exchange(other.mayBeShared_, false))
+    {
+    }
+    CellBlock& operator=(const CellBlock& other) noexcept { return *this = CellBlock(other); }
+    CellBlock& operator=(CellBlock&& other) noexcept
+    {
+        if (this == &other)
+            return *this;
+        std::swap(cells_, other.cells_);
+        std::swap(count_, other.count_);
+        std::swap(mayBeShared_, other.mayBeShared_);
+        other.Release();
+        return *this;
+    }
     ~CellBlock() { Release(); }
 
     int Count() const { return count_; }
@@ -57,24 +79,39 @@ public:
     std::size_t HeapBytes() const;
 
 private:
-    struct Header;
+    // In front of the cells.
+    struct Header {
+        i32 handles = 1;
+        i32 cellsMade = 0;
+    };
+    static_assert(sizeof(Header) % alignof(Cell) == 0);
 
-    // Room for `count` cells behind a header that says so; the cells are made by the caller.
+    // Room for `count` cells behind a header that says none is made yet.
     static Cell* Allocate(int count);
     static void Free(Cell* cells) noexcept;
     void Shrink(int count);
-    Header& Counter() const;
-    void Share() const noexcept;
-    bool IsShareCounted() const;
+    Header& Counter() const { return *(reinterpret_cast<Header*>(cells_) - 1); }
+    bool IsShareCounted() const
+    {
+        mayBeShared_ = Counter().handles > 1;
+        return mayBeShared_;
+    }
     void Detach()
     {
-        if (mayBeShared_)
-            DetachShared();
+        if (IsShared())
+            CopyCells();
     }
-    void DetachShared();
-    void Release() noexcept;
+    void CopyCells();
+    void Release() noexcept
+    {
+        if (cells_ && (!mayBeShared_ || --Counter().handles == 0))
+            Free(cells_);
+        cells_ = nullptr;
+        count_ = 0;
+        mayBeShared_ = false;
+    }
 
-    Cell* cells_ = nullptr; // behind the header
+    Cell* cells_ = nullptr;
     i32 count_ = 0; // of this handle; the block may hold more
     // False only when no other handle exists: then a write need not look at the header, which lies in another cache
     // line.

@@ -93,7 +93,8 @@ std::u16string_view CompactText::View(std::u16string& scratch) const
         return { WideUnits(Block()), BlockLength() };
     const u8* units = IsOnHeap() ? Block() + LengthSize : bytes_;
     const std::size_t length = Length();
-    OrOutOfMemory([&] { scratch.assign(units, units + length); });
+    OrOutOfMemory([&] { scratch.resize(length); });
+    std::copy_n(units, length, scratch.data());
     return scratch;
 }
 
@@ -109,15 +110,23 @@ bool CompactText::Equals(std::u16string_view text) const
 
 void CompactText::Assign(std::u16string_view text)
 {
-    const bool wide = !AllUnitsFitOneByte(text);
-    if (wide || text.size() > InlineCapacity) {
-        AssignToHeap(text, wide);
+    if (text.size() > InlineCapacity) {
+        AssignToHeap(text, !AllUnitsFitOneByte(text));
         return;
     }
     u8 units[sizeof bytes_] = {};
-    Narrow(text, units);
+    char16_t seen = 0;
+    for (std::size_t index = 0; index < text.size(); ++index) {
+        seen = static_cast<char16_t>(seen | text[index]);
+        units[index] = static_cast<u8>(text[index]);
+    }
+    if (seen >= 0x100) {
+        AssignToHeap(text, true);
+        return;
+    }
     units[TagIndex] = static_cast<u8>(text.size());
-    Clear();
+    if (IsOnHeap())
+        Free();
     std::memcpy(bytes_, units, sizeof bytes_);
 }
 

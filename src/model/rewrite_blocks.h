@@ -55,7 +55,7 @@ template <typename Rewrite>
 void RewriteBlocks(std::vector<Row>& rows, int first, int last, int prefetchCol, const Rewrite& rewrite)
 {
     // Far enough ahead to cover a trip to memory.
-    constexpr int PrefetchDistance = 16;
+    constexpr int PrefetchDistance = 64;
     const int count = static_cast<int>(rows.size());
     if (first > last)
         return;

@@ -9,12 +9,14 @@
 
 namespace vornix::viewer {
 
-// A grid holds at most 32767 rows and columns; one of each is the header and the row numbers.
+// A grid holds at most 32767 rows and columns, and some of them are no data.
 inline constexpr int MaxGridLines = 32767;
+inline constexpr int HeaderRows = 2; // the caption and the column names
+inline constexpr int HeaderColumns = 1; // the row numbers
 
 struct LoadLimits {
-    int maxRows = MaxGridLines - 1;
-    int maxColumns = MaxGridLines - 1;
+    int maxRows = MaxGridLines - HeaderRows;
+    int maxColumns = MaxGridLines - HeaderColumns;
     // UTF-16 units of one field; a longer one ends loading.
     std::size_t maxFieldLength = 1 << 20;
     // Rows beyond either of these are left out, like those beyond maxRows.

@@ -7,6 +7,7 @@
 #include "show.h"
 #include "text_output.h"
 
+#include <exception>
 #include <filesystem>
 #include <iostream>
 #include <new>
@@ -74,6 +75,8 @@ int Run(int count, const char* const* arguments)
         ReportLine(options.file.empty() ? error.what() : options.file + ": " + error.what());
     } catch (const std::bad_alloc&) {
         ReportLine(options.file + ": it does not fit into memory");
+    } catch (const std::exception& error) {
+        ReportLine(options.file + ": it cannot be shown (" + error.what() + ")");
     }
     return 1;
 }

@@ -156,8 +156,6 @@ private:
     void PresentTexts(i16 Col, ColumnKind kind)
     {
         grid_.SetColTextAlign(Col, TextAlignmentOf(kind));
-        if (kind == ColumnKind::Money)
-            grid_.SetColFormat(Col, u"#,##0.00");
         for (int row = 0; row < table_.RowCount(); ++row)
             grid_.SetText(static_cast<i16>(row), Col, table_.Text(row, Col));
     }

@@ -1,6 +1,7 @@
 // How a table looks in the grid: header, row numbers, alignment, check boxes, column widths.
 #pragma once
 
+#include "loading.h"
 #include "table.h"
 #include "vornix/platform/device.h"
 #include "vornix/vornix.h"
@@ -8,7 +9,7 @@
 namespace vornix::viewer {
 
 // Rows of the grid that are not data: the caption and the header.
-inline constexpr int HeaderLines = 2;
+inline constexpr int HeaderLines = HeaderRows;
 
 // Fills the grid and gives it its looks. Texts are measured on `device`, which has the grid's scale.
 void PresentTable(Vornix& grid, Device& device, const Table& table);

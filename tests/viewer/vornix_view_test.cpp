@@ -106,8 +106,8 @@ TEST(VornixView, SaysHowManyRowsOfHowManyItShows)
         rows += "1,2\n";
     const ProgramResult result = RunViewer({ "--text", folder.Write("many.csv", rows) });
     EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.error, "vornix-view: many.csv: the first 32,766 of 40,000 rows are shown\n");
-    EXPECT_EQ(std::count(result.output.begin(), result.output.end(), '\n'), 32767);
+    EXPECT_EQ(result.error, "vornix-view: many.csv: the first 32,765 of 40,000 rows are shown\n");
+    EXPECT_EQ(std::count(result.output.begin(), result.output.end(), '\n'), 32766);
 }
 
 TEST(VornixView, ShowsUnevenRowsWithANotice)
@@ -224,3 +224,34 @@ TEST(VornixView, KeepsItsMessageOnOneLineWhateverTheFileIsCalled)
     EXPECT_THAT(result.error, HasSubstr("two lines.csv: the file is empty\n"));
     EXPECT_EQ(std::count(result.error.begin(), result.error.end(), '\n'), 1);
 }
+
+#ifdef VORNIX_VIEW_DRAWS
+TEST(VornixView, TakesAPictureOfAsManyRowsAndColumnsAsAGridHolds)
+{
+    const ScratchFolder folder;
+    std::string rows = "id,x\n";
+    for (int row = 0; row < 40000; ++row)
+        rows += "1,2\n";
+    std::string columns = "1";
+    for (int column = 1; column < 32766; ++column)
+        columns += ",1";
+    for (const std::string& content : { rows, columns + '\n' }) {
+        const std::string picture = folder.Path("out.png");
+        const ProgramResult result
+            = RunViewer({ "--snapshot", picture, "--size", "300x200", folder.Write("a.csv", content) });
+        EXPECT_EQ(result.status, 0) << result.error;
+        EXPECT_EQ(result.output, picture + '\n');
+        EXPECT_THAT(Content(picture), StartsWith("\x89PNG\r\n"));
+        std::filesystem::remove(picture);
+    }
+}
+
+TEST(VornixView, LeavesNoPictureOfWhatItCannotRead)
+{
+    const ScratchFolder folder;
+    const std::string picture = folder.Path("out.png");
+    const std::string broken = folder.Write("a.csv", "a,b\n1,\xFF\n");
+    ExpectRefusal({ "--snapshot", picture, broken }, broken + ": line 2: invalid UTF-8 text");
+    EXPECT_FALSE(std::filesystem::exists(picture));
+}
+#endif

@@ -64,20 +64,20 @@ PaintPipeline::~PaintPipeline() = default;
 
 bool PaintPipeline::ShowsBackStore() const
 {
-    const Surface* const store = backStore_.hMemDC();
+    const Surface* const store = Store();
     return store && context_.container.WindowDevice().IsSamePicture(*store);
 }
 
 PaintJob PaintPipeline::JobForRepaint() const
 {
-    return { .target = backStore_.hMemDC() };
+    return { .target = Store() };
 }
 
 PaintJob PaintPipeline::JobForRefresh() const
 {
     if (ShowsBackStore())
-        return { .target = backStore_.hMemDC() };
-    return { .target = &context_.container.WindowDevice(), .mirror = backStore_.hMemDC() };
+        return { .target = Store() };
+    return { .target = &context_.container.WindowDevice(), .mirror = Store() };
 }
 
 void PaintPipeline::RepaintGrid()
@@ -101,7 +101,7 @@ void PaintPipeline::RepaintGrid()
 // The whole scale area, the strips below the bars included; the bars lie above it.
 void PaintPipeline::CopyToControl()
 {
-    const Surface* const store = backStore_.hMemDC();
+    const Surface* const store = Store();
     if (store && !ShowsBackStore())
         context_.container.WindowDevice().BitBlt(
             WholeOf(context_.container.ClientSize()), *store, {}, RasterOp::SrcCopy);
@@ -197,14 +197,21 @@ void PaintPipeline::ResizeBackStore(Size client)
         sizePending_ = client;
         return;
     }
+    lent_ = context_.container.BackStore(client);
+    if (!lent_)
+        BuildOwnBackStore(client);
+    firstPaintDone_ = true;
+    background_.MarkStale();
+}
+
+void PaintPipeline::BuildOwnBackStore(Size client)
+{
     bool rebuilt = false;
     Device& window = context_.container.WindowDevice();
     Surface* const store = backStore_.BuildMemDC(window, client.width, client.height, rebuilt);
     // Never shown as it comes: it may be a while until the first repaint.
     if (store && rebuilt)
         store->FillRect(WholeOf(store->GetSize()), window.GetBkColor());
-    firstPaintDone_ = true;
-    background_.MarkStale();
 }
 
 void PaintPipeline::FollowPendingRequests()
@@ -272,6 +279,7 @@ void PaintPipeline::Release()
         return;
     }
     releasePending_ = false;
+    lent_ = nullptr;
     backStore_.ClearMemDC();
     background_.SetPicture(nullptr);
     Settings.Picture = nullptr;

@@ -62,7 +62,7 @@ public:
     // The visible rectangle of the cell in progress.
     const Rect& CellRect() const { return walk_.CellRect(); }
     // Null before the first size is known, and when memory is short.
-    const Surface* BackStore() const { return backStore_.hMemDC(); }
+    const Surface* BackStore() const { return Store(); }
 
     // Full repaints, and cells painted one by one, since the counters were cleared.
     int Repaints() const { return repaints_; }
@@ -75,6 +75,7 @@ public:
 private:
     class Painting;
 
+    Surface* Store() const { return lent_ ? lent_ : backStore_.hMemDC(); }
     PaintJob JobForRepaint() const;
     PaintJob JobForRefresh() const;
     bool ShowsBackStore() const;
@@ -84,6 +85,7 @@ private:
     void CopyToControl();
     void FillStrip(ChildName bar);
 
+    void BuildOwnBackStore(Size client);
     void FollowPendingRequests();
 
     void PlaceSplitHandleOverCells();
@@ -94,6 +96,8 @@ private:
     BackgroundPicture background_;
     CellPainter painter_;
     PaintWalk walk_;
+    // The back store: the container's own picture where it lends one, otherwise a surface made for it.
+    Surface* lent_ = nullptr;
     cMemDC backStore_;
     bool repainted_ = false;
     bool firstPaintDone_ = false;

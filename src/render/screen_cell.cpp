@@ -1,5 +1,6 @@
 #include "render/screen_cell.h"
 
+#include "automation/checked.h"
 #include "automation/colors.h"
 #include "automation/format_patterns.h"
 #include "automation/text_conversions.h"
@@ -20,6 +21,11 @@ constexpr i32 FullOpacity = 100;
 bool Intersects(const Rect& rect, Size size)
 {
     return !rect.IsEmpty() && rect.left < size.width && rect.top < size.height && rect.right > 0 && rect.bottom > 0;
+}
+
+Rect WholeOf(const PictureObject& picture)
+{
+    return { 0, 0, picture.PixelWidth(), picture.PixelHeight() };
 }
 
 class DeviceTextMeasurer : public TextMeasurer {
@@ -210,7 +216,7 @@ ScreenCell::DrawnByHost ScreenCell::RaiseDrawCell()
     prepared_ = nullptr;
     {
         const RedrawGate::Closed closed(Context().gate);
-        Context().events.DrawCell(static_cast<i16>(publicRow), static_cast<i16>(publicCol), handle, cancel);
+        Context().events.DrawCell(ToI16(publicRow), ToI16(publicCol), handle, cancel);
     }
     if (job_.stopped || !AdoptSurface(handle))
         return DrawnByHost::CannotGoOn;
@@ -235,22 +241,40 @@ void ScreenCell::PaintPicture()
     if (!picture || picture->Handle() == 0)
         return;
     const bool stretched = (format_->PictureAlignment & vxStretch) != 0;
-    if (!stretched && picture->Type() == PictureType::Icon) {
-        const Point place = PicturePlace(format_->PictureAlignment, place_.size,
-            PicturePixelSize(*picture, painter_.twipsPerPixel_), Settings().GridLineWidth);
-        mem_->DrawIcon(place.x, place.y, *picture);
+    if (picture->Type() == PictureType::Icon) {
+        stretched ? PaintStretchedIcon(*picture) : PaintIcon(*picture);
         return;
     }
     Surface* const surface = painter_.pictures_.SurfaceOf(picture, *job_.target);
     if (!surface)
         return;
     if (stretched)
-        mem_->StretchBlt(Whole(), *surface, { 0, 0, picture->PixelWidth(), picture->PixelHeight() }, RasterOp::SrcCopy);
+        mem_->StretchBlt(Whole(), *surface, WholeOf(*picture), RasterOp::SrcCopy);
     else
-        PaintUnstretched(*surface);
+        PaintBitmap(*surface);
 }
 
-void ScreenCell::PaintUnstretched(Surface& picture)
+void ScreenCell::PaintIcon(const PictureObject& icon)
+{
+    const Size size = PicturePixelSize(icon, painter_.twipsPerPixel_);
+    const Point place = PicturePlace(format_->PictureAlignment, place_.size, size, Settings().GridLineWidth);
+    mem_->DrawIcon(place.x, place.y, icon);
+}
+
+// An icon has no stretched form of its own: it is drawn on the ground as it will be seen in the icon's size, and both
+// are stretched together.
+void ScreenCell::PaintStretchedIcon(const PictureObject& icon)
+{
+    const Rect whole = WholeOf(icon);
+    const std::unique_ptr<Surface> natural = job_.target->CreateCompatible({ whole.right, whole.bottom });
+    if (!natural)
+        return;
+    natural->StretchBlt(whole, *mem_, Whole(), RasterOp::SrcCopy);
+    natural->DrawIcon(0, 0, icon);
+    mem_->StretchBlt(Whole(), *natural, whole, RasterOp::SrcCopy);
+}
+
+void ScreenCell::PaintBitmap(Surface& picture)
 {
     const Size size = PicturePixelSize(*cell_->Picture(), painter_.twipsPerPixel_);
     const Point place = PicturePlace(format_->PictureAlignment, place_.size, size, Settings().GridLineWidth);

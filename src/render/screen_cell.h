@@ -28,7 +28,9 @@ private:
     DrawnByHost RaiseDrawCell();
     bool AdoptSurface(Hdc handle);
     void PaintPicture();
-    void PaintUnstretched(Surface& picture);
+    void PaintIcon(const PictureObject& icon);
+    void PaintStretchedIcon(const PictureObject& icon);
+    void PaintBitmap(Surface& picture);
     void ChooseCurrent();
     void PaintContent();
     void PaintText();

@@ -207,6 +207,16 @@ TEST_F(PictureTest, AnIconKeepsItsOwnTransparency)
     EXPECT_THAT(table.CellLines(), Contains("DrawIcon 21,2 8x6"));
 }
 
+TEST_F(PictureTest, AStretchedIconIsStretchedWithTheGroundBehindIt)
+{
+    Show(SolidPicture(8, 6, PictureType::Icon), vxStretch);
+    EXPECT_THAT(
+        table.CellLines(), ElementsAre("FillRect 0,0,50,20 #FFFFFF", "StretchBlt 0,0,50,20 from mem3 0,0,8,6 SRCCOPY"));
+    EXPECT_THAT(table.screen->LinesOf("mem3"),
+        ElementsAre("StretchBlt 0,0,8,6 from mem2 0,0,50,20 SRCCOPY", "DrawIcon 0,0 8x6"));
+    EXPECT_EQ(table.screen->surfacesAlive, 2);
+}
+
 TEST_F(PictureTest, AMaskColourMakesABitmapTransparent)
 {
     Show(SolidPicture(8, 6));

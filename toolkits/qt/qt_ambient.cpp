@@ -12,20 +12,32 @@ struct RoleOfIndex {
     QPalette::ColorGroup group;
 };
 
+constexpr int MenuFace = 4;
+constexpr int MenuText = 7;
+constexpr int WorkspaceGround = 12;
+constexpr int TipText = 23;
+constexpr int TipGround = 24;
+
+// Both systems name the edges of a raised button by their brightness: highlight, light, face, shadow, dark shadow.
 constexpr RoleOfIndex roles[] = {
-    { 0, QPalette::Midlight, QPalette::Active },
+    { SystemColor::ScrollBar, QPalette::Midlight, QPalette::Active },
+    { MenuFace, QPalette::Window, QPalette::Active },
     { SystemColor::Window, QPalette::Base, QPalette::Active },
-    { SystemColor::WindowFrame, QPalette::Dark, QPalette::Active },
+    { SystemColor::WindowFrame, QPalette::Shadow, QPalette::Active },
+    { MenuText, QPalette::WindowText, QPalette::Active },
     { SystemColor::WindowText, QPalette::Text, QPalette::Active },
+    { WorkspaceGround, QPalette::Mid, QPalette::Active },
     { SystemColor::Highlight, QPalette::Highlight, QPalette::Active },
     { SystemColor::HighlightText, QPalette::HighlightedText, QPalette::Active },
     { SystemColor::ButtonFace, QPalette::Button, QPalette::Active },
-    { SystemColor::ButtonShadow, QPalette::Mid, QPalette::Active },
+    { SystemColor::ButtonShadow, QPalette::Dark, QPalette::Active },
     { SystemColor::GrayText, QPalette::Text, QPalette::Disabled },
     { SystemColor::ButtonText, QPalette::ButtonText, QPalette::Active },
     { SystemColor::ButtonHighlight, QPalette::Light, QPalette::Active },
-    { SystemColor::DarkShadow, QPalette::Dark, QPalette::Active },
+    { SystemColor::DarkShadow, QPalette::Shadow, QPalette::Active },
     { SystemColor::Light, QPalette::Midlight, QPalette::Active },
+    { TipText, QPalette::ToolTipText, QPalette::Active },
+    { TipGround, QPalette::ToolTipBase, QPalette::Active },
 };
 
 ColorRef ColorFrom(const QColor& color)
@@ -43,18 +55,27 @@ SystemColors SystemColorsFrom(const QPalette& palette)
     return colors;
 }
 
-FontPtr FontFrom(const QFont& font)
+FontPtr FontFrom(const QFont& font, int dotsPerInch)
 {
+    constexpr double PointsPerInch = 72;
+    constexpr double PixelsPerInch = 96;
     auto object = std::make_shared<FontObject>();
-    const QFontInfo info(font);
-    object->Name = FromQString(info.family());
-    // A font given in pixels has no point size of its own; the one it comes out as is asked for.
-    object->Size = font.pointSizeF() > 0 ? font.pointSizeF() : info.pointSizeF();
+    object->Name = FromQString(QFontInfo(font).family());
+    // A font given in pixels has no point size.
+    const double pixels
+        = font.pointSizeF() > 0 ? font.pointSizeF() * dotsPerInch / PointsPerInch : double { 1 } * font.pixelSize();
+    object->Size = pixels * PointsPerInch / PixelsPerInch;
     object->Bold = font.bold();
     object->Italic = font.italic();
     object->Underline = font.underline();
     object->Strikethrough = font.strikeOut();
     return object;
+}
+
+bool SameFont(const FontObject& a, const FontObject& b)
+{
+    return a.Name == b.Name && a.Size == b.Size && a.Bold == b.Bold && a.Italic == b.Italic
+        && a.Underline == b.Underline && a.Strikethrough == b.Strikethrough;
 }
 
 } // namespace vornix

@@ -14,7 +14,9 @@
 namespace vornix {
 
 SystemColors SystemColorsFrom(const QPalette& palette);
-FontPtr FontFrom(const QFont& font);
+// The size in points of 1/72 inch at 96 pixels an inch, whatever the resolution that Qt reckons with.
+FontPtr FontFrom(const QFont& font, int dotsPerInch);
+bool SameFont(const FontObject& a, const FontObject& b);
 
 inline QString ToQString(std::u16string_view text)
 {

@@ -8,6 +8,7 @@ QWidget& QtChildWindow::Window()
         window_ = new QWidget(&parent_);
         window_->setAutoFillBackground(true);
         window_->setVisible(false);
+        window_->setEnabled(enabled_);
     }
     return *window_;
 }
@@ -31,8 +32,9 @@ void QtChildWindow::Show(bool visible)
     visible_ = visible;
     if (!visible && !window_)
         return;
-    Window().setVisible(visible);
+    Window();
     ApplyPlace();
+    Window().setVisible(visible);
 }
 
 void QtChildWindow::SetEnabled(bool enabled)

@@ -15,6 +15,9 @@ public:
     {
     }
 
+    // The client area has moved within the widget.
+    void FollowParent() { ApplyPlace(); }
+
     void Move(const Rect& place) override;
     Rect Place() const override { return place_; }
     void Show(bool visible) override;

@@ -9,10 +9,13 @@
 #include <QClipboard>
 #include <QCursor>
 #include <QMessageBox>
+#include <QPointer>
 #include <QScreen>
 #include <QSettings>
 
 #include <algorithm>
+#include <new>
+#include <utility>
 
 namespace vornix {
 
@@ -25,13 +28,17 @@ constexpr int PixelsPerInch = 96;
 constexpr int LeftButton = 1;
 constexpr int RightButton = 2;
 constexpr int MiddleButton = 4;
+// Pixels are 16 bits in the control.
+constexpr int LargestSize = 32767;
 
 class QtSettings final : public SettingsStore {
 public:
     std::u16string GetSetting(std::u16string_view application, std::u16string_view section, std::u16string_view key,
         std::u16string_view fallback) override
     {
-        const QSettings settings = Open(application);
+        QSettings settings = Open(application);
+        // The user's own settings, not those of the machine.
+        settings.setFallbacksEnabled(false);
         return FromQString(settings.value(KeyOf(section, key), ToQString(fallback)).toString());
     }
 
@@ -80,48 +87,77 @@ QtContainer::QtContainer(QFrame& widget)
     for (auto& child : children_)
         child = std::make_unique<QtChildWindow>(widget_);
     ReadAmbient();
-    FitTo(widget_.contentsRect().size(), widget_.devicePixelRatioF());
+    FitToWidget();
+    // The control needs a device from its first call on, long before the widget has its size.
+    auto surface = MakeSurface({ 1, 1 });
+    if (!surface)
+        throw std::bad_alloc();
+    UseSurface(std::move(surface));
 }
 
 QtContainer::~QtContainer() = default;
 
-void QtContainer::ReadAmbient()
+bool QtContainer::ReadAmbient()
 {
-    colors_ = SystemColorsFrom(widget_.palette());
-    if (window_)
+    const SystemColors colors = SystemColorsFrom(widget_.palette());
+    FontPtr font = FontFrom(widget_.font(), widget_.logicalDpiY());
+    if (font_ && colors == colors_ && SameFont(*font, *font_))
+        return false;
+    colors_ = colors;
+    font_ = std::move(font);
+    if (window_) {
         window_->SetSystemColors(colors_);
-    font_ = FontFrom(widget_.font());
+        window_->SetBkColor(colors_.values[SystemColor::Window]);
+    }
+    return true;
 }
 
-bool QtContainer::FitTo(QSize client, double devicePixelRatio)
+bool QtContainer::FitToWidget()
 {
-    client_ = { std::max(client.width(), 0), std::max(client.height(), 0) };
-    const bool rescaled = devicePixelRatio != scale_ || !window_;
-    scale_ = devicePixelRatio;
-    if (rescaled || surfaceSize_.width < client_.width || surfaceSize_.height < client_.height)
-        MakeWindowSurface({ std::max(client_.width, 1), std::max(client_.height, 1) });
-    return rescaled;
+    const QSize client = widget_.contentsRect().size().expandedTo({ 0, 0 }).boundedTo({ LargestSize, LargestSize });
+    const Size size { client.width(), client.height() };
+    const double scale = widget_.devicePixelRatioF();
+    if (size == client_ && scale == scale_)
+        return false;
+    client_ = size;
+    scale_ = scale;
+    for (const auto& child : children_)
+        child->FollowParent();
+    return true;
 }
 
-void QtContainer::MakeWindowSurface(Size size)
+std::unique_ptr<RasterSurface> QtContainer::MakeSurface(Size size) const
+{
+    auto surface = RasterSurface::Create(size, scale_, colors_);
+    if (!surface)
+        return nullptr;
+    const ColorRef ground = colors_.values[SystemColor::Window];
+    surface->SetBkColor(ground);
+    surface->FillRect({ 0, 0, size.width, size.height }, ground);
+    return surface;
+}
+
+// The image shares the surface's memory; nothing is copied on the way to the screen.
+void QtContainer::UseSurface(std::unique_ptr<RasterSurface> surface)
 {
     picture_ = QImage();
-    window_ = RasterSurface::Create(size, scale_, colors_);
-    surfaceSize_ = size;
-    const ColorRef ground = colors_.values[SystemColor::Window];
-    window_->SetBkColor(ground);
-    window_->FillRect({ 0, 0, size.width, size.height }, ground);
-    // The image shares the surface's memory; nothing is copied on the way to the screen.
+    window_ = std::move(surface);
     const DevicePixels pixels = window_->Pixels();
     picture_ = QImage(reinterpret_cast<uchar*>(pixels.data), pixels.width, pixels.height,
         pixels.stride * qsizetype { sizeof(u32) }, QImage::Format_RGB32);
-    picture_.setDevicePixelRatio(scale_);
 }
 
+// The window's picture is the back store itself. It only grows, but starts over at another resolution. When memory is
+// short, the one that is there has to do.
 Surface* QtContainer::BackStore(Size size)
 {
-    if (surfaceSize_.width < size.width || surfaceSize_.height < size.height)
-        MakeWindowSurface({ std::max(size.width, surfaceSize_.width), std::max(size.height, surfaceSize_.height) });
+    const bool rescaled = window_->Scale() != scale_;
+    const Size present = rescaled ? Size { 1, 1 } : window_->GetSize();
+    const Size needed { std::max(size.width, present.width), std::max(size.height, present.height) };
+    if (rescaled || needed != present) {
+        if (auto surface = MakeSurface(needed))
+            UseSurface(std::move(surface));
+    }
     return window_.get();
 }
 
@@ -146,6 +182,9 @@ std::intptr_t QtContainer::WindowHandle() const
 
 void QtContainer::SetExtendedStyle(u32 style)
 {
+    if (style == extendedStyle_)
+        return;
+    extendedStyle_ = style;
     int shape = QFrame::NoFrame;
     int lineWidth = 0;
     if (style & ClientEdge) {
@@ -155,12 +194,9 @@ void QtContainer::SetExtendedStyle(u32 style)
         shape = static_cast<int>(QFrame::Panel) | static_cast<int>(QFrame::Sunken);
         lineWidth = 1;
     }
-    if (widget_.frameStyle() == shape)
-        return;
-    widget_.setFrameStyle(shape);
+    // The widget tells of its narrower or wider client area by an event of its own.
     widget_.setLineWidth(lineWidth);
-    FitTo(widget_.contentsRect().size(), scale_);
-    widget_.update();
+    widget_.setFrameStyle(shape);
 }
 
 void QtContainer::PictureChanged(const Rect& area)
@@ -177,7 +213,13 @@ bool QtContainer::SetFocus()
 
 void QtContainer::SetPointerShape(PointerShape shape)
 {
-    widget_.setCursor(CursorOf(shape));
+    if (shape == pointer_)
+        return;
+    pointer_ = shape;
+    if (shape == PointerShape::Default)
+        widget_.unsetCursor();
+    else
+        widget_.setCursor(CursorOf(shape));
 }
 
 bool QtContainer::IsKeyDown(int code) const
@@ -221,14 +263,16 @@ void QtContainer::SetClipboardText(std::u16string_view text)
 
 void QtContainer::ShowMessage(std::u16string_view title, std::u16string_view text, MessageIcon icon)
 {
-    QMessageBox box(&widget_);
-    box.setWindowTitle(ToQString(title));
-    box.setText(ToQString(text));
+    // Not on the stack: the widget may be gone, and its children with it, when the box closes.
+    const QPointer<QMessageBox> box = new QMessageBox(&widget_);
+    box->setWindowTitle(ToQString(title));
+    box->setText(ToQString(text));
     if (icon == MessageIcon::Exclamation)
-        box.setIcon(QMessageBox::Warning);
+        box->setIcon(QMessageBox::Warning);
     else if (icon == MessageIcon::Information)
-        box.setIcon(QMessageBox::Information);
-    box.exec();
+        box->setIcon(QMessageBox::Information);
+    box->exec();
+    delete box;
 }
 
 } // namespace vornix

@@ -19,12 +19,15 @@ public:
     explicit QtContainer(QFrame& widget);
     ~QtContainer() override;
 
-    // The picture to show: what it lies in, how large it is, and whether there is any.
+    // The picture to show: device pixels, as large as the largest client area so far, and how many of them are one
+    // logical pixel.
     const QImage& Picture() const { return picture_; }
-    // Takes palette and font of the widget over.
-    void ReadAmbient();
-    // The client area in logical pixels and the screen's resolution; true when the resolution changed.
-    bool FitTo(QSize client, double devicePixelRatio);
+    double PictureScale() const { return window_->Scale(); }
+    // Takes palette and font of the widget over; false when they are as before.
+    bool ReadAmbient();
+    // Takes client area and resolution of the widget over; false when they are as before. The picture follows when the
+    // control next asks for its back store.
+    bool FitToWidget();
     // Called when part of the picture changed, in client coordinates.
     std::function<void(const QRect&)> OnPictureChanged;
 
@@ -52,7 +55,8 @@ public:
     void ShowMessage(std::u16string_view title, std::u16string_view text, MessageIcon icon) override;
 
 private:
-    void MakeWindowSurface(Size size);
+    std::unique_ptr<RasterSurface> MakeSurface(Size size) const;
+    void UseSurface(std::unique_ptr<RasterSurface> surface);
 
     QFrame& widget_;
     FontPtr font_;
@@ -61,7 +65,8 @@ private:
     const Locale* locale_;
     Size client_;
     double scale_ = 1.0;
-    Size surfaceSize_;
+    u32 extendedStyle_ = 0;
+    PointerShape pointer_ = PointerShape::Default;
     std::unique_ptr<RasterSurface> window_;
     QImage picture_;
     QTimer timer_;

@@ -1,10 +1,13 @@
 #include "vornix/qvornix.h"
 
+#include "picture_painter.h"
 #include "qt_container.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QPainter>
 #include <QPaintEvent>
+#include <QScopedValueRollback>
 
 namespace vornix {
 
@@ -17,10 +20,17 @@ public:
     void WriteProperty(std::string_view, const BagValue&) override { }
 };
 
+// For widgets without handlers. It has no state, so one serves them all.
+VornixEvents& NoEvents()
+{
+    static VornixEvents events;
+    return events;
+}
+
 } // namespace
 
 QVornix::QVornix(QWidget* parent)
-    : QVornix(noEvents_, parent)
+    : QVornix(NoEvents(), parent)
 {
 }
 
@@ -30,17 +40,16 @@ QVornix::QVornix(VornixEvents& events, QWidget* parent)
     , grid_(std::make_unique<Vornix>(*container_, events))
 {
     setFocusPolicy(Qt::StrongFocus);
-    // Every pixel of the client area comes from the grid's picture.
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    // Every pixel of the client area comes from the grid's picture, and the frame is filled before it is drawn.
     setAttribute(Qt::WA_OpaquePaintEvent);
-    container_->OnPictureChanged = [this](const QRect& area) {
-        if (!painting_)
-            update(area.translated(Client().topLeft()));
-    };
+    container_->OnPictureChanged = [this](const QRect& area) { UpdatePart(area); };
     grid_->ReadProperties(EmptyBag());
 }
 
 QVornix::~QVornix()
 {
+    Q_ASSERT_X(!grid_->IsInCall(), "QVornix", "deleted inside one of its own events; use deleteLater()");
     container_->OnPictureChanged = nullptr;
     grid_->Terminate();
 }
@@ -70,52 +79,93 @@ QRect QVornix::Client() const
     return contentsRect();
 }
 
-void QVornix::FitToWidget()
+// News from Qt. A grid that is closed, or not yet made, hears nothing; above Qt nobody could take an error.
+template <typename Step> void QVornix::TellGrid(const Step& step)
 {
-    container_->FitTo(Client().size(), devicePixelRatioF());
-    grid_->Resize();
-    update();
+    if (!grid_ || grid_->IsTerminated())
+        return;
+    try {
+        step(*grid_);
+    } catch (const AutomationError& error) {
+        qWarning("QVornix: error %d, %s", error.Number(), error.what());
+    }
+}
+
+void QVornix::FollowWidget()
+{
+    if (container_ && container_->FitToWidget())
+        TellGrid([](Vornix& grid) { grid.Resize(); });
+}
+
+// At a fractional scale an edge of the area may lie inside a device pixel, of which Qt would repaint one side only.
+void QVornix::UpdatePart(const QRect& area)
+{
+    if (!painting_)
+        update(area.translated(Client().topLeft()).adjusted(-1, -1, 1, 1) & Client());
 }
 
 bool QVornix::event(QEvent* event)
 {
     const bool handled = QFrame::event(event);
-    // The window may have moved to a screen of another resolution.
-    if (event->type() == QEvent::ScreenChangeInternal)
-        FitToWidget();
+    switch (event->type()) {
+    case QEvent::ContentsRectChange:
+    case QEvent::ScreenChangeInternal:
+#if QT_VERSION >= QT_VERSION_CHECK(6, 6, 0)
+    case QEvent::DevicePixelRatioChange:
+#endif
+        FollowWidget();
+        break;
+    default:
+        break;
+    }
     return handled;
 }
 
 void QVornix::paintEvent(QPaintEvent* event)
 {
-    if (container_->FitTo(Client().size(), devicePixelRatioF()))
-        grid_->Resize();
-    painting_ = true;
-    grid_->Paint();
-    painting_ = false;
-
-    QFrame::paintEvent(event);
+    // The resolution may have changed without a word; then all of the widget is repainted next.
+    FollowWidget();
+    {
+        const QScopedValueRollback<bool> painting(painting_, true);
+        TellGrid([](Vornix& grid) { grid.Paint(); });
+    }
     QPainter painter(this);
-    const QRect dirty = event->rect() & Client();
-    const double scale = container_->Picture().devicePixelRatio();
-    const QPoint inPicture = dirty.topLeft() - Client().topLeft();
-    const QRectF source(inPicture.x() * scale, inPicture.y() * scale, dirty.width() * scale, dirty.height() * scale);
-    painter.drawImage(QRectF(dirty), container_->Picture(), source);
+    if (!Client().contains(event->rect()))
+        DrawFrame(painter, event->region());
+    DrawPicture(painter, event->region());
 }
 
-void QVornix::resizeEvent(QResizeEvent*)
+void QVornix::DrawFrame(QPainter& painter, const QRegion& dirty)
 {
-    FitToWidget();
+    // One pixel more than the frame: at a fractional scale the picture may begin that much later.
+    for (const QRect& part : (QRegion(rect()) - Client().adjusted(1, 1, -1, -1)) & dirty)
+        painter.fillRect(part, palette().window());
+    drawFrame(&painter);
+}
+
+void QVornix::DrawPicture(QPainter& painter, const QRegion& dirty)
+{
+    const PicturePainter picture(container_->Picture(), container_->PictureScale(), Client());
+    if (!picture.CoversClient())
+        painter.fillRect(Client(), palette().base());
+    picture.Paint(painter, dirty & Client());
+}
+
+void QVornix::resizeEvent(QResizeEvent* event)
+{
+    QFrame::resizeEvent(event);
+    container_->FitToWidget();
+    TellGrid([](Vornix& grid) { grid.Resize(); });
 }
 
 void QVornix::showEvent(QShowEvent*)
 {
-    grid_->Show();
+    TellGrid([](Vornix& grid) { grid.Show(); });
 }
 
 void QVornix::hideEvent(QHideEvent*)
 {
-    grid_->Hide();
+    TellGrid([](Vornix& grid) { grid.Hide(); });
 }
 
 void QVornix::changeEvent(QEvent* event)
@@ -123,19 +173,23 @@ void QVornix::changeEvent(QEvent* event)
     QFrame::changeEvent(event);
     if (event->type() != QEvent::PaletteChange && event->type() != QEvent::FontChange)
         return;
-    container_->ReadAmbient();
-    grid_->Resize();
-    update();
+    if (!container_ || !container_->ReadAmbient())
+        return;
+    // There is no notice of its own for this; a new layout draws all cells in the new colours.
+    TellGrid([](Vornix& grid) { grid.Resize(); });
 }
 
 void QVornix::focusInEvent(QFocusEvent*)
 {
-    grid_->EnterFocus();
+    TellGrid([](Vornix& grid) { grid.EnterFocus(); });
 }
 
-void QVornix::focusOutEvent(QFocusEvent*)
+void QVornix::focusOutEvent(QFocusEvent* event)
 {
-    grid_->ExitFocus();
+    // A menu, or a child window of the grid, takes the focus for a while; the grid keeps it.
+    const bool stays = event->reason() == Qt::PopupFocusReason || isAncestorOf(QApplication::focusWidget());
+    if (!stays)
+        TellGrid([](Vornix& grid) { grid.ExitFocus(); });
 }
 
 } // namespace vornix

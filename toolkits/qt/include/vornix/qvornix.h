@@ -8,6 +8,8 @@
 
 #include <memory>
 
+class QPainter;
+
 namespace vornix {
 
 class QtContainer;
@@ -18,18 +20,23 @@ class QtContainer;
 //     QVornix table;
 //     table.Grid().SetRows(100);
 //     table.show();
+//
+// Inside an event of the grid the widget is deleted by deleteLater() only; Grid().Terminate() closes the grid at once
+// and leaves a widget that shows its last picture.
 class QVornix : public QFrame {
     Q_OBJECT
 
 public:
     explicit QVornix(QWidget* parent = nullptr);
-    // With the host's event handlers, which must outlive the widget.
+    // With the host's event handlers, which must outlive the widget. An AutomationError that leaves a handler while Qt
+    // calls the widget (to paint it, say) goes to Qt's log; any other exception is the host's own matter.
     explicit QVornix(VornixEvents& events, QWidget* parent = nullptr);
     ~QVornix() override;
 
     Vornix& Grid();
     const Vornix& Grid() const;
-    // The device that the grid is drawn on, for measuring texts before the widget is shown.
+    // The device that the grid is drawn on, for measuring texts before the widget is shown. A new one may take its
+    // place whenever the widget changes its size or resolution.
     Device& MeasuringDevice();
 
     QSize sizeHint() const override;
@@ -45,10 +52,13 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    void FitToWidget();
+    template <typename Step> void TellGrid(const Step& step);
+    void FollowWidget();
     QRect Client() const;
+    void UpdatePart(const QRect& area);
+    void DrawFrame(QPainter& painter, const QRegion& dirty);
+    void DrawPicture(QPainter& painter, const QRegion& dirty);
 
-    VornixEvents noEvents_;
     std::unique_ptr<QtContainer> container_;
     std::unique_ptr<Vornix> grid_;
     bool painting_ = false;

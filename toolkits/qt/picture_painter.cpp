@@ -1,0 +1,77 @@
+#include "picture_painter.h"
+
+#include <QPainter>
+#include <QTransform>
+
+#include <cmath>
+
+namespace vornix {
+
+namespace {
+
+int DeviceEdge(int logical, double scale)
+{
+    return static_cast<int>(std::floor(logical * scale + 0.5));
+}
+
+} // namespace
+
+PicturePainter::PicturePainter(const QImage& picture, double scale, const QRect& client)
+    : picture_(picture)
+    , scale_(scale)
+    , client_(client)
+    , shown_(0, 0, DeviceEdge(client.width(), scale), DeviceEdge(client.height(), scale))
+{
+}
+
+bool PicturePainter::CoversClient() const
+{
+    return picture_.rect().contains(shown_);
+}
+
+void PicturePainter::Paint(QPainter& painter, const QRegion& dirty) const
+{
+    if (!PaintPixelByPixel(painter, dirty))
+        PaintScaled(painter);
+}
+
+// A pixel more at each side, as the part's edges and the client area's corner may lie inside device pixels. Qt clips.
+QRect PicturePainter::DeviceRectAround(const QRect& part) const
+{
+    const QRect logical = part.translated(-client_.topLeft());
+    const QPoint first(DeviceEdge(logical.left(), scale_) - 1, DeviceEdge(logical.top(), scale_) - 1);
+    const QPoint end(
+        DeviceEdge(logical.x() + logical.width(), scale_) + 1, DeviceEdge(logical.y() + logical.height(), scale_) + 1);
+    return QRect(first, QSize(end.x() - first.x(), end.y() - first.y())) & shown_ & picture_.rect();
+}
+
+// False when the painter draws at another resolution than the picture's, as onto a page or a rotated scene.
+bool PicturePainter::PaintPixelByPixel(QPainter& painter, const QRegion& dirty) const
+{
+    const QTransform toDevice = painter.deviceTransform();
+    const bool sameScale = toDevice.type() <= QTransform::TxScale && qFuzzyCompare(toDevice.m11(), scale_)
+        && qFuzzyCompare(toDevice.m22(), scale_);
+    if (!sameScale)
+        return false;
+    const QPoint corner = toDevice.map(QPointF(client_.topLeft())).toPoint();
+    painter.save();
+    painter.setWorldTransform(
+        QTransform::fromTranslate(corner.x(), corner.y()) * toDevice.inverted() * painter.worldTransform());
+    for (const QRect& part : dirty) {
+        const QRect source = DeviceRectAround(part);
+        painter.drawImage(source.topLeft(), picture_, source);
+    }
+    painter.restore();
+    return true;
+}
+
+void PicturePainter::PaintScaled(QPainter& painter) const
+{
+    const QRectF target(client_.x(), client_.y(), shown_.width() / scale_, shown_.height() / scale_);
+    painter.save();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(target, picture_, shown_);
+    painter.restore();
+}
+
+} // namespace vornix

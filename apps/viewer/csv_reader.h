@@ -9,8 +9,7 @@ namespace vornix::viewer {
 class InputFile;
 
 // Finds out encoding, separator and header by looking, then reads the file to its end, so that every fault in it is
-// found and every row counted. Rows that differ in their number of fields are filled up or widen the table, and a
-// notice says so; when fewer than half of the rows agree on a number, the file is refused. Raises LoadError.
+// found and every row counted. Raises LoadError, for rows that differ in their number of fields too.
 Table ReadCsv(InputFile& file, const LoadLimits& limits, const ProgressFunction& progress);
 
 } // namespace vornix::viewer

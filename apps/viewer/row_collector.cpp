@@ -5,16 +5,15 @@
 #include "notices.h"
 #include "unicode.h"
 
-#include <algorithm>
+#include <iterator>
+#include <map>
 
 namespace vornix::viewer {
 
 void RowCollector::Add(const CsvParser::Record& record)
 {
     ++rowCount_;
-    FieldCount& count = fieldCounts_[record.fields.size()];
-    if (++count.rows == 1)
-        count.firstLine = record.line;
+    firstLineOfCount_.try_emplace(record.fields.size(), record.line);
     isFull_ = isFull_ || !HasRoom(record.fields.size());
     if (!isFull_)
         table_.AppendRow(record.fields);
@@ -31,8 +30,8 @@ Table RowCollector::Finish()
 {
     if (rowCount_ == 0)
         throw LoadError("there is nothing in it but blank lines");
-    JudgeUnevenRows();
-    NameColumns(false, fieldCounts_.rbegin()->first);
+    RequireEvenRows();
+    NameColumns(false, firstLineOfCount_.rbegin()->first);
     if (HasHeader(table_))
         TakeHeader();
     while (table_.RowCount() > limits_.maxRows)
@@ -43,34 +42,19 @@ Table RowCollector::Finish()
     return std::move(table_);
 }
 
-std::size_t RowCollector::UsualFieldCount() const
+// A row with a field too few or too many has lost its place: guessing which column is missing would show wrong data.
+void RowCollector::RequireEvenRows() const
 {
-    const auto usual = std::max_element(fieldCounts_.begin(), fieldCounts_.end(),
-        [](const auto& a, const auto& b) { return a.second.rows < b.second.rows; });
-    return usual->first;
-}
-
-void RowCollector::JudgeUnevenRows()
-{
-    if (fieldCounts_.size() == 1)
+    if (firstLineOfCount_.size() == 1)
         return;
-    const std::size_t usual = UsualFieldCount();
-    const std::uint64_t unevenRows = rowCount_ - fieldCounts_[usual].rows;
-    const FieldCount* first = nullptr;
-    std::size_t fields = 0;
-    for (const auto& [count, rows] : fieldCounts_) {
-        if (count == usual || (first && first->firstLine < rows.firstLine))
-            continue;
-        first = &rows;
-        fields = count;
-    }
-    const std::string place = "line " + std::to_string(first->firstLine);
-    if (unevenRows * 2 > rowCount_)
-        throw LoadError(place + ": the rows are too uneven for a table: this one has " + Counted(fields, "field")
-            + ", and fewer than half of all agree on any number");
-    table_.AddNotice(Counted(unevenRows, "row") + (unevenRows == 1 ? " does" : " do") + " not have "
-        + Counted(usual, "field") + " like the others (first " + place + " with " + std::to_string(fields)
-        + "); what is missing is shown empty");
+    std::map<std::uint64_t, std::size_t> fieldsByFirstLine;
+    for (const auto& [fields, line] : firstLineOfCount_)
+        fieldsByFirstLine.emplace(line, fields);
+    const auto first = fieldsByFirstLine.begin();
+    const auto other = std::next(first);
+    throw LoadError("line " + std::to_string(other->first) + ": the rows are ragged: this one has "
+        + Counted(other->second, "field") + ", line " + std::to_string(first->first) + " has "
+        + std::to_string(first->second));
 }
 
 void RowCollector::NameColumns(bool hasHeader, std::size_t columns)

@@ -19,20 +19,13 @@ public:
     void Add(const CsvParser::Record& record);
     std::uint64_t RowCount() const { return rowCount_; }
 
-    // The table with header, kinds and notices. Raises LoadError for a file without rows, or where the rows have
-    // next to nothing in common.
+    // The table with header, kinds and notices. Raises LoadError for a file without rows, and for rows that do
+    // not all have the same number of fields.
     Table Finish();
 
 private:
-    struct FieldCount {
-        std::uint64_t rows = 0;
-        std::uint64_t firstLine = 0;
-    };
-
     bool HasRoom(std::size_t fields) const;
-    // The number of fields that most rows have; the smallest where two are equally frequent.
-    std::size_t UsualFieldCount() const;
-    void JudgeUnevenRows();
+    void RequireEvenRows() const;
     void NameColumns(bool hasHeader, std::size_t columns);
     void TakeHeader();
 
@@ -40,7 +33,8 @@ private:
     Table table_;
     bool isFull_ = false;
     std::uint64_t rowCount_ = 0;
-    std::map<std::size_t, FieldCount> fieldCounts_;
+    // The line where each number of fields was first met.
+    std::map<std::size_t, std::uint64_t> firstLineOfCount_;
 };
 
 } // namespace vornix::viewer

@@ -123,23 +123,11 @@ TEST(ReadCsv, ObeysALineThatNamesTheSeparator)
     EXPECT_EQ(Cell(table, 0, 1), "a,b");
 }
 
-TEST(ReadCsv, FillsUpShortRowsAndWidensForLongOnes)
+TEST(ReadCsv, RefusesRaggedRows)
 {
-    const Table table = Read("a,b,c\n1,2,3\n1\n1,2,3\n1,2,3,4\n1,2,3\n");
-    EXPECT_THAT(Names(table), ElementsAre("a", "b", "c", "Column 4"));
-    EXPECT_TRUE(table.IsNull(1, 1));
-    EXPECT_TRUE(table.IsNull(0, 3));
-    EXPECT_EQ(Cell(table, 3, 3), "4");
-    EXPECT_THAT(table.Notices(),
-        ElementsAre(
-            "2 rows do not have 3 fields like the others (first line 3 with 1); what is missing is shown empty"));
-}
-
-TEST(ReadCsv, RefusesRowsThatHaveNothingInCommon)
-{
-    EXPECT_EQ(MessageOf("a,b,c\n1,2\n3,4,5,6\n"),
-        "line 1: the rows are too uneven for a table: this one has 3 fields, and fewer than half of all agree on any "
-        "number");
+    EXPECT_EQ(
+        MessageOf("a,b,c\n1,2,3\n1\n1,2,3,4\n"), "line 3: the rows are ragged: this one has 1 field, line 1 has 3");
+    EXPECT_EQ(MessageOf("a,b\n\n1,2\n1,2,3\n"), "line 4: the rows are ragged: this one has 3 fields, line 1 has 2");
 }
 
 TEST(ReadCsv, ShowsAHeaderWithoutRows)

@@ -1,54 +1,15 @@
 // Every allocation of every operation made to fail once: error 7, and the store stays whole.
-#include "model/hidden_lines.h"
+#include "model/limited_memory.h"
 #include "model/spans.h"
 #include "model/store_support.h"
 #include "model/visual_cell_store.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <functional>
-#include <new>
-
-namespace {
-
-constexpr int Unlimited = -1;
-int allocationsLeft = Unlimited;
-
-} // namespace
-
-void* operator new(std::size_t size)
-{
-    if (allocationsLeft == 0)
-        throw std::bad_alloc();
-    if (allocationsLeft > 0)
-        --allocationsLeft;
-    if (void* memory = std::malloc(size == 0 ? 1 : size))
-        return memory;
-    throw std::bad_alloc();
-}
-
-void operator delete(void* memory) noexcept
-{
-    std::free(memory);
-}
-
-void operator delete(void* memory, std::size_t) noexcept
-{
-    std::free(memory);
-}
 
 namespace vornix {
 namespace {
-
-// Lets this many allocations succeed while it lives.
-class LimitedMemory {
-public:
-    explicit LimitedMemory(int allocations) { allocationsLeft = allocations; }
-    ~LimitedMemory() { allocationsLeft = Unlimited; }
-    LimitedMemory(const LimitedMemory&) = delete;
-    LimitedMemory& operator=(const LimitedMemory&) = delete;
-};
 
 using Operation = std::function<void(GridStore&)>;
 

@@ -55,7 +55,7 @@ struct HeadlessOptions {
     bool show = true;
     // Where events go behind the log. May be null; must outlive the container.
     VornixEvents* events = nullptr;
-    std::shared_ptr<MemorySettings> settings;
+    std::shared_ptr<MemorySettings> settings = nullptr;
 };
 
 // Screen 1920 by 1080 at 15 twips a pixel, ambient font DejaVu Sans 9 points, locale en-US, fixed system colours.

@@ -14,6 +14,17 @@
 #include <optional>
 #include <tuple>
 
+#if defined(__SANITIZE_ADDRESS__)
+#define VORNIX_LEAKS_ARE_SOUGHT 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define VORNIX_LEAKS_ARE_SOUGHT 1
+#endif
+#endif
+#if VORNIX_LEAKS_ARE_SOUGHT
+#include <sanitizer/lsan_interface.h>
+#endif
+
 namespace vornix {
 
 namespace {
@@ -124,7 +135,14 @@ public:
     }
 
 private:
-    FontDatabase() { FcInit(); }
+    FontDatabase()
+    {
+#if VORNIX_LEAKS_ARE_SOUGHT
+        // Fontconfig drops a pattern of its own while it reads its configuration.
+        const __lsan::ScopedDisabler disabler;
+#endif
+        FcInit();
+    }
 
     const FontSource* FindMatch(const std::string& name, FontStyle style)
     {

@@ -20,7 +20,8 @@ struct GlyphImage {
     static int StrideFor(int width, bool isColor) { return isColor ? width * 4 : (width + 7) & ~7; }
     static std::size_t BytesFor(int width, int height, bool isColor)
     {
-        return sizeof(GlyphImage) + static_cast<std::size_t>(StrideFor(width, isColor)) * height;
+        // The loops that blend may read a little beyond the last row.
+        return sizeof(GlyphImage) + static_cast<std::size_t>(StrideFor(width, isColor)) * height + 8;
     }
     int Stride() const { return StrideFor(width, isColor); }
     std::size_t Bytes() const { return BytesFor(width, height, isColor); }

@@ -102,8 +102,11 @@ void LinePainter::DrawShaped(ShapedLine& line, int pixel, LinePhase phase, int b
 void LinePainter::DrawStrip(const CoverageStrip& strip, int x, int y)
 {
     const Rect shown = Intersect(clip_, { x, y, x + strip.width, y + strip.height });
-    for (int row = shown.top; row < shown.bottom && shown.left < shown.right; ++row)
-        BlendCoverage(view_.Row(row) + shown.left, strip.Row(row - y) + (shown.left - x), shown.Width(), textColor_);
+    if (shown.IsEmpty())
+        return;
+    const CoverageBlock block { strip.Row(shown.top - y) + (shown.left - x), strip.stride, shown.Width(),
+        shown.Height() };
+    BlendCoverage(view_.Row(shown.top) + shown.left, view_.stride, block, textColor_);
 }
 
 void LinePainter::DrawGlyph(const GlyphImage& image, int x, int y)
@@ -111,15 +114,16 @@ void LinePainter::DrawGlyph(const GlyphImage& image, int x, int y)
     const Rect shown = Intersect(clip_, { x, y, x + image.width, y + image.height });
     if (shown.IsEmpty())
         return;
-    for (int row = shown.top; row < shown.bottom; ++row) {
-        u32* target = view_.Row(row) + shown.left;
-        const std::ptrdiff_t line = row - y;
-        if (image.isColor)
-            BlendColors(target, image.Colors() + line * image.width + (shown.left - x), shown.Width());
-        else
-            BlendCoverage(
-                target, image.Coverage() + line * image.Stride() + (shown.left - x), shown.Width(), textColor_);
+    const std::ptrdiff_t firstRow = shown.top - y;
+    if (!image.isColor) {
+        const CoverageBlock block { image.Coverage() + firstRow * image.Stride() + (shown.left - x), image.Stride(),
+            shown.Width(), shown.Height() };
+        BlendCoverage(view_.Row(shown.top) + shown.left, view_.stride, block, textColor_);
+        return;
     }
+    const u32* colors = image.Colors() + firstRow * image.width + (shown.left - x);
+    for (int row = shown.top; row < shown.bottom; ++row, colors += image.width)
+        BlendColors(view_.Row(row) + shown.left, colors, shown.Width());
 }
 
 void LinePainter::DrawMark(const PlacedLine& line, float x, int baseline)

@@ -148,6 +148,9 @@ TEST_F(Extremes, OneLineMoreIsOverflowAndChangesNothing)
 
 TEST_F(Extremes, AllColumnsThatIndicesCanName)
 {
+    // Together they must not be wider than sixteen bits say.
+    Grid().SetColWidth(0, 1);
+    Grid().SetDefaultWidth(1);
     Table(2, 32767);
     EXPECT_EQ(Grid().Cols(), 32767);
     UseGrid();
@@ -159,6 +162,15 @@ TEST_F(Extremes, AllColumnsThatIndicesCanName)
     EXPECT_EQ(Grid().FixedCols(), 0);
     Grid().SetFirstCol(32766);
     EXPECT_EQ(Grid().FirstCol(), 32766);
+}
+
+TEST_F(Extremes, ColumnsWiderThanSixteenBitsTogetherAreOverflowOnceTheyAreSummed)
+{
+    Table(2, 300);
+    EXPECT_FALSE(ErrorOf([&] { Grid().Refresh(); }));
+    EXPECT_EQ(ErrorOf([&] { Grid().SetAdjustLast(vxNone); }), 6);
+    EXPECT_EQ(Grid().AdjustLast(), vxNone) << "what was written before the error stays";
+    EXPECT_FALSE(ErrorOf([&] { Grid().Refresh(); }));
 }
 
 TEST_F(Extremes, OneSpanOverAllRows)

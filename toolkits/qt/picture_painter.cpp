@@ -61,8 +61,26 @@ bool PicturePainter::PaintPixelByPixel(QPainter& painter, const QRegion& dirty) 
         const QRect source = DeviceRectAround(part);
         painter.drawImage(source.topLeft(), picture_, source);
     }
+    const QPoint end = toDevice.map(QPointF(client_.topLeft() + QPoint(client_.width(), client_.height()))).toPoint();
+    RepeatLastLines(painter, end - corner);
     painter.restore();
     return true;
+}
+
+// Where the client area's two edges round apart, it is a device pixel larger than the picture.
+void PicturePainter::RepeatLastLines(QPainter& painter, QPoint end) const
+{
+    const QRect covered = shown_ & picture_.rect();
+    if (covered.isEmpty())
+        return;
+    const int width = covered.width();
+    const int height = covered.height();
+    if (end.x() == width + 1)
+        painter.drawImage(QPoint(width, 0), picture_, QRect(width - 1, 0, 1, height));
+    if (end.y() == height + 1)
+        painter.drawImage(QPoint(0, height), picture_, QRect(0, height - 1, width, 1));
+    if (end == QPoint(width + 1, height + 1))
+        painter.drawImage(QPoint(width, height), picture_, QRect(width - 1, height - 1, 1, 1));
 }
 
 void PicturePainter::PaintScaled(QPainter& painter) const

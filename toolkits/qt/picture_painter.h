@@ -22,6 +22,7 @@ public:
 private:
     QRect DeviceRectAround(const QRect& part) const;
     bool PaintPixelByPixel(QPainter& painter, const QRegion& dirty) const;
+    void RepeatLastLines(QPainter& painter, QPoint end) const;
     void PaintScaled(QPainter& painter) const;
 
     const QImage& picture_;

@@ -1,7 +1,7 @@
 #include "text_fixture.h"
 
 #include <gtest/gtest.h>
-#include <numeric>
+#include <hb.h>
 
 namespace vornix {
 namespace {
@@ -49,9 +49,38 @@ TEST(Shaper, PairsAreKerned)
     const float apart = Shaped(u"A").width + Shaped(u"V").width;
     const float together = Shaped(u"AV").width;
     EXPECT_LT(together, apart - 3);
-    // The same by the long way, which the ideograph makes it take.
+    // The same in a line with another script.
     const float withIdeograph = Shaped(u"AV\u4E16").width - Shaped(u"\u4E16").width;
     EXPECT_NEAR(withIdeograph, together, 0.05);
+}
+
+// What the shaping library itself makes of plain text, ligatures apart.
+float WidthByLibrary(std::u16string_view text, Font& font)
+{
+    hb_buffer_t* buffer = hb_buffer_create();
+    hb_buffer_add_utf16(buffer, reinterpret_cast<const u16*>(text.data()), static_cast<int>(text.size()), 0, -1);
+    hb_buffer_guess_segment_properties(buffer);
+    const hb_feature_t noLigatures { HB_TAG('l', 'i', 'g', 'a'), 0, 0, ~0u };
+    hb_shape(font.Face().Shaping(), buffer, &noLigatures, 1);
+    unsigned count = 0;
+    const hb_glyph_position_t* positions = hb_buffer_get_glyph_positions(buffer, &count);
+    int units = 0;
+    for (unsigned index = 0; index < count; ++index)
+        units += positions[index].x_advance;
+    hb_buffer_destroy(buffer);
+    return static_cast<float>(units) * font.UnitsToPixels();
+}
+
+TEST(Shaper, PlainLinesAreAsWideAsTheLibraryMakesThem)
+{
+    for (const char16_t* face : { u"DejaVu Sans", u"Noto Sans", u"Noto Serif", u"DejaVu Sans Mono" }) {
+        const FontDescription description = TestFont(-100, face);
+        Font& font = TextEngine::OfThread().Resolve(description);
+        for (const std::u16string_view text :
+            { u"AVATAR Tor. LT-Wo, fi", u"1,234.56 7.", u"Gr\u00F6\u00DFe \u0141\u00F3d\u017A",
+                u"\u0413\u0434\u0435 \u0422\u0430\u0440\u0430", u"\u0391\u03A5\u03A4\u039F" })
+            EXPECT_NEAR(Shaped(text, false, description).width, WidthByLibrary(text, font), 0.1);
+    }
 }
 
 TEST(Shaper, PlainWordsLookTheSameInEveryLine)

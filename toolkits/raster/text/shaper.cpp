@@ -207,10 +207,37 @@ void Shaper::OrderRuns()
     }
 }
 
-void Shaper::ShapeRun(const Font& font, const Run& run)
+// Plain words and numbers among other scripts, as ShapeSimple places them; false for everything else.
+bool Shaper::PlacePlainRun(Font& font, const Run& run)
+{
+    if ((run.level & 1) || run.face != &font.Face())
+        return false;
+    for (std::size_t index = run.begin; index < run.end; ++index) {
+        if (codePoints_[index] > 0xFFFF || SimpleIndex(static_cast<char16_t>(codePoints_[index])) < 0)
+            return false;
+    }
+    const float scale = font.UnitsToPixels();
+    char16_t before = u' ';
+    for (std::size_t index = run.begin; index < run.end; ++index) {
+        const auto character = static_cast<char16_t>(codePoints_[index]);
+        const Font::SimpleGlyph& simple = font.Simple(SimpleIndex(character), character);
+        const int kerning = run.face->Kerning(before, character);
+        if (kerning != 0 && index > run.begin) {
+            result_.glyphs.back().advance += static_cast<float>(kerning) * scale;
+            result_.width += static_cast<float>(kerning) * scale;
+        }
+        result_.glyphs.push_back(
+            { result_.width, 0, simple.advance, simple.glyph, units_[index], run.face->Id(), 100 });
+        result_.width += simple.advance;
+        before = character;
+    }
+    return true;
+}
+
+void Shaper::ShapeRun(Font& font, const Run& run)
 {
     FontFace& face = *run.face;
-    if (!face.Shaping())
+    if (!face.Shaping() || PlacePlainRun(font, run))
         return;
     hb_buffer_reset(buffer_);
     hb_buffer_add_codepoints(buffer_, reinterpret_cast<const hb_codepoint_t*>(codePoints_.data()),

@@ -50,7 +50,8 @@ private:
     void FindScripts();
     void FindRuns(const Font& font);
     void OrderRuns();
-    void ShapeRun(const Font& font, const Run& run);
+    bool PlacePlainRun(Font& font, const Run& run);
+    void ShapeRun(Font& font, const Run& run);
 
     FontLibrary& library_;
     FallbackFinder fallback_;

@@ -56,7 +56,10 @@ int ShowTable(const Table& table, const ViewerOptions& options)
         return WritePicture(table, options);
 #ifdef VORNIX_VIEWER_WINDOW
     if (HasDisplay())
-        return ShowWindow(table, options);
+        return ShowWindow(table, options, [&] {
+            ReportLine("the display cannot be reached; the picture is written instead");
+            return WritePicture(table, options);
+        });
     ReportLine("there is no display; the picture is written instead");
 #else
     if (HasDisplay())

@@ -30,9 +30,9 @@ public:
     virtual void CellDblClick(i16 /*Row*/, i16 /*Col*/) { }
     virtual void Click() { }
     virtual void DblClick() { }
-    virtual void KeyDown(i16& /*KeyCode*/, i16 /*Shift*/) { }
+    virtual void KeyDown(i16& /*KeyCode*/, i16& /*Shift*/) { }
     virtual void KeyPress(i16& /*KeyAscii*/) { }
-    virtual void KeyUp(i16& /*KeyCode*/, i16 /*Shift*/) { }
+    virtual void KeyUp(i16& /*KeyCode*/, i16& /*Shift*/) { }
     virtual void OLECompleteDrag(i32& /*Effect*/) { }
     virtual void OLEDragDrop(DataObject& /*Data*/, i32& /*Effect*/, i16& /*Button*/, i16& /*Shift*/, float& /*x*/, float& /*y*/) { }
     virtual void OLEDragOver(DataObject& /*Data*/, i32& /*Effect*/, i16& /*Button*/, i16& /*Shift*/, float& /*x*/, float& /*y*/,

@@ -34,8 +34,8 @@ public:
     Vornix(const Vornix&) = delete;
     Vornix& operator=(const Vornix&) = delete;
 
-    // -- For the container
-    // ---------------------------------------------------------------------------------------------- These are not for
+    // -- For the container --
+    // These are not for
     // hosts: a toolkit calls them when its window has the news.
 
     // Makes the table of a new control from the defaults.
@@ -60,15 +60,14 @@ public:
     // Whether a call into the control is running, as it is inside every handler of an event.
     bool IsInCall() const noexcept;
     // The next four work on a terminated control too.
-    // The picture of the whole grid, as large as the largest client area so far; null before the first Resize.
+    // The picture of the whole grid, at least as large as the client area; null before the first Resize.
     const Surface* BackStore() const;
     // How often the whole grid was repainted, and how many cells were painted one by one, since ClearPaintCounters.
     int Repaints() const;
     int Refreshes() const;
     void ClearPaintCounters();
 
-    // -- Drawing and the redraw gate
-    // ------------------------------------------------------------------------------------
+    // -- Drawing and the redraw gate --
 
     // While off, members change the table and paint nothing. On again: lays out and repaints once. Reports "Redraw".
     bool Redraw() const;
@@ -131,8 +130,7 @@ public:
     // The colour moved toward white (Percent above 0) or black (below 0).
     OleColor ColorBrightness(OleColor Color, i16 Percent) const;
 
-    // -- Counts and contents
-    // --------------------------------------------------------------------------------------------
+    // -- Counts and contents --
 
     // Lines that are not fixed. Negative values are ignored; others empty the selection, add lines like new ones at the
     // end or cut them off there. Setting Rows ends virtual mode. Each lays out and reports itself.
@@ -167,8 +165,8 @@ public:
     std::u16string ColMask(i16 Col) const;
     void SetColMask(i16 Col, std::u16string_view Value);
 
-    // -- Attributes of one cell
-    // ----------------------------------------------------------------------------------------- Each refreshes its
+    // -- Attributes of one cell --
+    // Each refreshes its
     // cell. Enums are stored as they come.
 
     // Brings shades, border colour and gradient colours with it. Always written.
@@ -230,8 +228,8 @@ public:
     i16 TextMarginRight(i16 Row, i16 Col) const;
     void SetTextMarginRight(i16 Row, i16 Col, i16 Value);
 
-    // -- Attributes of a column
-    // ----------------------------------------------------------------------------------------- Each writes all cells
+    // -- Attributes of a column --
+    // Each writes all cells
     // of the column, those in fixed rows only when the column is fixed, and what new rows take from the column; always,
     // without comparing. Each refreshes the column. Values are those of the cell's attributes.
 
@@ -266,8 +264,8 @@ public:
     bool ColResize(i16 Col) const;
     void SetColResize(i16 Col, bool Value);
 
-    // -- Attributes of a row
-    // -------------------------------------------------------------------------------------------- Each writes all
+    // -- Attributes of a row --
+    // Each writes all
     // cells of the row, those in fixed columns only when the row is fixed; always, without comparing. New columns do
     // not see it. Each refreshes the row.
 
@@ -293,8 +291,8 @@ public:
     bool RowResize(i16 Row) const;
     void SetRowResize(i16 Row, bool Value);
 
-    // -- Attributes of a rectangle
-    // -------------------------------------------------------------------------------------- Corners in any order. Each
+    // -- Attributes of a rectangle --
+    // Corners in any order. Each
     // refreshes the columns of the rectangle.
 
     // The back colour alone: shades and gradient colours stay.
@@ -303,8 +301,8 @@ public:
     // Error 5 without a font.
     void SetCellsFont(i16 Row1, i16 Col1, i16 Row2, i16 Col2, const FontPtr& Value);
 
-    // -- Templates
-    // ------------------------------------------------------------------------------------------------------ What new
+    // -- Templates --
+    // What new
     // columns and new fixed cells start with. At design time (ambient UserMode false) existing cells are written too.
     // Each repaints, whether Redraw is on or not, and reports itself.
 
@@ -347,8 +345,7 @@ public:
     // All attributes, sizes and spans back to the defaults. Contents, column names and hidden columns stay.
     void ResetGrid();
 
-    // -- Spans
-    // ----------------------------------------------------------------------------------------------------------
+    // -- Spans --
 
     // Columns and rows that a cell covers; 0 for a plain cell. Written: older spans in the way are removed whole; a
     // span that would leave the table changes nothing. Always written; repaints.
@@ -366,8 +363,7 @@ public:
     // Undoes it in `Cols` columns from `Col` on. Repaints once.
     void RemoveSpanRows(i16 Col, i16 Cols = 1);
 
-    // -- Hidden lines, column order, parked looks
-    // -----------------------------------------------------------------------
+    // -- Hidden lines, column order, parked looks --
 
     // Hidden lines keep their place with a size of 0. Each lays out anew.
     void HideRow(i16 Row, i16 Rows = 1);
@@ -391,8 +387,7 @@ public:
     void RestoreVisualToCell(i16 index, i16 Row, i16 Col);
     void ClearVisualCell();
 
-    // -- Geometry
-    // -------------------------------------------------------------------------------------------------------
+    // -- Geometry --
 
     // Pixels; 0 while hidden. Negative values count as 0. Written to a hidden line they take effect when it is shown.
     // Lay out anew.
@@ -430,7 +425,7 @@ public:
     std::u16string Caption() const;
     void SetCaption(std::u16string_view Value);
     // Columns that stand still at the left. Ignored unless ShowSplit is on and the value is from 0 to below the last
-    // column's internal index. Lays out anew.
+    // column's internal index. Repaints.
     i16 SplitCols() const;
     void SetSplitCols(i16 Value);
     // Reports itself.
@@ -457,10 +452,9 @@ public:
     float GetScaleWidth() const;
     float GetScaleHeight() const;
 
-    // -- Scrolling
-    // ------------------------------------------------------------------------------------------------------
+    // -- Scrolling --
 
-    // First scrolling line. Negative values are ignored, large ones go to the last line. Lays out anew.
+    // First scrolling line. Negative values are ignored, large ones go to the last line. Repaints.
     i16 FirstRow() const;
     void SetFirstRow(i16 Value);
     i16 FirstCol() const;
@@ -478,8 +472,7 @@ public:
     i16 ScrollBarSize() const;
     void SetScrollBarSize(i16 Value);
 
-    // -- Current cell and virtual mode, as far as they are read
-    // ------------------------------------------------------------
+    // -- Current cell and virtual mode, as far as they are read --
 
     // NoIndex without a current cell.
     i32 CurrentRow() const;

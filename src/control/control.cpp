@@ -116,6 +116,8 @@ void Control::Release() noexcept
         store.Defaults.Font.reset();
         store.Defaults.FontFixed.reset();
     });
+    // Again: a paint that ended by an error left this to be done.
+    IgnoringFailures([this] { paint.Release(); });
     IgnoringFailures([this] { container.SetTimer(0, false); });
     IgnoringFailures([this] { FreeTable(); });
     HookBars(false);

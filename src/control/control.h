@@ -86,6 +86,7 @@ public:
 
     // The table from the defaults and counts, and everything that starts over with it.
     void BuildTable();
+    void ForgetTable();
     void RequireTable() const;
     bool HasTable() const { return hasTable_; }
     // The flags for new lines, from ResizeMode and AdjustLast.
@@ -96,6 +97,7 @@ public:
     void SetFixedRowCount(i16 count);
     // The title into its cell, when there is one.
     void CopyCaption();
+    void DropSplitBehindLastCol();
     // Merges runs of equal rows of a column.
     void SpanEqualRows(int col, bool byKey);
     void RemoveRowSpans(int col);

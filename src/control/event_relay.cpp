@@ -80,7 +80,7 @@ void EventRelay::DblClick()
         host_.DblClick();
 }
 
-void EventRelay::KeyDown(i16& KeyCode, i16 Shift)
+void EventRelay::KeyDown(i16& KeyCode, i16& Shift)
 {
     if (!silent_)
         host_.KeyDown(KeyCode, Shift);
@@ -92,7 +92,7 @@ void EventRelay::KeyPress(i16& KeyAscii)
         host_.KeyPress(KeyAscii);
 }
 
-void EventRelay::KeyUp(i16& KeyCode, i16 Shift)
+void EventRelay::KeyUp(i16& KeyCode, i16& Shift)
 {
     if (!silent_)
         host_.KeyUp(KeyCode, Shift);

@@ -57,6 +57,13 @@ void Control::BuildTable()
     funnel.SetReady(true);
 }
 
+// While the counts are read anew they do not fit the arrays: no member may reach them before the table is built.
+void Control::ForgetTable()
+{
+    hasTable_ = false;
+    funnel.SetReady(false);
+}
+
 void Control::HookBars(bool hooked)
 {
     if (barsHooked_ == hooked)
@@ -112,6 +119,7 @@ class EmptyBag : public PropertyBag {
 void Vornix::InitProperties()
 {
     const auto control = Enter();
+    control->ForgetTable();
     control->ReadSettings(EmptyBag());
     control->ApplyBorderStyle();
     control->ApplyResizeMode();
@@ -121,6 +129,7 @@ void Vornix::InitProperties()
 void Vornix::ReadProperties(const PropertyBag& bag)
 {
     const auto control = Enter();
+    control->ForgetTable();
     control->ReadSettings(bag);
     control->Load();
     if (control->settings.VirtualPageSize > 0)
@@ -175,9 +184,8 @@ void Vornix::ExitFocus()
     control->editor.CloseEditor();
     if (!control->gate.IsOpen() || !control->current.IsValid())
         return;
-    control->current.SetDisplayed(false);
+    const CurrentCell::Undisplayed withoutMark(control->current);
     control->funnel.RefreshIfInRange(control->current.Row(), control->current.Col());
-    control->current.SetDisplayed(true);
 }
 
 void Vornix::Terminate()
@@ -235,7 +243,7 @@ void Vornix::SetRedraw(bool Value)
         control->funnel.RecalcLayout();
     } else {
         control->HookBars(false);
-        control->container.SetTimer(0, false);
+        control->container.SetTimer(WatchInterval, false);
     }
     control->Report("Redraw");
 }

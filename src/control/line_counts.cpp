@@ -41,6 +41,7 @@ void Vornix::SetRows(i16 Value)
     if (Value < oldRows)
         control->current.AdjustForRows(store, store.FixedRows() + oldRows, Value - oldRows);
     store.StoreRows(Value);
+    control->layout.MarkMetricsDirty();
     control->funnel.RecalcLayout();
     control->Report("Rows");
 }
@@ -73,8 +74,17 @@ void Vornix::SetCols(i16 Value)
     if (Value < oldCols)
         control->current.AdjustForCols(store, store.FixedCols() + oldCols, Value - oldCols);
     store.StoreCols(Value);
+    control->DropSplitBehindLastCol();
+    control->layout.MarkMetricsDirty();
     control->funnel.RecalcLayout();
     control->Report("Cols");
+}
+
+// A split needs a column that scrolls behind it.
+void Control::DropSplitBehindLastCol()
+{
+    if (layout.Settings.SplitCols > 0 && layout.FirstScrollCol() > store.MaxCol() - 1)
+        layout.DropSplit();
 }
 
 i16 Vornix::FixedRows() const

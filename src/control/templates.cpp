@@ -261,6 +261,7 @@ void Vornix::SetDefaultHeight(i16 Value)
     store.Defaults.DefaultHeight = Value;
     if (!control->IsRunMode()) {
         WriteHeights(store, { store.FixedRows(), store.MaxRow() }, Value);
+        control->layout.MarkMetricsDirty();
         control->funnel.RecalcLayout();
     }
     control->Report("DefaultHeight");
@@ -280,6 +281,7 @@ void Vornix::SetDefaultWidth(i16 Value)
     store.Defaults.DefaultWidth = Value;
     if (!control->IsRunMode()) {
         WriteWidths(store, { store.FixedCols(), store.MaxCol() }, Value);
+        control->layout.MarkMetricsDirty();
         control->funnel.RecalcLayout();
     }
     control->Report("DefaultWidth");

@@ -1,4 +1,5 @@
 // The title, the split, and where the view stands.
+#include "automation/checked.h"
 #include "control/control.h"
 
 #include <algorithm>
@@ -46,11 +47,14 @@ void Control::FollowCaption(bool wasEmpty)
 {
     bool& enabled = layout.Settings.CaptionEnabled;
     if (wasEmpty && !enabled) {
+        const i16 fixedRows = ToI16(store.FixedRows() + 1);
+        ToI16(store.Rows() + fixedRows); // a table that is full already stays without a title
         enabled = true;
-        SetFixedRowCount(static_cast<i16>(store.FixedRows() + 1));
-    } else if (settings.Caption.empty() && enabled && store.FixedRows() > 0) {
+        SetFixedRowCount(fixedRows);
+    } else if (settings.Caption.empty()) {
         enabled = false;
-        SetFixedRowCount(static_cast<i16>(store.FixedRows() - 1));
+        if (store.FixedRows() > 0)
+            SetFixedRowCount(static_cast<i16>(store.FixedRows() - 1));
     }
 }
 
@@ -83,10 +87,15 @@ void Vornix::SetShowSplit(bool Value)
         const int top = layout.ClientHeight() - 1;
         control->container.Child(ChildName::scrH).Move({ 0, top, layout.ClientWidth(), top + layout.HBarHeight() + 1 });
     }
-    if (change == SplitChange::Dropped)
+    if (change == SplitChange::Dropped) {
         control->funnel.RecalcLayout(false);
-    else
+    } else {
+        const int firstCol = control->scroll.FirstCol();
         control->funnel.PaintSplitBar();
+        // Placing the handle goes back to the first column where no bar could scroll to another.
+        if (control->scroll.FirstCol() != firstCol)
+            control->funnel.RepaintUnderGate();
+    }
     control->Report("ShowSplit");
 }
 

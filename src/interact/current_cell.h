@@ -18,8 +18,23 @@ public:
 
     void Set(int row, int col);
     void Clear();
-    // Off, the cell paints like any other.
-    void SetDisplayed(bool displayed) { displayed_ = displayed; }
+    // For a scope the cell paints like any other.
+    class Undisplayed {
+    public:
+        explicit Undisplayed(CurrentCell& cell)
+            : cell_(cell)
+            , before_(cell.displayed_)
+        {
+            cell_.displayed_ = false;
+        }
+        ~Undisplayed() { cell_.displayed_ = before_; }
+        Undisplayed(const Undisplayed&) = delete;
+        Undisplayed& operator=(const Undisplayed&) = delete;
+
+    private:
+        CurrentCell& cell_;
+        bool before_;
+    };
 
     // Follows lines that were added (delta above 0) or taken away at a position. A cell that lies outside the real
     // lines then is forgotten.

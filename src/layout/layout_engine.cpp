@@ -127,8 +127,13 @@ void LayoutEngine::CalcPercentWidths()
     for (int col = 0; col <= store_.LastColIndex(); ++col) {
         Column& column = store_.ColumnAt(col);
         sumPercent = ToI16(sumPercent + column.WidthPercent);
-        if (column.Hidden || column.WidthPercent == 0)
+        if (column.WidthPercent == 0)
             continue;
+        if (column.Hidden) {
+            // It may complete a hundred, but has no width to take the rounding errors with.
+            sumPercent = sumPercent == 100 ? i16 { 0 } : sumPercent;
+            continue;
+        }
         column.Width = RoundToI16(column.WidthPercent / 100.0 * avail);
         if (sumPercent == 100) {
             // The column that completes a hundred takes the rounding errors. `used` runs on into the next group.

@@ -33,9 +33,12 @@ TEST_F(CurrentCellTest, IsDisplayedWhereItIs)
     current.Set(2, 3);
     EXPECT_TRUE(current.IsDisplayedAt(2, 3));
     EXPECT_FALSE(current.IsDisplayedAt(2, 2));
-    current.SetDisplayed(false);
-    EXPECT_FALSE(current.IsDisplayedAt(2, 3));
-    EXPECT_TRUE(current.IsValid());
+    {
+        const CurrentCell::Undisplayed withoutMark(current);
+        EXPECT_FALSE(current.IsDisplayedAt(2, 3));
+        EXPECT_TRUE(current.IsValid());
+    }
+    EXPECT_TRUE(current.IsDisplayedAt(2, 3));
 }
 
 TEST_F(CurrentCellTest, FollowsLinesAddedOrTakenAwayAtOrBeforeIt)

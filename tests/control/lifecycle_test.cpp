@@ -227,6 +227,7 @@ TEST_F(Lifecycle, RedrawDrivesTheTimerAtRunTime)
 {
     Grid().SetRedraw(false);
     EXPECT_FALSE(host->IsTimerEnabled());
+    EXPECT_EQ(host->TimerInterval(), 100);
     Grid().SetRedraw(true);
     EXPECT_TRUE(host->IsTimerEnabled());
     EXPECT_EQ(host->TimerInterval(), 100);
@@ -305,6 +306,18 @@ TEST_F(Lifecycle, WithoutATableCountsCannotBeSet)
     EXPECT_FALSE(ErrorOf([&] { bare.Paint(); }));
     EXPECT_FALSE(ErrorOf([&] { bare.SetBackColor(3); }));
     EXPECT_EQ(bare.Repaints(), 0);
+}
+
+TEST_F(Lifecycle, AfterABagThatCannotBeReadThereIsNoTable)
+{
+    MemoryBag faulty;
+    faulty.WriteProperty("Rows", i32 { 500 });
+    faulty.WriteProperty("Redraw", std::u16string(u"perhaps"));
+    EXPECT_EQ(ErrorOf([&] { Grid().ReadProperties(faulty); }), 13);
+    EXPECT_EQ(ErrorOf([&] { Grid().SetRows(3); }), 9);
+    EXPECT_FALSE(ErrorOf([&] { Grid().Refresh(); }));
+    EXPECT_FALSE(ErrorOf([&] { Grid().ReadProperties(MemoryBag()); }));
+    EXPECT_EQ(Grid().Rows(), 1);
 }
 
 TEST_F(Lifecycle, FocusComesAndGoesWithoutAnEditor)

@@ -94,6 +94,24 @@ TEST_F(Title, AtDesignTimeNeverTakesARowThatIsNotThere)
     EXPECT_EQ(Grid().FixedRows(), 0);
 }
 
+TEST_F(Title, AtDesignTimeItsRowGoesWithTheTextEvenWhenTurnedOff)
+{
+    MakeDesign();
+    Grid().SetCaption(u"Title");
+    Grid().SetCaptionEnabled(false);
+    Grid().SetCaption(u"");
+    EXPECT_EQ(Grid().FixedRows(), 0);
+}
+
+TEST_F(Title, AtDesignTimeAFullTableRefusesTheRowAndStaysWithoutTitle)
+{
+    MakeDesign();
+    Grid().SetRows(32767);
+    EXPECT_EQ(ErrorOf([&] { Grid().SetCaption(u"Title"); }), 6);
+    EXPECT_FALSE(Grid().CaptionEnabled());
+    EXPECT_EQ(Grid().FixedRows(), 0);
+}
+
 class Split : public GridTest {
 protected:
     Split()
@@ -147,6 +165,29 @@ TEST_F(Split, EndsWhenNoLongerShown)
     EXPECT_THAT(Reported(), ElementsAre("ShowSplit"));
     Grid().SetShowSplit(false);
     EXPECT_THAT(Reported(), ElementsAre("ShowSplit"));
+}
+
+TEST_F(Split, EndsWhenItsColumnsAreTakenAway)
+{
+    Grid().SetSplitCols(10);
+    Grid().SetCols(2);
+    EXPECT_EQ(Grid().SplitCols(), 0);
+    EXPECT_EQ(Grid().FirstCol(), 0);
+    EXPECT_FALSE(ErrorOf([&] { Grid().SetRowHeight(0, 30); }));
+    EXPECT_FALSE(ErrorOf([&] { Grid().SetFixedCols(2); }));
+    EXPECT_FLOAT_EQ(Grid().GetScaleHeight(), 480);
+}
+
+TEST_F(Split, ShowsTheFirstColumnsWhereNoBarCouldScrollToThem)
+{
+    Grid().SetShowSplit(false);
+    Grid().SetScrollHBar(vxNoScrollBar);
+    Grid().SetCellBackColor(0, 0, 0x00FFFF);
+    Grid().SetFirstCol(5);
+    ASSERT_NE(host->Pixel(40, 31), 0x00FFFFu);
+    Grid().SetShowSplit(true);
+    EXPECT_EQ(Grid().FirstCol(), 0);
+    EXPECT_EQ(host->Pixel(40, 31), 0x00FFFFu);
 }
 
 TEST_F(Split, GivesTheBarItsWidthBackWhenTurnedOff)

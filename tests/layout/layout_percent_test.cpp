@@ -120,6 +120,19 @@ TEST(PercentWidths, AHiddenColumnThatWouldCompleteAHundredStaysHidden)
     EXPECT_EQ(table.Widths(), (W { 100, 0 }));
 }
 
+TEST(PercentWidths, AHiddenColumnThatCompletesAHundredEndsItsGroup)
+{
+    Table table(0, 1, 0, 4);
+    for (int col = 0; col < 4; ++col)
+        table.layout.SetColWidthPercent(col, 50);
+    HiddenLines(table.store).HideCol(1);
+    table.NoBars();
+    table.Window(201, 100);
+    table.Layout(true);
+    // 100 of the first group run on into the second, whose last column takes the rest.
+    EXPECT_EQ(table.Widths(), (W { 100, 0, 100, 1 }));
+}
+
 TEST(PercentWidths, HiddenPlainColumnsTakeNoRoom)
 {
     Table table(0, 1, 0, 2);

@@ -131,7 +131,7 @@ void EventLog::DblClick()
         receiver_->DblClick();
 }
 
-void EventLog::KeyDown(i16& KeyCode, i16 Shift)
+void EventLog::KeyDown(i16& KeyCode, i16& Shift)
 {
     events_.push_back({ "KeyDown", { { "KeyCode", Logged(KeyCode) }, { "Shift", Logged(Shift) } } });
     if (receiver_)
@@ -145,7 +145,7 @@ void EventLog::KeyPress(i16& KeyAscii)
         receiver_->KeyPress(KeyAscii);
 }
 
-void EventLog::KeyUp(i16& KeyCode, i16 Shift)
+void EventLog::KeyUp(i16& KeyCode, i16& Shift)
 {
     events_.push_back({ "KeyUp", { { "KeyCode", Logged(KeyCode) }, { "Shift", Logged(Shift) } } });
     if (receiver_)

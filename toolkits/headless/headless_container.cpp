@@ -127,7 +127,7 @@ void HeadlessContainer::MakeWindow(Size client)
     const Size atLeastOne { std::max(client.width, 1), std::max(client.height, 1) };
     auto window = RasterSurface::Create(atLeastOne, scale_, colors_);
     if (!window)
-        throw std::bad_alloc();
+        throw AutomationError(ErrorNumber::OutOfMemory);
     window->FillRect({ 0, 0, atLeastOne.width, atLeastOne.height },
         colors_.values[static_cast<std::size_t>(SystemColor::ButtonFace)]);
     window_ = std::move(window);

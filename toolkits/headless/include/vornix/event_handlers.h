@@ -22,9 +22,9 @@ public:
     std::function<void(i16 Row, i16 Col)> OnCellDblClick;
     std::function<void()> OnClick;
     std::function<void()> OnDblClick;
-    std::function<void(i16& KeyCode, i16 Shift)> OnKeyDown;
+    std::function<void(i16& KeyCode, i16& Shift)> OnKeyDown;
     std::function<void(i16& KeyAscii)> OnKeyPress;
-    std::function<void(i16& KeyCode, i16 Shift)> OnKeyUp;
+    std::function<void(i16& KeyCode, i16& Shift)> OnKeyUp;
     std::function<void(i32& Effect)> OnOLECompleteDrag;
     std::function<void(DataObject& Data, i32& Effect, i16& Button, i16& Shift, float& x, float& y)> OnOLEDragDrop;
     std::function<void(DataObject& Data, i32& Effect, i16& Button, i16& Shift, float& x, float& y, i16& State)>
@@ -63,9 +63,9 @@ public:
     void CellDblClick(i16 Row, i16 Col) override { Call(OnCellDblClick, Row, Col); }
     void Click() override { Call(OnClick); }
     void DblClick() override { Call(OnDblClick); }
-    void KeyDown(i16& KeyCode, i16 Shift) override { Call(OnKeyDown, KeyCode, Shift); }
+    void KeyDown(i16& KeyCode, i16& Shift) override { Call(OnKeyDown, KeyCode, Shift); }
     void KeyPress(i16& KeyAscii) override { Call(OnKeyPress, KeyAscii); }
-    void KeyUp(i16& KeyCode, i16 Shift) override { Call(OnKeyUp, KeyCode, Shift); }
+    void KeyUp(i16& KeyCode, i16& Shift) override { Call(OnKeyUp, KeyCode, Shift); }
     void OLECompleteDrag(i32& Effect) override { Call(OnOLECompleteDrag, Effect); }
     void OLEDragDrop(DataObject& Data, i32& Effect, i16& Button, i16& Shift, float& x, float& y) override
     {

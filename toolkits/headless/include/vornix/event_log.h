@@ -46,9 +46,9 @@ public:
     void CellDblClick(i16 Row, i16 Col) override;
     void Click() override;
     void DblClick() override;
-    void KeyDown(i16& KeyCode, i16 Shift) override;
+    void KeyDown(i16& KeyCode, i16& Shift) override;
     void KeyPress(i16& KeyAscii) override;
-    void KeyUp(i16& KeyCode, i16 Shift) override;
+    void KeyUp(i16& KeyCode, i16& Shift) override;
     void OLECompleteDrag(i32& Effect) override;
     void OLEDragDrop(DataObject& Data, i32& Effect, i16& Button, i16& Shift, float& x, float& y) override;
     void OLEDragOver(DataObject& Data, i32& Effect, i16& Button, i16& Shift, float& x, float& y, i16& State) override;

@@ -48,7 +48,6 @@ struct Relatives {
 const Relatives relatives[] = {
     { "", { "DejaVu Sans", "Noto Sans" } },
     { "ms sans serif", { "DejaVu Sans", "Noto Sans" } },
-    { "microsoft sans serif", { "DejaVu Sans", "Noto Sans" } },
     { "ms shell dlg", { "DejaVu Sans", "Noto Sans" } },
     { "ms shell dlg 2", { "DejaVu Sans", "Noto Sans" } },
     { "system", { "DejaVu Sans", "Noto Sans" } },

@@ -28,7 +28,10 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/VornixConfigVersion.cmake
 install(FILES ${PROJECT_BINARY_DIR}/VornixConfig.cmake ${PROJECT_BINARY_DIR}/VornixConfigVersion.cmake
     DESTINATION ${package_dir})
 
-# pkg-config: the core, and the container without a screen with all it needs.
+# pkg-config: the core, and the container without a screen with all it needs. The files name their prefix by the way
+# from their own place, so that what is installed can be moved, or installed to another prefix than the configured one.
+file(RELATIVE_PATH VORNIX_PC_TO_PREFIX ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+string(REGEX REPLACE "/$" "" VORNIX_PC_TO_PREFIX "${VORNIX_PC_TO_PREFIX}")
 configure_file(${PROJECT_SOURCE_DIR}/cmake/vornix.pc.in ${PROJECT_BINARY_DIR}/vornix.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/vornix.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 if(TARGET vornix_headless)

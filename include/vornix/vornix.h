@@ -35,8 +35,7 @@ public:
     Vornix& operator=(const Vornix&) = delete;
 
     // -- For the container --
-    // These are not for
-    // hosts: a toolkit calls them when its window has the news.
+    // These are not for hosts: a toolkit calls them when its window has the news.
 
     // Makes the table of a new control from the defaults.
     void InitProperties();
@@ -166,8 +165,7 @@ public:
     void SetColMask(i16 Col, std::u16string_view Value);
 
     // -- Attributes of one cell --
-    // Each refreshes its
-    // cell. Enums are stored as they come.
+    // Each refreshes its cell. Enums are stored as they come.
 
     // Brings shades, border colour and gradient colours with it. Always written.
     OleColor CellBackColor(i16 Row, i16 Col) const;
@@ -229,9 +227,8 @@ public:
     void SetTextMarginRight(i16 Row, i16 Col, i16 Value);
 
     // -- Attributes of a column --
-    // Each writes all cells
-    // of the column, those in fixed rows only when the column is fixed, and what new rows take from the column; always,
-    // without comparing. Each refreshes the column. Values are those of the cell's attributes.
+    // Each writes all cells of the column, those in fixed rows only when the column is fixed, and what new rows take
+    // from the column; always, without comparing. Each refreshes the column. Values are those of the cell's attributes.
 
     void SetColBackColor(i16 Col, OleColor Value);
     void SetColForeColor(i16 Col, OleColor Value);
@@ -265,9 +262,8 @@ public:
     void SetColResize(i16 Col, bool Value);
 
     // -- Attributes of a row --
-    // Each writes all
-    // cells of the row, those in fixed columns only when the row is fixed; always, without comparing. New columns do
-    // not see it. Each refreshes the row.
+    // Each writes all cells of the row, those in fixed columns only when the row is fixed; always, without comparing.
+    // New columns do not see it. Each refreshes the row.
 
     void SetRowBackColor(i16 Row, OleColor Value);
     void SetRowForeColor(i16 Row, OleColor Value);
@@ -292,8 +288,7 @@ public:
     void SetRowResize(i16 Row, bool Value);
 
     // -- Attributes of a rectangle --
-    // Corners in any order. Each
-    // refreshes the columns of the rectangle.
+    // Corners in any order. Each refreshes the columns of the rectangle.
 
     // The back colour alone: shades and gradient colours stay.
     void SetCellsBackColor(i16 Row1, i16 Col1, i16 Row2, i16 Col2, OleColor Value);
@@ -302,9 +297,8 @@ public:
     void SetCellsFont(i16 Row1, i16 Col1, i16 Row2, i16 Col2, const FontPtr& Value);
 
     // -- Templates --
-    // What new
-    // columns and new fixed cells start with. At design time (ambient UserMode false) existing cells are written too.
-    // Each repaints, whether Redraw is on or not, and reports itself.
+    // What new columns and new fixed cells start with. At design time (ambient UserMode false) existing cells are written
+    // too. Each reports itself; where nothing else is said, each also repaints, whether Redraw is on or not.
 
     OleColor DefaultBkColor() const;
     void SetDefaultBkColor(OleColor Value);
@@ -324,7 +318,7 @@ public:
     OleColor DefaultLineColor() const;
     void SetDefaultLineColor(OleColor Value);
     // Flags that every stored alignment carries; vxNoPrefix is always among them. Always written: the alignment of all
-    // cells becomes the value as given. Repaints, reports itself.
+    // cells becomes the value as given. Repaints while Redraw is on.
     i32 CommonTextAlign() const;
     void SetCommonTextAlign(i32 Value);
     // Always written; error 5 without a font. These two repaint only while Redraw is on.

@@ -33,6 +33,7 @@ void Broadcast::ToColumn(int col, const FormatEdit& edit, LineReach reach)
 
 void Broadcast::ToColumnCells(int col, const FormatEdit& edit)
 {
+    store_.ColumnAt(col); // error 9 before the first cell
     const Range rows = RowsOfColumn(col, LineReach::All);
     store_.EditColFormats(col, rows.first, rows.last, edit);
     funnel_.RefreshColUnderGate(col);

@@ -98,9 +98,6 @@ public:
     // The title into its cell, when there is one.
     void CopyCaption();
     void DropSplitBehindLastCol();
-    // Merges runs of equal rows of a column.
-    void SpanEqualRows(int col, bool byKey);
-    void RemoveRowSpans(int col);
     // Brings every column that is not fixed to the place it was made at.
     void RestoreColumnOrder();
     void MoveColumnLeft(int from, int to);

@@ -8,10 +8,17 @@ namespace vornix {
 
 namespace {
 
+// The last line of a run; error 6 when it leaves 16 bits.
+int LastOfRun(int first, i16 count)
+{
+    return count < 1 ? first - 1 : ToI16(first + count - 1);
+}
+
 void HideRows(Control& control, i16 Row, i16 count, bool hide)
 {
     const int first = control.InternalRow(Row);
-    for (int row = first; row < first + count; ++row) {
+    const int last = LastOfRun(first, count);
+    for (int row = first; row <= last; ++row) {
         const bool changed = hide ? control.hidden.HideRow(row) : control.hidden.ShowRow(row);
         if (changed && row < control.store.FixedRows())
             control.layout.MarkMetricsDirty();
@@ -22,7 +29,8 @@ void HideRows(Control& control, i16 Row, i16 count, bool hide)
 void HideCols(Control& control, i16 Col, i16 count, bool hide)
 {
     const int first = control.InternalCol(Col);
-    for (int col = first; col < first + count; ++col) {
+    const int last = LastOfRun(first, count);
+    for (int col = first; col <= last; ++col) {
         const bool changed = hide ? control.hidden.HideCol(col) : control.hidden.ShowCol(col);
         if (changed && col < control.layout.FirstScrollCol())
             control.layout.MarkMetricsDirty();

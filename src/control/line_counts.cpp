@@ -29,18 +29,22 @@ void Vornix::SetRows(i16 Value)
         return;
     control->RequireTable();
     control->selection.Collapse();
-    if (Value < oldRows)
+    if (Value < oldRows) {
+        control->spans.RemoveSpansAcrossRow(store.FixedRows() + Value);
         store.ShiftRowsDown(store.FixedRows() + Value, store.MaxRow());
+    }
     control->settings.VirtualPageSize = 0;
     store.ResizeRowStore(ToI16(store.FixedRows() + Value));
     if (Value > oldRows) {
         store.ShiftRowsUp(store.FixedRows() + oldRows, Value - oldRows);
         store.InitRows(store.FixedRows() + oldRows, store.MaxRow() - 1);
     }
-    control->scroll.ClampFirstVisible();
+    control->scroll.ClampVisible();
     if (Value < oldRows)
         control->current.AdjustForRows(store, store.FixedRows() + oldRows, Value - oldRows);
     store.StoreRows(Value);
+    if (Value < oldRows)
+        control->hidden.EndChain();
     control->layout.MarkMetricsDirty();
     control->funnel.RecalcLayout();
     control->Report("Rows");
@@ -60,8 +64,10 @@ void Vornix::SetCols(i16 Value)
         return;
     control->RequireTable();
     control->selection.Collapse();
-    if (Value < oldCols)
+    if (Value < oldCols) {
+        control->spans.RemoveSpansAcrossCol(store.FixedCols() + Value);
         store.ShiftColsDown(store.FixedCols() + Value, store.MaxCol());
+    }
     store.ResizeColStore(ToI16(store.FixedCols() + Value));
     if (Value > oldCols) {
         const int firstNew = store.FixedCols() + oldCols;
@@ -70,7 +76,7 @@ void Vornix::SetCols(i16 Value)
         for (int col = firstNew; col < store.MaxCol(); ++col)
             store.ColumnAt(col).Order = ToI16(col - store.FixedCols());
     }
-    control->scroll.ClampFirstVisible();
+    control->scroll.ClampVisible();
     if (Value < oldCols)
         control->current.AdjustForCols(store, store.FixedCols() + oldCols, Value - oldCols);
     store.StoreCols(Value);
@@ -108,16 +114,21 @@ void Control::SetFixedRowCount(i16 count)
     const i16 newMaxRow = ToI16(store.Rows() + count);
     selection.Collapse();
     editor.CloseEditor();
-    if (delta < 0)
+    if (delta < 0) {
+        spans.RemoveSpansAcrossRow(-delta);
         store.ShiftRowsDown(0, -delta);
+    }
     scroll.SetFirstRow(scroll.FirstRow() + delta);
     store.ResizeRowStore(newMaxRow);
     if (delta > 0) {
         store.ShiftRowsUp(0, delta);
         store.InitFixedRows(0, delta - 1);
+        // Their slots may hold the links of rows that moved down; fixed rows are not in the chain.
+        for (int row = 0; row < delta; ++row)
+            store.RowAt(row).NextSkip = store.RowAt(row).PrevSkip = 0;
     }
     store.StoreFixedRows(count);
-    scroll.ClampFirstVisible();
+    scroll.ClampVisible();
     current.AdjustForRows(store, 0, delta);
     if (count == 0)
         layout.Settings.CaptionEnabled = false;
@@ -143,8 +154,10 @@ void Vornix::SetFixedCols(i16 Value)
     RequireCount(Value);
     const i16 newMaxCol = ToI16(store.Cols() + Value);
     control->selection.Collapse();
-    if (delta < 0)
+    if (delta < 0) {
+        control->spans.RemoveSpansAcrossCol(-delta);
         store.ShiftColsDown(0, -delta);
+    }
     control->scroll.SetFirstCol(control->scroll.FirstCol() + delta);
     control->layout.SetFirstScrollCol(ToI16(control->layout.Settings.SplitCols + Value));
     store.ResizeColStore(newMaxCol);
@@ -153,7 +166,7 @@ void Vornix::SetFixedCols(i16 Value)
         store.InitFixedCols(0, delta - 1);
     }
     store.StoreFixedCols(Value);
-    control->scroll.ClampFirstVisible();
+    control->scroll.ClampVisible();
     control->current.AdjustForCols(store, 0, delta);
     control->layout.MarkMetricsDirty();
     control->funnel.RecalcLayout();

@@ -66,33 +66,11 @@ void Vornix::SpanRows(i16 Col, bool bUseKey)
         return;
     {
         RedrawGate::Closed closed(control->gate);
-        control->SpanEqualRows(control->InternalCol(Col), bUseKey);
+        const Locale& locale = control->container.GetLocale();
+        control->spans.MergeEqualRows(control->InternalCol(Col), bUseKey,
+            [&](std::u16string_view a, std::u16string_view b) { return CompareTextNoCase(a, b, locale) == 0; });
     }
     control->funnel.RepaintUnderGate();
-}
-
-void Control::SpanEqualRows(int col, bool byKey)
-{
-    const auto value = [&](int row) {
-        const Cell& cell = store.CellAt(row, col);
-        return byKey ? std::u16string(cell.Key()) : cell.Text();
-    };
-    const auto closeRun = [&](int first, int end) {
-        if (end - first > 1)
-            spans.SetRowSpan(first, col, ToI16(end - first));
-    };
-    int first = store.FixedRows();
-    std::u16string runValue = value(first);
-    for (int row = first + 1; row <= store.LastRowIndex(); ++row) {
-        std::u16string rowValue = value(row);
-        if (CompareTextNoCase(rowValue, runValue, container.GetLocale()) == 0)
-            continue;
-        closeRun(first, row);
-        first = row;
-        runValue = std::move(rowValue);
-    }
-    closeRun(first, store.MaxRow());
-    store.ColumnAt(col).SpanRows = true;
 }
 
 void Vornix::RemoveSpanRows(i16 Col, i16 Cols)
@@ -103,19 +81,11 @@ void Vornix::RemoveSpanRows(i16 Col, i16 Cols)
     {
         RedrawGate::Closed closed(control->gate);
         const int firstCol = control->InternalCol(Col);
-        for (int col = firstCol; col < firstCol + Cols; ++col)
-            control->RemoveRowSpans(col);
+        const int lastCol = ToI16(firstCol + Cols - 1);
+        for (int col = firstCol; col <= lastCol; ++col)
+            control->spans.RemoveMergedRows(col);
     }
     control->funnel.RepaintUnderGate();
-}
-
-void Control::RemoveRowSpans(int col)
-{
-    store.ColumnAt(col).SpanRows = false;
-    for (int row = store.FixedRows(); row <= store.LastRowIndex(); ++row) {
-        if (store.CellAt(row, col).RowSpan() > 1)
-            spans.RemoveSpan(row, col);
-    }
 }
 
 } // namespace vornix

@@ -23,9 +23,9 @@ public:
     void SetLastRow(int row) { lastRow_ = row; }
     void SetLastCol(int col) { lastCol_ = col; }
 
-    // Brings a first row or column that the store no longer has back to the last real one, or to the first that
-    // scrolls.
-    void ClampFirstVisible();
+    // Brings a first row or column that the store no longer has back to the last real one, or to the first that scrolls,
+    // and a last visible one back to the filler.
+    void ClampVisible();
 
 private:
     const GridStore& store_;

@@ -78,7 +78,7 @@ void FormatTable::Sweep(const std::vector<bool>& marked)
         inUse_[id] = false;
         free_.push_back(id);
     }
-    RebuildIndex(slots_.size());
+    FillIndex();
     sweepAt_ = std::max(FirstSweepAt, Count() * 2);
 }
 
@@ -132,6 +132,12 @@ void FormatTable::RebuildIndex(std::size_t slotCount)
 {
     std::vector<FormatId> slots(slotCount, None);
     slots_.swap(slots);
+    FillIndex();
+}
+
+void FormatTable::FillIndex()
+{
+    std::fill(slots_.begin(), slots_.end(), None);
     for (FormatId id = 0; id < size_; ++id)
         if (inUse_[id])
             PutIntoIndex(id);

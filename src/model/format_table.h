@@ -76,6 +76,8 @@ private:
     FormatId AddEntry(const CellFormat& format, std::size_t hash);
     FormatId TakeNumber();
     void RebuildIndex(std::size_t slotCount);
+    // Every entry in use, in slots as many as there are: needs no memory.
+    void FillIndex();
     void PutIntoIndex(FormatId id);
 
     std::vector<std::unique_ptr<Entry[]>> chunks_;

@@ -100,7 +100,7 @@ public:
     void SetFormat(int row, int col, const CellFormat& format);
     void EditFormat(int row, int col, const FormatEdit& edit);
     // Cells first..last of a line, both included and nothing when first is above last; the edit runs once for each
-    // distinct format. A range that leaves the array at its end is written up to there and then raises error 9.
+    // distinct format. A range that leaves the array raises error 9; cells before its end may be written then.
     void EditColFormats(int col, int firstRow, int lastRow, const FormatEdit& edit);
     void EditRowFormats(int row, int firstCol, int lastCol, const FormatEdit& edit);
     void EditRectFormats(int firstRow, int firstCol, int lastRow, int lastCol, const FormatEdit& edit);

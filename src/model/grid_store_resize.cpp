@@ -74,7 +74,10 @@ void GridStore::ResizeRowStore(int newMaxRow)
         if (rows_.capacity() > rows_.size() * 4)
             rows_.shrink_to_fit();
     } else if (newTop > oldTop) {
-        OrOutOfMemory([&] { rows_.resize(newTop + 1); });
+        OrOutOfMemory([&] {
+            rows_.reserve(newTop + 1); // no slack: a count that changes is rarely followed by another
+            rows_.resize(newTop + 1);
+        });
         rows_[newTop] = rows_[oldTop];
         // The rows between have cells from the start, whatever these show until the caller fills them.
         for (std::size_t row = oldTop + 1; row < newTop; ++row)

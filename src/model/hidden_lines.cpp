@@ -60,6 +60,20 @@ void HiddenLines::UpdateChain(int row, int heightBefore, int heightAfter)
         PutIn(row);
 }
 
+void HiddenLines::EndChain()
+{
+    const int last = store_.LastRowIndex();
+    if (last < store_.FixedRows())
+        return;
+    if (last > store_.FixedRows() && !IsLinked(last)) {
+        int previous = last - 1;
+        while (previous > store_.FixedRows() && !IsLinked(previous))
+            --previous;
+        Link(previous, last);
+    }
+    store_.RowAt(last).NextSkip = 0;
+}
+
 int HiddenLines::NextInChain(int row) const
 {
     return row + std::max<int>(store_.RowAt(row).NextSkip, 0) + 1;

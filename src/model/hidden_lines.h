@@ -1,7 +1,7 @@
 // Hidden rows and columns, and the chain of visible rows.
 //
 // The chain runs from the first non-fixed row to the last row, both in it even when hidden, over all rows between them
-// that have a height. It is held as gaps in the records, so rows that shift carry it along.
+// that have a height (but for heights that the defaults gave back to hidden rows). It is held as gaps in the records, so rows that shift carry it along.
 #pragma once
 
 #include "model/grid_store.h"
@@ -29,6 +29,9 @@ public:
     // by the ends of the chain.
     int NextInChain(int row) const;
     int PrevInChain(int row) const;
+
+    // After rows were cut off at the end: the last row is the chain's last.
+    void EndChain();
 
 private:
     bool IsInnerRow(int row) const { return row > store_.FixedRows() && row < store_.LastRowIndex(); }

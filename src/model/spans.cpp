@@ -123,6 +123,20 @@ void Spans::RemoveSpanAt(CellIndex cell)
     parent.SetColSpan(0);
 }
 
+void Spans::RemoveSpansAcrossRow(int row)
+{
+    for (int col = 0; col <= store_.LastColIndex(); ++col)
+        if (store_.CellAt(row, col).ParentRow() < 0)
+            RemoveSpanAt(ParentOf(row, col));
+}
+
+void Spans::RemoveSpansAcrossCol(int col)
+{
+    for (int row = 0; row <= store_.LastRowIndex(); ++row)
+        if (store_.CellAt(row, col).ParentCol() < 0)
+            RemoveSpanAt(ParentOf(row, col));
+}
+
 CellIndex Spans::ParentOf(int row, int col) const
 {
     const Cell& cell = store_.CellAt(row, col);

@@ -35,6 +35,10 @@ public:
     // Clears the whole span of a parent.
     void RemoveSpan(int row, int col);
 
+    // Before lines are cut off: removes the spans that cover both this line and the one before it.
+    void RemoveSpansAcrossRow(int row);
+    void RemoveSpansAcrossCol(int col);
+
     // The parent of a cell, or the cell itself.
     CellIndex ParentOf(int row, int col) const;
     // The cells a parent covers in each direction, 1 and more.

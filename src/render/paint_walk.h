@@ -4,6 +4,8 @@
 
 #include "render/cell_painter.h"
 
+#include <algorithm>
+
 namespace vornix {
 
 class PaintWalk {
@@ -15,8 +17,9 @@ public:
     // One cell, or the span it stands for; false when another cell paints that span.
     bool PaintCellAt(PaintJob& job, int row, int col);
 
-    int PaintLastRow() const { return paintLastRow_; }
-    int PaintLastCol() const { return paintLastCol_; }
+    // Of the latest walk, as far as the store still has them.
+    int PaintLastRow() const { return std::min<int>(paintLastRow_, context_.store.MaxRow()); }
+    int PaintLastCol() const { return std::min<int>(paintLastCol_, context_.store.MaxCol()); }
     // Visible rectangle of the latest cell.
     const Rect& CellRect() const { return cellRect_; }
     // Forgets where the latest cell was.

@@ -218,6 +218,67 @@ TEST_F(LineCounts, NegativeFixedCountsAreRefusedAndLeaveTheTableWhole)
     EXPECT_EQ(Grid().Text(0, 0), u"data");
 }
 
+TEST_F(LineCounts, TheLastVisibleLineNeverLiesBehindTheTable)
+{
+    Table(100, 40);
+    ASSERT_GT(Grid().LastRow(), 10);
+    Grid().SetRedraw(false);
+    Grid().SetRows(5);
+    Grid().SetCols(2);
+    EXPECT_EQ(Grid().LastRow(), 5);
+    EXPECT_EQ(Grid().LastCol(), 2);
+}
+
+TEST_F(LineCounts, LinesThatAreCutOffTakeTheSpansThatReachIntoThemAlong)
+{
+    Table(6, 6, 2, 2);
+    Grid().SetRowSpan(2, 0, 3);
+    Grid().SetColSpan(0, 2, 3);
+    Grid().SetRowSpan(-2, 1, 3);
+    Grid().SetColSpan(1, -2, 3);
+    Grid().SetRows(4);
+    EXPECT_EQ(Grid().RowSpan(2, 0), 0);
+    EXPECT_EQ(Grid().ParentRow(3, 0), 3);
+    Grid().SetCols(4);
+    EXPECT_EQ(Grid().ColSpan(0, 2), 0);
+    Grid().SetFixedRows(1);
+    EXPECT_EQ(Grid().ParentRow(-1, 1), -1);
+    EXPECT_EQ(Grid().ParentRow(0, 1), 0);
+    Grid().SetFixedCols(0);
+    EXPECT_EQ(Grid().ParentCol(1, 0), 0);
+    EXPECT_FALSE(ErrorOf([&] { Grid().Refresh(); }));
+}
+
+TEST_F(LineCounts, SpansThatEndAtTheCutStay)
+{
+    Table(6, 3, 2, 0);
+    Grid().SetRowSpan(1, 0, 3);
+    Grid().SetRowSpan(-1, 1, 3);
+    Grid().SetRows(4);
+    Grid().SetFixedRows(1);
+    EXPECT_EQ(Grid().RowSpan(1, 0), 3);
+    EXPECT_EQ(Grid().RowSpan(-1, 1), 3);
+}
+
+TEST_F(LineCounts, RowsBehindHiddenOnesShowWhateverCountsChange)
+{
+    Table(10, 2);
+    Grid().HideRow(1, 3);
+    Grid().SetFixedRows(1);
+    Grid().SetCellBackColor(0, 0, 0x00FFFF);
+    EXPECT_EQ(host->Pixel(40, 21 + 10), 0x00FFFFu);
+    Grid().SetFixedRows(0);
+    Grid().ShowRow(1, 3);
+
+    Grid().HideRow(3, 6);
+    Grid().SetRows(6);
+    Grid().SetRows(20);
+    for (i16 Row = 6; Row < 20; ++Row)
+        Grid().SetCellBackColor(Row, 0, 0x00FFFF);
+    EXPECT_EQ(host->Pixel(40, 3 * 21 + 10), 0x00FFFFu);
+    EXPECT_EQ(host->Pixel(40, 5 * 21 + 10), 0x00FFFFu);
+}
+
 TEST_F(LineCounts, WhileRedrawIsOffCountsChangeAndNothingIsPainted)
 {
     Grid().SetRedraw(false);

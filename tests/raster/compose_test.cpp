@@ -154,6 +154,51 @@ TEST(ComposeAt, IsPrivateWhereNotAllOfItWillBeSeen)
     EXPECT_EQ(PixelsOf(*parent), before);
 }
 
+TEST_P(Compose, PartOfACellGivesThePictureOfTheWholeCell)
+{
+    std::mt19937 random(1147);
+    for (int round = 0; round < 200; ++round) {
+        const Size size { Between(random, 1, 120), Between(random, 1, 90) };
+        const Point origin { Between(random, -size.width + 1, ParentSize.width - 1),
+            Between(random, -size.height + 1, ParentSize.height - 1) };
+        auto first = NoisyParent(GetParam());
+        auto second = NoisyParent(GetParam());
+        for (RasterSurface* parent : { first.get(), second.get() }) {
+            const std::unique_ptr<Surface> mem = parent == first.get() ? parent->ComposeAt(origin, size, Everything)
+                                                                       : parent->CreateCompatible(size, origin);
+            ASSERT_NE(mem, nullptr);
+            EXPECT_EQ(mem->GetSize(), size);
+            mem->GradientFill(
+                { 0, 0, 0xFF00, 0, 0x8000 }, { size.width, size.height, 0, 0xFF00, 0 }, GradientDirection::Vertical);
+            mem->DrawEdge({ 0, 0, size.width, size.height }, BDR_SUNKENOUTER, BF_RECT);
+            mem->FrameRect({ 3, 3, size.width - 3, size.height - 3 }, Red);
+            mem->Polyline({ 0x00FF00, 2 }, { { 0, 0 }, { size.width, size.height }, { size.width - 1, -1 } });
+            parent->BitBlt(
+                { origin.x, origin.y, origin.x + size.width, origin.y + size.height }, *mem, {}, RasterOp::SrcCopy);
+        }
+        ASSERT_EQ(PixelsOf(*first), PixelsOf(*second)) << "round " << round;
+    }
+}
+
+TEST(ComposeAt, HoldsPixelsOnlyForWhatIsSeen)
+{
+    auto parent = NoisyParent(1);
+    // 40 million pixels, were they all there.
+    const std::unique_ptr<Surface> mem = parent->ComposeAt({ 4, -300000 }, { 60, 700000 }, Everything);
+    ASSERT_NE(mem, nullptr);
+    mem->FillRect({ 0, 0, 60, 700000 }, Red);
+    EXPECT_EQ(mem->GetPixel(5, 300001), Red);
+    EXPECT_EQ(mem->GetPixel(5, 299999), 0xFFFFFFFFu);
+    EXPECT_EQ(mem->GetPixel(5, 699999), 0xFFFFFFFFu);
+    parent->BitBlt({ 4, 0, 64, 40 }, *mem, { 0, 300000 }, RasterOp::SrcCopy);
+    EXPECT_EQ(parent->GetPixel(63, 39), Red);
+    const Rect clip { 0, 0, 60, 300010 };
+    mem->SetClip(&clip);
+    mem->FillRect({ 0, 0, 60, 700000 }, 0x00FF00);
+    EXPECT_EQ(mem->GetPixel(0, 300009), 0x00FF00u);
+    EXPECT_EQ(mem->GetPixel(0, 300010), Red);
+}
+
 TEST(ComposeAt, IsPrivateWhereTheParentClips)
 {
     auto parent = NoisyParent(1);

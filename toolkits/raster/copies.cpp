@@ -38,6 +38,7 @@ TransferSource AsSource(const PictureObject& picture)
 {
     TransferSource source;
     source.logical = { picture.PixelWidth(), picture.PixelHeight() };
+    source.stored = { 0, 0, picture.PixelWidth(), picture.PixelHeight() };
     // Views write as well as read; this one is never a target.
     source.view.pixels = const_cast<u32*>(picture.Pixels().data());
     source.view.width = picture.PixelWidth();

@@ -76,7 +76,20 @@ PixelSurface::PixelSurface(PixelBlock block, u32* pixels, std::ptrdiff_t stride,
     , colors_(std::move(colors))
 {
     const Size device = MappedSize(logical, map);
-    view_ = { pixels, device.width, device.height, stride, map, { 0, 0, device.width, device.height } };
+    stored_ = { 0, 0, device.width, device.height };
+    view_ = { pixels, device.width, device.height, stride, map, stored_ };
+}
+
+PixelSurface::PixelSurface(
+    PixelBlock block, const Rect& stored, Size logical, const ScaleMap& map, Kind kind, ColorsPtr colors)
+    : PixelSurface(std::move(block), nullptr, stored.Width(), logical, map, kind, std::move(colors))
+{
+    stored_ = stored;
+    view_.clip = stored;
+    // Where pixel (0, 0) would lie. Rows and columns outside `stored` are never touched.
+    const std::ptrdiff_t before = stored.top * view_.stride + stored.left;
+    view_.pixels = reinterpret_cast<u32*>(
+        reinterpret_cast<std::uintptr_t>(block_.Data()) - static_cast<std::uintptr_t>(before) * sizeof(u32));
 }
 
 std::unique_ptr<PixelSurface> PixelSurface::Allocate(Size logical, const ScaleMap& map, Kind kind, ColorsPtr colors)
@@ -143,17 +156,34 @@ bool PixelSurface::OwnsAll(const Rect& rect) const
 
 std::unique_ptr<Surface> PixelSurface::ComposeAt(Point origin, Size size, const Rect& visible)
 {
-    const bool onSurface = origin.x >= 0 && origin.y >= 0 && size.width <= size_.width - origin.x
-        && size.height <= size_.height - origin.y;
-    if (!onSurface || kind_ == Kind::Monochrome)
+    if (kind_ == Kind::Monochrome || size.width > FarAway || size.height > FarAway)
         return CreateCompatible(size, origin);
     const Rect place { origin.x, origin.y, origin.x + size.width, origin.y + size.height };
-    if (!OwnsAll(place) || !Contains(visible, place))
+    const Rect seen = Intersect(Intersect(place, visible), { 0, 0, size_.width, size_.height });
+    if (seen != place && !seen.IsEmpty())
+        return ComposePart(origin, size, seen);
+    if (!OwnsAll(place))
         return CreateCompatible(size, origin);
     const Point base = view_.map.Origin();
     const Rect device = view_.map.ToDevice(place);
     return std::make_unique<PixelSurface>(block_, view_.Row(device.top) + device.left, view_.stride, size,
         ScaleMap(Scale(), { base.x + origin.x, base.y + origin.y }), kind_, colors_);
+}
+
+// A cell of which little is seen, such as a span over thousands of rows, needs pixels for that part alone.
+std::unique_ptr<Surface> PixelSurface::ComposePart(Point origin, Size size, const Rect& seen)
+{
+    const Point base = view_.map.Origin();
+    const ScaleMap map(Scale(), { base.x + origin.x, base.y + origin.y });
+    if (!IsMappable(size, map))
+        return nullptr;
+    const Rect stored
+        = map.ToDevice({ seen.left - origin.x, seen.top - origin.y, seen.right - origin.x, seen.bottom - origin.y });
+    PixelBlock block
+        = PixelBlock::Allocate(static_cast<std::size_t>(std::int64_t { stored.Width() } * stored.Height()));
+    if (!block)
+        return nullptr;
+    return std::make_unique<PixelSurface>(std::move(block), stored, size, map, kind_, colors_);
 }
 
 bool PixelSurface::IsSamePicture(const Device& other) const
@@ -241,7 +271,10 @@ ColorRef PixelSurface::GetPixel(int x, int y) const
 {
     if (x < 0 || y < 0 || x >= size_.width || y >= size_.height)
         return 0xFFFFFFFFu;
-    return ColorFromPixel(view_.Row(view_.map.Y(y))[view_.map.X(x)]);
+    const Point pixel { view_.map.X(x), view_.map.Y(y) };
+    if (!Contains(stored_, { pixel.x, pixel.y, pixel.x + 1, pixel.y + 1 }))
+        return 0xFFFFFFFFu;
+    return ColorFromPixel(view_.Row(pixel.y)[pixel.x]);
 }
 
 void PixelSurface::DrawEdge(const Rect& rect, u32 edge, u32 sides)
@@ -273,7 +306,7 @@ int PixelSurface::DrawText(std::u16string_view text, Rect& rect, u32 format)
 
 void PixelSurface::SetClip(const Rect* clip)
 {
-    view_.clip = clip ? DeviceRect(*clip) : Rect { 0, 0, view_.width, view_.height };
+    view_.clip = clip ? Intersect(DeviceRect(*clip), stored_) : stored_;
 }
 
 DevicePixels PixelSurface::Pixels()

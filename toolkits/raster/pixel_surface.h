@@ -19,6 +19,8 @@ public:
     // On a block of its own, which may be longer than needed; `pixels` lies in it or, when it is empty, elsewhere.
     PixelSurface(PixelBlock block, u32* pixels, std::ptrdiff_t stride, Size logical, const ScaleMap& map, Kind kind,
         ColorsPtr colors);
+    // Holds only the device pixels `stored` of its size; nothing is drawn on the others, and nothing is read there.
+    PixelSurface(PixelBlock block, const Rect& stored, Size logical, const ScaleMap& map, Kind kind, ColorsPtr colors);
     // With memory from the pool; null when it is short. Negative sizes count as 0.
     static std::unique_ptr<PixelSurface> Allocate(Size logical, const ScaleMap& map, Kind kind, ColorsPtr colors);
     ~PixelSurface() override;
@@ -78,12 +80,14 @@ private:
     // Puts pixels back to two colours after an operation that mixes.
     void KeepMonochrome(const Rect& deviceRect);
     bool OwnsAll(const Rect& rect) const;
-    TransferSource AsSource() const { return { view_, size_ }; }
+    TransferSource AsSource() const { return { view_, size_, stored_ }; }
+    std::unique_ptr<Surface> ComposePart(Point origin, Size size, const Rect& seen);
     PixelConversion ConversionFrom(const PixelSurface& source) const;
     bool CopyRect(const Rect& target, const PixelSurface& source, const Rect& sourceRect, RasterOp operation);
 
     PixelBlock block_;
     PixelView view_;
+    Rect stored_;
     Size size_;
     Kind kind_;
     ColorsPtr colors_;

@@ -103,6 +103,24 @@ AxisMap MapAxis(const Axis& target, const Span& targetSpan, const Axis& source, 
                     : MapStretched(target, targetSpan, source, sourceSpan);
 }
 
+// Leaves out the target pixels whose source pixel lies outside begin..end. Maps run one way.
+void KeepSourceWithin(AxisMap& map, int begin, int end)
+{
+    const auto exists = [&](int target) { return map.Source(target) >= begin && map.Source(target) < end; };
+    int first = map.begin;
+    while (first < map.end && !exists(first))
+        ++first;
+    int last = map.end;
+    while (last > first && !exists(last - 1))
+        --last;
+    if (map.IsDirect())
+        map.first += first - map.begin;
+    else
+        map.table = std::vector<int>(map.table.begin() + (first - map.begin), map.table.begin() + (last - map.begin));
+    map.begin = first;
+    map.end = last;
+}
+
 // The least and the greatest source pixel read; maps run one way, so they are at the ends.
 Span SourceRange(const AxisMap& map)
 {
@@ -128,6 +146,10 @@ TransferMap MapTransfer(const PixelView& target, Size targetLogical, const Rect&
         HorizontalAxis(source.view, source.logical), { sourceRect.left, sourceRect.right });
     map.y = MapAxis(VerticalAxis(target, targetLogical), { targetRect.top, targetRect.bottom },
         VerticalAxis(source.view, source.logical), { sourceRect.top, sourceRect.bottom });
+    if (source.stored != Rect { 0, 0, source.view.width, source.view.height }) {
+        KeepSourceWithin(map.x, source.stored.left, source.stored.right);
+        KeepSourceWithin(map.y, source.stored.top, source.stored.bottom);
+    }
     return map;
 }
 

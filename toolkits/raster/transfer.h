@@ -8,10 +8,12 @@
 
 namespace vornix {
 
-// Pixels to copy from. `logical` is the size that the map turns into the view's size.
+// Pixels to copy from. `logical` is the size that the map turns into the view's size; `stored` are the device pixels
+// that exist.
 struct TransferSource {
     PixelView view;
     Size logical;
+    Rect stored;
 };
 
 // Device pixels `begin` to `end` of the target along one axis, and the source pixel for each of them.
@@ -40,7 +42,7 @@ struct TransferMap {
 
 // Lays the source rectangle over the target rectangle, both logical. Of the same scale and size, device pixels are
 // taken one to one; otherwise each target pixel takes the source pixel below its centre. Edges in reversed order
-// mirror. Target pixels outside the clip, and those whose source pixel lies outside the source, are left out.
+// mirror. Target pixels outside the clip, and those whose source pixel does not exist, are left out.
 TransferMap MapTransfer(const PixelView& target, Size targetLogical, const Rect& targetRect,
     const TransferSource& source, const Rect& sourceRect);
 

@@ -223,9 +223,13 @@ private:
 
 std::string Grouped(std::uint64_t number)
 {
-    std::string text = std::to_string(number);
-    for (int at = static_cast<int>(text.size()) - 3; at > 0; at -= 3)
-        text.insert(static_cast<std::size_t>(at), ",");
+    const std::string digits = std::to_string(number);
+    std::string text;
+    for (std::size_t i = 0; i < digits.size(); ++i) {
+        if (i > 0 && (digits.size() - i) % 3 == 0)
+            text += ',';
+        text += digits[i];
+    }
     return text;
 }
 

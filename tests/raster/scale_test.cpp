@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 using namespace vornix;
@@ -132,6 +133,25 @@ TEST(ScaleOfOneAndAQuarter, RepeatsTheLastSourcePixelWhereRoundingLeavesItShort)
     ASSERT_EQ(Drawn(dynamic_cast<RasterSurface&>(*source)), "\nrbb#gr\n");
     EXPECT_TRUE(surface->BitBlt({ 1, 0, 6, 1 }, *source, { 0, 0 }, RasterOp::SrcCopy));
     EXPECT_EQ(Drawn(*surface), "\n.rbb#grr..\n");
+}
+
+TEST_P(Scale, LinesAreEquallyThickEverywhere)
+{
+    const auto thickness = static_cast<std::size_t>(std::max(1, static_cast<int>(GetParam())));
+    for (int at = 0; at < 12; ++at) {
+        auto across = WhiteSurface(12, 1, GetParam());
+        across->SelectPen({ Black, 1 });
+        across->MoveTo(at, 0);
+        across->LineTo(at, 1);
+        const std::string columns = Drawn(*across);
+        const auto lines = static_cast<std::size_t>(RasterSurface::DeviceSize({ 12, 1 }, GetParam()).height);
+        EXPECT_EQ(std::count(columns.begin(), columns.end(), '#'), static_cast<std::ptrdiff_t>(thickness * lines))
+            << at;
+
+        auto frame = WhiteSurface(at + 2, 1, GetParam());
+        frame->FrameRect({ 0, 0, at + 2, 9 }, Black);
+        EXPECT_EQ(frame->GetPixel(at + 1, 0), Black) << at;
+    }
 }
 
 TEST_P(Scale, SetPixelAndGetPixelAgree)

@@ -102,6 +102,32 @@ PixelView CopyOf(const PixelView& view, PixelBlock& block)
 
 } // namespace
 
+void FillDeviceLine(const PixelView& view, Size logical, const Rect& line, LineEdge edge, u32 pixel)
+{
+    const Rect inside = Intersect(line, { 0, 0, logical.width, logical.height });
+    if (inside.IsEmpty())
+        return;
+    const bool horizontal = edge == LineEdge::Top || edge == LineEdge::Bottom;
+    const int thickness
+        = std::max(1, static_cast<int>((horizontal ? inside.Height() : inside.Width()) * view.map.Scale()));
+    Rect device = view.map.ToDevice(inside);
+    switch (edge) {
+    case LineEdge::Top:
+        device.bottom = device.top + thickness;
+        break;
+    case LineEdge::Bottom:
+        device.top = device.bottom - thickness;
+        break;
+    case LineEdge::Left:
+        device.right = device.left + thickness;
+        break;
+    case LineEdge::Right:
+        device.left = device.right - thickness;
+        break;
+    }
+    FillDeviceRect(view, device, pixel);
+}
+
 void FillDeviceRect(const PixelView& view, const Rect& deviceRect, u32 pixel)
 {
     const Rect area = Intersect(deviceRect, view.clip);

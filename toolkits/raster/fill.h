@@ -19,6 +19,12 @@ inline Rect DeviceRectWithin(const PixelView& view, Size logical, const Rect& re
     return inside.IsEmpty() ? Rect {} : view.map.ToDevice(inside);
 }
 
+// Which way a line runs, and the edge of its rectangle that it keeps to where it is thinner than that.
+enum class LineEdge { Top, Bottom, Left, Right };
+
+// A line of a rectangle's logical thickness. At fractional scales every line is equally thick, or the lines of a grid
+// would look uneven.
+void FillDeviceLine(const PixelView& view, Size logical, const Rect& line, LineEdge edge, u32 pixel);
 void FillDeviceRect(const PixelView& view, const Rect& deviceRect, u32 pixel);
 // Exclusive or with the white of every pixel.
 void InvertDeviceRect(const PixelView& view, const Rect& deviceRect);

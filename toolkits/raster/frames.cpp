@@ -116,10 +116,10 @@ void DrawFrame(const Canvas& canvas, const Rect& rect, u32 pixel)
 {
     if (rect.IsEmpty())
         return;
-    Fill(canvas, TopLine(rect), pixel);
-    Fill(canvas, BottomLine(rect), pixel);
-    Fill(canvas, LeftLine(rect), pixel);
-    Fill(canvas, RightLine(rect), pixel);
+    FillDeviceLine(canvas.view, canvas.logical, TopLine(rect), LineEdge::Top, pixel);
+    FillDeviceLine(canvas.view, canvas.logical, BottomLine(rect), LineEdge::Bottom, pixel);
+    FillDeviceLine(canvas.view, canvas.logical, LeftLine(rect), LineEdge::Left, pixel);
+    FillDeviceLine(canvas.view, canvas.logical, RightLine(rect), LineEdge::Right, pixel);
 }
 
 void DrawEdges(const Canvas& canvas, const Rect& rect, u32 edge, u32 sides, const SystemColors& colors)

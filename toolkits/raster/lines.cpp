@@ -33,9 +33,19 @@ struct Pencil {
     // All squares of the pen from one logical pixel to another, both included, on one row or column.
     void Cover(int left, int top, int right, int bottom) const
     {
+        FillDeviceRect(view, DeviceRectWithin(view, logical, Covered(left, top, right, bottom)), pixel);
+    }
+
+    // Grid lines lie at the bottom and right of their cells, so lines keep to those edges.
+    void CoverLine(int left, int top, int right, int bottom, LineEdge edge) const
+    {
+        FillDeviceLine(view, logical, Covered(left, top, right, bottom), edge, pixel);
+    }
+
+    Rect Covered(int left, int top, int right, int bottom) const
+    {
         const int offset = width / 2;
-        const Rect covered { left - offset, top - offset, right - offset + width, bottom - offset + width };
-        FillDeviceRect(view, DeviceRectWithin(view, logical, covered), pixel);
+        return { left - offset, top - offset, right - offset + width, bottom - offset + width };
     }
 };
 
@@ -68,12 +78,13 @@ void DrawDeviceLine(const PixelView& view, Size logical, Point from, Point to, i
         return;
     if (from.y == to.y) {
         const bool rightward = to.x > from.x;
-        pencil.Cover(rightward ? from.x : to.x + 1, from.y, rightward ? to.x - 1 : from.x, from.y);
+        pencil.CoverLine(
+            rightward ? from.x : to.x + 1, from.y, rightward ? to.x - 1 : from.x, from.y, LineEdge::Bottom);
         return;
     }
     if (from.x == to.x) {
         const bool downward = to.y > from.y;
-        pencil.Cover(from.x, downward ? from.y : to.y + 1, from.x, downward ? to.y - 1 : from.y);
+        pencil.CoverLine(from.x, downward ? from.y : to.y + 1, from.x, downward ? to.y - 1 : from.y, LineEdge::Right);
         return;
     }
     DrawSlanted(pencil, from, to);

@@ -32,7 +32,7 @@ Rect WholeOf(Size size)
 
 } // namespace
 
-// From the first cell of a paint to its last, however it ends. What handlers asked for meanwhile follows at the end.
+// From the first cell of a paint to its last, however it ends. A control that a handler closed meanwhile is released then.
 class PaintPipeline::Painting {
 public:
     Painting(PaintPipeline& pipeline, PaintJob& job)
@@ -45,6 +45,8 @@ public:
     {
         pipeline_.painter_.EndPaint();
         pipeline_.running_ = nullptr;
+        if (pipeline_.releasePending_)
+            pipeline_.Release();
     }
     Painting(const Painting&) = delete;
     Painting& operator=(const Painting&) = delete;
@@ -85,11 +87,16 @@ void PaintPipeline::RepaintGrid()
     if (running_)
         return;
     PaintJob job = JobForRepaint();
-    {
+    try {
         const Painting painting(*this, job);
         walk_.PaintGrid(job);
+    } catch (...) {
+        FollowPendingSize();
+        if (!job.stopped)
+            ReportChange(WholeOf(context_.container.ClientSize())); // what was painted before the error is seen
+        throw;
     }
-    FollowPendingRequests();
+    FollowPendingSize();
     if (job.stopped)
         return;
     CopyToControl();
@@ -120,13 +127,19 @@ template <typename Cells> void PaintPipeline::Refresh(const Cells& cells)
         return;
     refreshed_ = {};
     PaintJob job = JobForRefresh();
-    {
+    const auto finish = [&] {
+        FollowPendingSize();
+        if (!job.stopped)
+            ReportChange(refreshed_);
+    };
+    try {
         const Painting painting(*this, job);
         cells(job);
+    } catch (...) {
+        finish(); // what was painted before the error is seen
+        throw;
     }
-    FollowPendingRequests();
-    if (!job.stopped)
-        ReportChange(refreshed_);
+    finish();
 }
 
 void PaintPipeline::RefreshCell(PaintJob& job, int row, int col)
@@ -150,7 +163,8 @@ void PaintPipeline::RefreshIfInRange(int row, int col)
 void PaintPipeline::RefreshRowCells(int row)
 {
     Refresh([&](PaintJob& job) {
-        for (int col = 0; col <= PaintLastCol() && !job.stopped; ++col) {
+        // A handler may take the row away meanwhile.
+        for (int col = 0; col <= PaintLastCol() && !job.stopped && context_.store.ContainsRow(row); ++col) {
             col = walk_.ScrollJump(col, context_.store.FixedCols(), context_.scroll.FirstCol());
             if (col <= PaintLastCol())
                 RefreshCell(job, row, col);
@@ -161,7 +175,7 @@ void PaintPipeline::RefreshRowCells(int row)
 void PaintPipeline::RefreshColCells(int col)
 {
     Refresh([&](PaintJob& job) {
-        for (int row = 0; row <= PaintLastRow() && !job.stopped; ++row) {
+        for (int row = 0; row <= PaintLastRow() && !job.stopped && context_.store.ContainsCol(col); ++row) {
             row = walk_.ScrollJump(row, context_.store.FixedRows(), context_.scroll.FirstRow());
             if (row <= PaintLastRow())
                 RefreshCell(job, row, col);
@@ -214,10 +228,8 @@ void PaintPipeline::BuildOwnBackStore(Size client)
         store->FillRect(WholeOf(store->GetSize()), window.GetBkColor());
 }
 
-void PaintPipeline::FollowPendingRequests()
+void PaintPipeline::FollowPendingSize()
 {
-    if (releasePending_)
-        Release();
     if (const std::optional<Size> size = std::exchange(sizePending_, std::nullopt))
         ResizeBackStore(*size);
 }

@@ -38,7 +38,9 @@ public:
     // The container's paint message.
     void PaintMessage();
     // Places the handle of the split, or drops a split that makes no sense any more.
-    void PaintSplitBar();
+    // Places and draws the handle of the split. True when a split that makes no sense any more was dropped and other
+    // columns stand at the left now: the caller repaints.
+    bool PaintSplitBar();
 
     // The back store takes the client size; the next refresh counts as a size change.
     void ResizeBackStore(Size client);
@@ -86,11 +88,12 @@ private:
     void FillStrip(ChildName bar);
 
     void BuildOwnBackStore(Size client);
-    void FollowPendingRequests();
+    void FollowPendingSize();
 
     void PlaceSplitHandleOverCells();
     bool SplitMakesNoSense() const;
     void PlaceSplitHandleAtBar();
+    void DrawSplitHandleOnItsWindow();
 
     PaintContext context_;
     BackgroundPicture background_;

@@ -361,13 +361,7 @@ void ScreenCell::PaintCheckBox()
 
 bool ScreenCell::IsCellChecked() const
 {
-    if (!cell_->HasText())
-        return false;
-    try {
-        return TextToBool(cell_->TextView(painter_.scratch_), Context().container.GetLocale());
-    } catch (const AutomationError&) {
-        return false; // no boolean form counts as not checked
-    }
+    return cell_->HasText() && IsTrueText(cell_->TextView(painter_.scratch_), Context().container.GetLocale());
 }
 
 void ScreenCell::PaintPressedLook()

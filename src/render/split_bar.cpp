@@ -1,19 +1,31 @@
 // Where the handle of the split lies, and when a split makes no sense any more.
 #include "render/paint_pipeline.h"
+#include "render/split_handle.h"
 
 #include <algorithm>
 
 namespace vornix {
 
-void PaintPipeline::PaintSplitBar()
+bool PaintPipeline::PaintSplitBar()
 {
     const LayoutEngine& layout = context_.layout;
+    const int firstCol = context_.scroll.FirstCol();
     if (layout.Settings.SplitCols >= 1 && layout.HBarHeight() != 0)
         PlaceSplitHandleOverCells();
     if (SplitMakesNoSense())
         context_.layout.DropSplit();
     if (layout.Settings.SplitCols == 0)
         PlaceSplitHandleAtBar();
+    DrawSplitHandleOnItsWindow();
+    return context_.scroll.FirstCol() != firstCol;
+}
+
+void PaintPipeline::DrawSplitHandleOnItsWindow()
+{
+    ChildWindow& handle = context_.container.Child(ChildName::picSplitCol);
+    if (Device* const canvas = handle.Canvas())
+        DrawSplitHandle(
+            *canvas, context_.container.Colors(), handle.Place().Height(), context_.layout.Settings.SplitCols > 0);
 }
 
 void PaintPipeline::PlaceSplitHandleOverCells()

@@ -250,6 +250,17 @@ TEST_F(DrawCellTest, AHandlerThatThrowsLeavesEverythingInOrder)
     EXPECT_EQ(table.pipeline.Repaints(), 1);
 }
 
+TEST_F(DrawCellTest, AHandlerMayCloseTheControlAndThrow)
+{
+    table.events.drawCell = [&](i16, i16, Hdc&, bool&) {
+        table.pipeline.Release();
+        throw std::runtime_error("host");
+    };
+    EXPECT_THROW(table.pipeline.RepaintGrid(), std::runtime_error);
+    EXPECT_EQ(table.screen->surfacesAlive, 1);
+    EXPECT_EQ(table.pipeline.BackStore(), nullptr);
+}
+
 TEST_F(DrawCellTest, ACellWithoutTheBitRaisesNothing)
 {
     table.Format(1, 1, [](CellFormat& format) { format.Style = vxCellFlat; });

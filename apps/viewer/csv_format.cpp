@@ -86,7 +86,8 @@ bool LooksLikeNames(const Table& table)
     bool hasWord = false;
     for (int column = 0; column < table.ColumnCount(); ++column) {
         const std::u16string_view name = table.Text(0, column);
-        const bool isWord = ContentOf(name) == 0;
+        // A column may well be called No or Y.
+        const bool isWord = (ContentOf(name) & (AnyNumber | AnyDate)) == 0;
         if (name.empty() || name.size() > longestName || !names.insert(name).second)
             return false;
         if (!isWord && !IsRunningNumber(table, column))

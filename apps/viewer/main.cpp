@@ -6,9 +6,9 @@
 #include "sample_path.h"
 #include "show.h"
 #include "text_output.h"
+#include "unicode.h"
 
 #include <exception>
-#include <filesystem>
 #include <iostream>
 #include <new>
 #include <unistd.h>
@@ -16,11 +16,6 @@
 namespace {
 
 using namespace vornix::viewer;
-
-std::string FileName(const ViewerOptions& options)
-{
-    return std::filesystem::path(options.file).filename().string();
-}
 
 Table Load(const ViewerOptions& options)
 {
@@ -34,7 +29,7 @@ Table Load(const ViewerOptions& options)
 int List(const ViewerOptions& options)
 {
     for (const SourceEntry& entry : ListSource(options))
-        std::cout << entry.kind << '\t' << entry.name << '\n';
+        std::cout << entry.kind << '\t' << OneLine(entry.name) << '\n';
     return 0;
 }
 

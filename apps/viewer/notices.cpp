@@ -1,13 +1,12 @@
 #include "notices.h"
 
+#include "digit_groups.h"
+
 namespace vornix::viewer {
 
 std::string WithGroups(std::uint64_t number)
 {
-    std::string digits = std::to_string(number);
-    for (std::size_t end = digits.size(); end > 3; end -= 3)
-        digits.insert(end - 3, 1, ',');
-    return digits;
+    return WithDigitGroups(std::to_string(number));
 }
 
 std::string Counted(std::uint64_t number, std::string_view noun)

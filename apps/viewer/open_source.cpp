@@ -50,11 +50,6 @@ std::vector<sqlite::TableInfo> TablesOf(const sqlite::Database& database)
     return tables;
 }
 
-std::string FileName(const ViewerOptions& options)
-{
-    return std::filesystem::path(options.file).filename().string();
-}
-
 Table OpenDatabase(const ViewerOptions& options, const LoadLimits& limits, const ProgressFunction& progress)
 {
     try {
@@ -72,6 +67,11 @@ Table OpenDatabase(const ViewerOptions& options, const LoadLimits& limits, const
 }
 
 } // namespace
+
+std::string FileName(const ViewerOptions& options)
+{
+    return std::filesystem::path(options.file).filename().string();
+}
 
 Table OpenSource(const ViewerOptions& options, const LoadLimits& limits, const ProgressFunction& progress)
 {

@@ -15,6 +15,9 @@ struct SourceEntry {
     std::string kind; // "table", "view" or "file"
 };
 
+// The name of the file to show, without its folder.
+std::string FileName(const ViewerOptions& options);
+
 // What the file holds decides whether it is read as a database or as text; a name that ends like a database's must be
 // one. Without a table or query the first table or view is taken. Raises LoadError without the file's name.
 Table OpenSource(const ViewerOptions& options, const LoadLimits& limits, const ProgressFunction& progress);

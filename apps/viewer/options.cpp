@@ -38,7 +38,6 @@ void SetSize(ViewerOptions& options, const std::string& text)
         throw OptionsError("--size: width and height must be from 1 to " + std::to_string(MaxSide));
     options.width = *width;
     options.height = *height;
-    options.sizeGiven = true;
 }
 
 void SetScale(ViewerOptions& options, const std::string& text)

@@ -23,7 +23,6 @@ struct ViewerOptions {
     // In logical pixels; a picture has this many times the scale, rounded.
     int width = 1280;
     int height = 800;
-    bool sizeGiven = false;
     // Device pixels for each logical pixel, 1 to 4.
     double scale = 1;
     bool scaleGiven = false;

@@ -1,5 +1,9 @@
 #include "present.h"
 
+#include "looks.h"
+#include "notices.h"
+#include "wide_texts.h"
+
 #include <algorithm>
 #include <memory>
 #include <string>
@@ -17,11 +21,8 @@ constexpr int CheckBoxColumn = 64;
 // The painter's own insets left and right of a text, the grid line, and air.
 constexpr int TextInsets = 4 + 4 + 1 + 6;
 
-constexpr OleColor Ink = 0x00332B26;
-constexpr OleColor FaintInk = 0x008A7F78;
-constexpr OleColor HeaderGround = 0x00F4F0EC;
-constexpr OleColor AlternateGround = 0x00FCFAF7;
-constexpr OleColor Line = 0x00E6E1DC;
+// How many texts of a column are measured.
+constexpr std::size_t MeasuredTexts = 8;
 
 constexpr i32 OneLine = vxSingleLine | vxTxtVCenter;
 
@@ -41,15 +42,17 @@ public:
     {
     }
 
+    // Line breaks count as in a cell of one line, which is drawn by the same call.
     int Width(const FontPtr& font, std::u16string_view text)
     {
+        constexpr std::size_t LongEnough = 400; // the widest column is reached long before
         FontDescription description;
         description.face = font->Name;
         description.height = -static_cast<int>(font->Size * 20 / 15 + 0.5);
         description.weight = font->Bold ? 700 : 400;
         device_.SelectFont(description);
         Rect extent;
-        device_.DrawText(text, extent, DT_CALCRECT | DT_SINGLELINE | DT_NOPREFIX);
+        device_.DrawText(text.substr(0, LongEnough), extent, DT_CALCRECT | DT_SINGLELINE | DT_NOPREFIX);
         return extent.Width();
     }
 
@@ -72,8 +75,9 @@ i32 TextAlignmentOf(ColumnKind kind)
 
 class Presenter {
 public:
-    Presenter(Vornix& grid, Device& device, const Table& table)
+    Presenter(Vornix& grid, Device& device, const SystemColors& colors, const Table& table)
         : grid_(grid)
+        , looks_(LooksFrom(colors))
         , measure_(device)
         , table_(table)
         , bodyFont_(FontLike(grid.Font(), 9.75, false))
@@ -99,15 +103,17 @@ private:
     {
         grid_.SetFont(bodyFont_);
         grid_.SetFontFixed(headerFont_);
-        grid_.SetDefaultForeColor(Ink);
-        grid_.SetDefaultForeColorFixed(Ink);
-        grid_.SetDefaultBkColorFixed(HeaderGround);
-        grid_.SetDefaultLineColor(Line);
+        grid_.SetBackColor(looks_.ground);
+        grid_.SetDefaultBkColor(looks_.ground);
+        grid_.SetDefaultForeColor(looks_.ink);
+        grid_.SetDefaultForeColorFixed(looks_.headerInk);
+        grid_.SetDefaultBkColorFixed(looks_.headerGround);
+        grid_.SetDefaultLineColor(looks_.line);
         grid_.SetDefaultHeight(RowHeight);
         grid_.SetDefaultTextAlignFixed(OneLine);
         grid_.SetAltColorEnabled(true);
-        grid_.SetAltBkColor(AlternateGround);
-        grid_.SetAltForeColor(Ink);
+        grid_.SetAltBkColor(looks_.alternateGround);
+        grid_.SetAltForeColor(looks_.ink);
         // The bars come with scrolling; until then the whole window shows cells.
         grid_.SetScrollHBar(vxNoScrollBar);
         grid_.SetScrollVBar(vxNoScrollBar);
@@ -132,7 +138,7 @@ private:
             grid_.SetText(static_cast<i16>(row), -1, last);
         }
         grid_.SetColFont(-1, FontLike(bodyFont_, 8, false));
-        grid_.SetColForeColor(-1, FaintInk);
+        grid_.SetColForeColor(-1, looks_.faintInk);
         grid_.SetColTextAlign(-1, OneLine | vxTxtRight);
         grid_.SetColStyle(-1, vxCellFlat);
         grid_.SetColWidth(-1, static_cast<i16>(std::max(30, measure_.Width(bodyFont_, last) + TextInsets)));
@@ -166,33 +172,31 @@ private:
         grid_.SetColTextAlign(Col, vxTxtCenter | vxTxtVCenter);
         for (int row = 0; row < table_.RowCount(); ++row) {
             const i16 Row = static_cast<i16>(row);
-            // A null is neither checked nor unchecked: it shows no box.
-            if (table_.IsNull(row, Col))
-                grid_.SetCellMode(Row, Col, vxCellFixed);
-            else
+            // What is neither true nor false, as a null or a blank, shows no box.
+            if (table_.HasTruthValue(row, Col))
                 grid_.SetCellChecked(Row, Col, table_.IsTrue(row, Col));
+            else
+                grid_.SetCellMode(Row, Col, vxCellFixed);
         }
     }
 
     int WidthOf(int column)
     {
         const Column& source = table_.Columns()[static_cast<std::size_t>(column)];
-        int content = CheckBoxColumn - TextInsets;
-        const int widest = table_.WidestRow(column);
-        if (source.kind != ColumnKind::Boolean && widest >= 0)
-            content = measure_.Width(bodyFont_, FirstLine(table_.Text(widest, column)));
-        // Room for the separators that the format puts into money.
-        if (source.kind == ColumnKind::Money)
-            content += 12;
+        const int content = source.kind == ColumnKind::Boolean ? CheckBoxColumn - TextInsets : WidthOfTexts(column);
         const int width = std::max(content, measure_.Width(headerFont_, source.name)) + TextInsets;
         return std::clamp(width, NarrowestColumn, WidestColumn);
     }
 
-    // Long texts need no measuring to the end: the widest column is reached long before.
-    static std::u16string_view FirstLine(std::u16string_view text)
+    int WidthOfTexts(int column)
     {
-        constexpr std::size_t LongEnough = 120;
-        return text.substr(0, std::min(text.find_first_of(u"\r\n"), LongEnough));
+        int width = 0;
+        for (const int row : WidestRows(table_, column, MeasuredTexts)) {
+            width = std::max(width, measure_.Width(bodyFont_, table_.Text(row, column)));
+            if (width >= WidestColumn)
+                break;
+        }
+        return width;
     }
 
     void PresentFixedLines()
@@ -207,13 +211,15 @@ private:
         grid_.SetRowStyle(-HeaderLines, vxCellFlat);
         grid_.SetRowFont(-HeaderLines, captionFont_);
         grid_.SetRowTextAlign(-HeaderLines, OneLine);
-        grid_.SetRowBackColor(-HeaderLines, 0x00FFFFFF);
+        grid_.SetRowBackColor(-HeaderLines, looks_.ground);
+        grid_.SetRowForeColor(-HeaderLines, looks_.ink);
         grid_.SetCaptionEnabled(true);
         grid_.SetCaption(table_.Name());
         grid_.SetTextMarginLeft(-HeaderLines, 0, 4);
     }
 
     Vornix& grid_;
+    const Looks looks_;
     TextMeasure measure_;
     const Table& table_;
     FontPtr bodyFont_;
@@ -221,32 +227,20 @@ private:
     FontPtr captionFont_;
 };
 
-std::string Grouped(std::uint64_t number)
-{
-    const std::string digits = std::to_string(number);
-    std::string text;
-    for (std::size_t i = 0; i < digits.size(); ++i) {
-        if (i > 0 && (digits.size() - i) % 3 == 0)
-            text += ',';
-        text += digits[i];
-    }
-    return text;
-}
-
 } // namespace
 
-void PresentTable(Vornix& grid, Device& device, const Table& table)
+void PresentTable(Vornix& grid, Device& device, const SystemColors& colors, const Table& table)
 {
-    Presenter(grid, device, table).Present();
+    Presenter(grid, device, colors, table).Present();
 }
 
 std::string StatusLine(const Table& table)
 {
+    const std::string columns = Counted(static_cast<std::uint64_t>(table.ColumnCount()), "column");
     const auto shown = static_cast<std::uint64_t>(table.RowCount());
-    const std::string columns = Grouped(static_cast<std::uint64_t>(table.ColumnCount())) + " columns";
     if (table.IsComplete())
-        return Grouped(shown) + " rows, " + columns;
-    return "the first " + Grouped(shown) + " of " + Grouped(table.TotalRows()) + " rows, " + columns;
+        return Counted(shown, "row") + ", " + columns;
+    return "the first " + WithGroups(shown) + " of " + Counted(table.TotalRows(), "row") + ", " + columns;
 }
 
 } // namespace vornix::viewer

@@ -1,6 +1,7 @@
 #include "progress_line.h"
 
 #include "notices.h"
+#include "unicode.h"
 
 #include <algorithm>
 
@@ -40,7 +41,7 @@ void ProgressLine::Update(const Progress& progress)
 
 std::string ProgressLine::Describe(const std::string& what, const Progress& progress)
 {
-    std::string line = "Loading " + what + ": " + Counted(progress.rows, "row");
+    std::string line = "Loading " + OneLine(what) + ": " + Counted(progress.rows, "row");
     if (progress.totalBytes > 0)
         line += ", " + std::to_string(std::min<std::uint64_t>(100, progress.bytes * 100 / progress.totalBytes)) + " %";
     return line;

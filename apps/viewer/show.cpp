@@ -1,6 +1,7 @@
 // Decides between a window and a picture.
 #include "show.h"
 
+#include "private_path.h"
 #include "report.h"
 #include "snapshot.h"
 #ifdef VORNIX_VIEWER_WINDOW
@@ -8,7 +9,6 @@
 #endif
 
 #include <cstdlib>
-#include <filesystem>
 #include <iostream>
 
 namespace vornix::viewer {
@@ -26,26 +26,13 @@ bool HasDisplay()
     return IsSet("DISPLAY") || IsSet("WAYLAND_DISPLAY") || IsSet("QT_QPA_PLATFORM");
 }
 
-std::string PicturePath(const ViewerOptions& options)
-{
-    if (options.snapshot)
-        return *options.snapshot;
-    std::error_code error;
-    const std::filesystem::path folder = std::filesystem::temp_directory_path(error);
-    return ((error ? std::filesystem::path(".") : folder) / "vornix-view.png").string();
-}
-
 int WritePicture(const Table& table, const ViewerOptions& options)
 {
-    const std::string path = PicturePath(options);
-    try {
+    return StatusOf([&] {
+        const std::string path = options.snapshot ? *options.snapshot : MakePrivatePath("picture.png");
         SavePicture(table, options, path);
-    } catch (const std::runtime_error& error) {
-        ReportLine(error.what());
-        return 1;
-    }
-    std::cout << path << '\n';
-    return 0;
+        std::cout << path << '\n';
+    });
 }
 
 } // namespace

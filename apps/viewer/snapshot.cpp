@@ -12,7 +12,7 @@ void SavePicture(const Table& table, const ViewerOptions& options, const std::st
     window.height = options.height;
     window.scale = options.scale;
     HeadlessContainer container(window);
-    PresentTable(container.Grid(), container.WindowDevice(), table);
+    PresentTable(container.Grid(), container.WindowDevice(), container.Colors(), table);
     container.SavePng(path);
 }
 

@@ -1,5 +1,7 @@
 #include "stored_column.h"
 
+#include "digit_groups.h"
+
 #include <algorithm>
 
 namespace vornix::viewer {
@@ -26,14 +28,6 @@ std::u16string WithDecimals(std::u16string_view number, int decimals)
     if (missing > 0)
         text.append(static_cast<std::size_t>(missing), u'0');
     return text;
-}
-
-std::u16string WithGroups(std::u16string number)
-{
-    const std::size_t firstDigit = number.starts_with(u'-') ? 1 : 0;
-    for (std::size_t end = std::min(number.find(u'.'), number.size()); end > firstDigit + 3; end -= 3)
-        number.insert(end - 3, 1, u',');
-    return number;
 }
 
 } // namespace
@@ -104,7 +98,7 @@ void StoredColumn::Settle(Table& table, int column) const
         if (table.IsNull(row, column))
             continue;
         const std::u16string text = WithDecimals(table.Text(row, column), isMoney ? 2 : decimals_);
-        table.ReplaceText(row, column, isMoney ? WithGroups(text) : text);
+        table.ReplaceText(row, column, isMoney ? WithDigitGroups(text) : text);
     }
 }
 

@@ -1,25 +1,8 @@
 #include "table.h"
 
-#include <algorithm>
 #include <stdexcept>
 
 namespace vornix::viewer {
-
-namespace {
-
-std::size_t LongestLine(std::u16string_view text)
-{
-    std::size_t longest = 0;
-    std::size_t start = 0;
-    while (start <= text.size()) {
-        const std::size_t end = std::min(text.find_first_of(u"\r\n", start), text.size());
-        longest = std::max(longest, end - start);
-        start = end + 1;
-    }
-    return longest;
-}
-
-} // namespace
 
 Alignment AlignmentOf(ColumnKind kind)
 {
@@ -55,21 +38,6 @@ std::u16string_view Table::Text(int row, int column) const
     if (!cell || cell->length == NullLength)
         return {};
     return std::u16string_view(texts_).substr(cell->start, cell->length);
-}
-
-int Table::WidestRow(int column) const
-{
-    int widest = RowCount() > 0 ? 0 : -1;
-    std::size_t longest = 0;
-    for (int row = 0; row < RowCount(); ++row) {
-        const std::u16string_view text = Text(row, column);
-        const std::size_t length = text.size() > longest ? LongestLine(text) : 0;
-        if (length > longest) {
-            longest = length;
-            widest = row;
-        }
-    }
-    return widest;
 }
 
 void Table::AppendRow(std::span<const Field> fields)

@@ -51,8 +51,8 @@ public:
     std::u16string_view Text(int row, int column) const;
     // The state of a check box cell; false for a null.
     bool IsTrue(int row, int column) const { return Text(row, column) == u"-1"; }
-    // The row whose text needs the most room on one line, by its count of characters; -1 without rows.
-    int WidestRow(int column) const;
+    // False in a Boolean column where there is no value: a null, or a text of blanks.
+    bool HasTruthValue(int row, int column) const { return IsTrue(row, column) || Text(row, column) == u"0"; }
 
     // What a reader should be told, one line each, UTF-8: rows left out, rows filled up.
     const std::vector<std::string>& Notices() const { return notices_; }

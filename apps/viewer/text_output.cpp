@@ -30,7 +30,7 @@ std::string CellText(const Table& table, int row, int column)
     if (table.IsNull(row, column))
         return {};
     const bool isBoolean = table.Columns()[static_cast<std::size_t>(column)].kind == ColumnKind::Boolean;
-    if (isBoolean && !table.Text(row, column).empty())
+    if (isBoolean && table.HasTruthValue(row, column))
         return table.IsTrue(row, column) ? "true" : "false";
     return FieldText(table.Text(row, column));
 }

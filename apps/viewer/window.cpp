@@ -84,7 +84,7 @@ int ShowWindow(const Table& table, const ViewerOptions& options, const std::func
     CloseOn(QKeySequence::Quit, window);
     CloseOn(QKeySequence::Close, window);
 
-    PresentTable(grid->Grid(), grid->MeasuringDevice(), table);
+    PresentTable(grid->Grid(), grid->MeasuringDevice(), grid->Colors(), table);
     window.show();
     return QApplication::exec();
 }

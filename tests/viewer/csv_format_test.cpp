@@ -81,6 +81,16 @@ TEST(HasHeader, SeesDataInTheFirstRow)
     EXPECT_FALSE(HeaderOf(u"1.5,a\n2,b\n"));
 }
 
+TEST(HasHeader, TakesWordsThatCouldBeTruthValuesForNames)
+{
+    for (const char16_t* name : { u"No", u"Yes", u"N", u"Y", u"T", u"F" }) {
+        EXPECT_TRUE(HeaderOf(name + std::u16string(u",city\nA-17,Kyoto\nB-02,Lima\n"))) << static_cast<char>(*name);
+        EXPECT_TRUE(HeaderOf(name + std::u16string(u",city\n"))) << static_cast<char>(*name);
+    }
+    EXPECT_TRUE(HeaderOf(u"T,F\nwarm,north\ncold,south\n"));
+    EXPECT_FALSE(HeaderOf(u"7,city\nA-17,Kyoto\n"));
+}
+
 TEST(HasHeader, TakesDifferentShortTextsForNamesWhereAllIsText)
 {
     EXPECT_TRUE(HeaderOf(u"name,city\nAnna,Kyoto\n"));

@@ -35,7 +35,7 @@ TEST(Options, ShowTheSampleUnlessTold)
     EXPECT_EQ(options.width, 1280);
     EXPECT_EQ(options.height, 800);
     EXPECT_EQ(options.scale, 1);
-    EXPECT_FALSE(options.sizeGiven || options.scaleGiven);
+    EXPECT_FALSE(options.scaleGiven);
 }
 
 TEST(Options, TakeEverythingTheirHelpNames)
@@ -48,7 +48,7 @@ TEST(Options, TakeEverythingTheirHelpNames)
     EXPECT_EQ(options.width, 640);
     EXPECT_EQ(options.height, 480);
     EXPECT_EQ(options.scale, 1.25);
-    EXPECT_TRUE(options.sizeGiven && options.scaleGiven);
+    EXPECT_TRUE(options.scaleGiven);
     EXPECT_EQ(Parse({ "a.db", "--query", "SELECT 1 -- one" }).query, "SELECT 1 -- one");
     EXPECT_EQ(Parse({ "--", "--list" }).file, "--list");
 }

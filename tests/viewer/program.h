@@ -15,4 +15,7 @@ struct ProgramResult {
 // The streams go to files in a scratch folder, so that nothing can block.
 ProgramResult RunViewer(const std::vector<std::string>& arguments);
 
+// In an environment of these variables, NAME=VALUE, and no other.
+ProgramResult RunViewerIn(const std::vector<std::string>& environment, const std::vector<std::string>& arguments);
+
 } // namespace vornix::viewer

@@ -64,3 +64,8 @@ TEST(ProgressLine, LeavesOutTheShareWhenTheWholeIsNotKnown)
     EXPECT_EQ(ProgressLine::Describe("x.db", { 1, 0, 0 }), "Loading x.db: 1 row");
     EXPECT_EQ(ProgressLine::Describe("x.csv", { 0, 300, 200 }), "Loading x.csv: 0 rows, 100 %");
 }
+
+TEST(ProgressLine, ShowsControlCharactersOfTheNameAsSpaces)
+{
+    EXPECT_EQ(ProgressLine::Describe("a\n\x1b[2Jb.csv", { 2, 0, 0 }), "Loading a  [2Jb.csv: 2 rows");
+}

@@ -79,15 +79,17 @@ TEST(Table, ReplacesATextWithoutTouchingItsNeighbours)
     EXPECT_THROW(table.ReplaceText(1, 2, u"x"), std::out_of_range);
 }
 
-TEST(Table, FindsTheRowWithTheLongestLine)
+TEST(Table, HasTruthValuesInCheckBoxTextsOnly)
 {
     Table table;
-    table.Columns() = { { u"note" } };
-    EXPECT_EQ(table.WidestRow(0), -1);
-    Append(table, { { u"four" } });
-    Append(table, { { u"a\nb\nc\nd\ne\nf" } });
-    Append(table, { { u"x\r\nlongest\ny" } });
-    EXPECT_EQ(table.WidestRow(0), 2);
+    table.Columns() = { { u"paid", ColumnKind::Boolean } };
+    for (const char16_t* text : { u"-1", u"0", u"", u"  " })
+        Append(table, { { text } });
+    Append(table, { { u"", true } });
+    EXPECT_TRUE(table.HasTruthValue(0, 0));
+    EXPECT_TRUE(table.HasTruthValue(1, 0));
+    for (const int row : { 2, 3, 4 })
+        EXPECT_FALSE(table.HasTruthValue(row, 0)) << row;
 }
 
 TEST(Table, AlignsNumbersAndDatesToTheRightAndCheckBoxesInTheMiddle)

@@ -31,17 +31,34 @@ std::string Content(const std::string& path)
     return { std::istreambuf_iterator<char>(file), {} };
 }
 
+// With the null at the end that starting a program wants.
+std::vector<char*> PointersTo(std::vector<std::string>& texts)
+{
+    std::vector<char*> pointers;
+    for (std::string& text : texts)
+        pointers.push_back(text.data());
+    pointers.push_back(nullptr);
+    return pointers;
+}
+
 } // namespace
 
 ProgramResult RunViewer(const std::vector<std::string>& arguments)
 {
+    std::vector<std::string> environment;
+    for (char** variable = environ; *variable; ++variable)
+        environment.emplace_back(*variable);
+    return RunViewerIn(environment, arguments);
+}
+
+ProgramResult RunViewerIn(const std::vector<std::string>& environment, const std::vector<std::string>& arguments)
+{
     const ScratchFolder folder;
     std::vector<std::string> all = arguments;
     all.insert(all.begin(), VORNIX_VIEW);
-    std::vector<char*> pointers;
-    for (std::string& argument : all)
-        pointers.push_back(argument.data());
-    pointers.push_back(nullptr);
+    std::vector<std::string> variables = environment;
+    const std::vector<char*> pointers = PointersTo(all);
+    const std::vector<char*> variablePointers = PointersTo(variables);
 
     const std::string output = folder.Path("stdout");
     const std::string error = folder.Path("stderr");
@@ -50,7 +67,8 @@ ProgramResult RunViewer(const std::vector<std::string>& arguments)
     posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, output.c_str(), O_WRONLY | O_CREAT, 0600);
     posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, error.c_str(), O_WRONLY | O_CREAT, 0600);
     pid_t process = 0;
-    const int spawned = ::posix_spawn(&process, VORNIX_VIEW, &actions, nullptr, pointers.data(), environ);
+    const int spawned
+        = ::posix_spawn(&process, VORNIX_VIEW, &actions, nullptr, pointers.data(), variablePointers.data());
     posix_spawn_file_actions_destroy(&actions);
     EXPECT_EQ(spawned, 0);
     int status = 0;
@@ -89,6 +107,12 @@ TEST(VornixView, ListsTheTablesOfADatabase)
     const ProgramResult result = RunViewer({ "--list", made.Path() });
     EXPECT_EQ(result.status, 0);
     EXPECT_EQ(result.output, "table\tfirst\nview\tsecond\n");
+}
+
+TEST(VornixView, ListsEachNameOnALineOfItsOwn)
+{
+    const MadeDatabase made("CREATE TABLE \"two\nlines\t\x1b[2J\"(a);");
+    EXPECT_EQ(RunViewer({ "--list", made.Path() }).output, "table\ttwo lines  [2J\n");
 }
 
 TEST(VornixView, OpensTheSampleWithoutAFile)
@@ -237,5 +261,32 @@ TEST(VornixView, LeavesNoPictureOfWhatItCannotRead)
     const std::string broken = folder.Write("a.csv", "a,b\n1,\xFF\n");
     ExpectRefusal({ "--snapshot", picture, broken }, broken + ": line 2: invalid UTF-8 text");
     EXPECT_FALSE(std::filesystem::exists(picture));
+}
+
+TEST(VornixView, WritesAPictureWhereThereIsNoDisplayAndSaysWhere)
+{
+    const ScratchFolder folder;
+    const std::string victim = folder.Write("victim", "unharmed");
+    std::filesystem::create_symlink(victim, folder.Path("vornix-view.png"));
+    const ProgramResult result
+        = RunViewerIn({ "TMPDIR=" + folder.Path("") }, { "--size", "200x100", folder.Write("a.csv", "a,b\n1,2\n") });
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.error, "vornix-view: there is no display; the picture is written instead\n");
+    ASSERT_THAT(result.output, testing::EndsWith(".png\n"));
+    const std::string picture = result.output.substr(0, result.output.size() - 1);
+    EXPECT_THAT(picture, StartsWith(folder.Path("")));
+    EXPECT_THAT(Content(picture), StartsWith("\x89PNG\r\n"));
+    EXPECT_EQ(Content(victim), "unharmed");
+}
+
+TEST(VornixView, EndsInOneLineWhenThePictureCannotBeWritten)
+{
+    const ScratchFolder folder;
+    const std::string file = folder.Write("a.csv", "a,b\n1,2\n");
+    const ProgramResult result = RunViewer({ "--snapshot", folder.Path("none/out.png"), file });
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.output, "");
+    EXPECT_THAT(result.error, StartsWith("vornix-view: "));
+    EXPECT_EQ(std::count(result.error.begin(), result.error.end(), '\n'), 1);
 }
 #endif

@@ -69,6 +69,11 @@ Device& QVornix::MeasuringDevice()
     return container_->WindowDevice();
 }
 
+const SystemColors& QVornix::Colors() const
+{
+    return container_->Colors();
+}
+
 QSize QVornix::sizeHint() const
 {
     return { 640, 480 };

@@ -38,6 +38,8 @@ public:
     // The device that the grid is drawn on, for measuring texts before the widget is shown. A new one may take its
     // place whenever the widget changes its size or resolution.
     Device& MeasuringDevice();
+    // The system colours that the grid sees, from the palette of the widget.
+    const SystemColors& Colors() const;
 
     QSize sizeHint() const override;
 

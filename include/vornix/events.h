@@ -34,9 +34,12 @@ public:
     virtual void KeyPress(i16& /*KeyAscii*/) { }
     virtual void KeyUp(i16& /*KeyCode*/, i16& /*Shift*/) { }
     virtual void OLECompleteDrag(i32& /*Effect*/) { }
-    virtual void OLEDragDrop(DataObject& /*Data*/, i32& /*Effect*/, i16& /*Button*/, i16& /*Shift*/, float& /*x*/, float& /*y*/) { }
-    virtual void OLEDragOver(DataObject& /*Data*/, i32& /*Effect*/, i16& /*Button*/, i16& /*Shift*/, float& /*x*/, float& /*y*/,
-        i16& /*State*/)
+    virtual void OLEDragDrop(
+        DataObject& /*Data*/, i32& /*Effect*/, i16& /*Button*/, i16& /*Shift*/, float& /*x*/, float& /*y*/)
+    {
+    }
+    virtual void OLEDragOver(DataObject& /*Data*/, i32& /*Effect*/, i16& /*Button*/, i16& /*Shift*/, float& /*x*/,
+        float& /*y*/, i16& /*State*/)
     {
     }
     virtual void OLEGiveFeedback(i32& /*Effect*/, bool& /*DefaultCursors*/) { }

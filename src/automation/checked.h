@@ -8,6 +8,7 @@
 #include <limits>
 #include <new>
 #include <stdexcept>
+#include <utility>
 
 namespace vornix {
 
@@ -70,11 +71,11 @@ inline void CheckArgument(bool isValid)
         RaiseError(ErrorNumber::InvalidArgument);
 }
 
-// Runs a step that makes or widens an array; error 7 when there is no memory for it.
-template <typename Step> decltype(auto) CheckedAllocation(Step&& step)
+// Runs a step that needs memory; error 7 when there is none for it.
+template <typename Step> decltype(auto) OrOutOfMemory(Step&& step)
 {
     try {
-        return step();
+        return std::forward<Step>(step)();
     } catch (const std::bad_alloc&) {
         RaiseError(ErrorNumber::OutOfMemory);
     } catch (const std::length_error&) {

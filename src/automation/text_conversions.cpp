@@ -129,6 +129,17 @@ bool TextToBool(std::u16string_view text, const Locale& locale)
     return TextToR8(text, locale) != 0;
 }
 
+bool IsTrueText(std::u16string_view text, const Locale& locale)
+{
+    if (text.empty())
+        return false;
+    try {
+        return TextToBool(text, locale);
+    } catch (const AutomationError&) {
+        return false;
+    }
+}
+
 double TextToDate(std::u16string_view text, const Locale& locale)
 {
     const std::optional<double> date = ParseDate(text, locale);

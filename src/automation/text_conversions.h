@@ -21,6 +21,8 @@ double TextToR8(std::u16string_view text, const Locale& locale = BuiltinLocale()
 
 // The words for true and false, "#TRUE#", "#FALSE#", and every number.
 bool TextToBool(std::u16string_view text, const Locale& locale = BuiltinLocale());
+// The same where a text that is no truth value counts as false.
+bool IsTrueText(std::u16string_view text, const Locale& locale = BuiltinLocale());
 
 // Days since 30 December 1899, the time of day as the fraction (which counts away from zero).
 double TextToDate(std::u16string_view text, const Locale& locale = BuiltinLocale());

@@ -1,20 +1,11 @@
 // What cells and columns hold: texts, keys, truth values, names, formats and masks.
+#include "automation/checked.h"
 #include "automation/text_conversions.h"
 #include "control/control.h"
 
 namespace vornix {
 
 namespace {
-
-// A text that is no truth value reads as false.
-bool IsTrueText(std::u16string_view text, const Locale& locale)
-{
-    try {
-        return TextToBool(text, locale);
-    } catch (const AutomationError&) {
-        return false;
-    }
-}
 
 void WriteText(Control& control, i16 Row, i16 Col, std::u16string_view text)
 {
@@ -86,7 +77,8 @@ std::u16string Vornix::ColName(i16 Col) const
 void Vornix::SetColName(i16 Col, std::u16string_view Value)
 {
     const auto control = Enter();
-    control->store.ColumnAt(control->InternalCol(Col)).Name = Value;
+    std::u16string& name = control->store.ColumnAt(control->InternalCol(Col)).Name;
+    OrOutOfMemory([&] { name = Value; });
 }
 
 std::u16string Vornix::ColFormat(i16 Col) const
@@ -99,7 +91,8 @@ void Vornix::SetColFormat(i16 Col, std::u16string_view Value)
 {
     const auto control = Enter();
     const int col = control->InternalCol(Col);
-    control->store.ColumnAt(col).Format = Value;
+    std::u16string& format = control->store.ColumnAt(col).Format;
+    OrOutOfMemory([&] { format = Value; });
     control->funnel.RefreshColUnderGate(col);
 }
 
@@ -113,7 +106,8 @@ void Vornix::SetColMask(i16 Col, std::u16string_view Value)
 {
     const auto control = Enter();
     const int col = control->InternalCol(Col);
-    control->store.ColumnAt(col).Mask = Value;
+    std::u16string& mask = control->store.ColumnAt(col).Mask;
+    OrOutOfMemory([&] { mask = Value; });
     control->funnel.RefreshColUnderGate(col);
 }
 

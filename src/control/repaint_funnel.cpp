@@ -141,7 +141,10 @@ void RepaintFunnel::PaintMessage()
 
 void RepaintFunnel::PaintSplitBar()
 {
-    Paint([this] { context_.paint.PaintSplitBar(); });
+    bool viewMoved = false;
+    Paint([&] { viewMoved = context_.paint.PaintSplitBar(); });
+    if (viewMoved)
+        RepaintUnderGate();
 }
 
 } // namespace vornix

@@ -34,7 +34,7 @@ void Vornix::SetCaption(std::u16string_view Value)
     const bool wasEmpty = control->settings.Caption.empty();
     if (Value == control->settings.Caption)
         return;
-    control->settings.Caption = Value;
+    OrOutOfMemory([&] { control->settings.Caption = Value; });
     if (!control->IsRunMode())
         control->FollowCaption(wasEmpty);
     control->CopyCaption();
@@ -87,15 +87,10 @@ void Vornix::SetShowSplit(bool Value)
         const int top = layout.ClientHeight() - 1;
         control->container.Child(ChildName::scrH).Move({ 0, top, layout.ClientWidth(), top + layout.HBarHeight() + 1 });
     }
-    if (change == SplitChange::Dropped) {
+    if (change == SplitChange::Dropped)
         control->funnel.RecalcLayout(false);
-    } else {
-        const int firstCol = control->scroll.FirstCol();
+    else
         control->funnel.PaintSplitBar();
-        // Placing the handle goes back to the first column where no bar could scroll to another.
-        if (control->scroll.FirstCol() != firstCol)
-            control->funnel.RepaintUnderGate();
-    }
     control->Report("ShowSplit");
 }
 

@@ -1,6 +1,6 @@
 #include "model/cell.h"
 
-#include "model/out_of_memory.h"
+#include "automation/checked.h"
 
 #include <utility>
 

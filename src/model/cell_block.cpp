@@ -1,6 +1,6 @@
 #include "model/cell_block.h"
 
-#include "model/out_of_memory.h"
+#include "automation/checked.h"
 
 #include <algorithm>
 #include <memory>

@@ -2,7 +2,6 @@
 
 #include "automation/checked.h"
 #include "automation/colors.h"
-#include "model/out_of_memory.h"
 
 namespace vornix {
 

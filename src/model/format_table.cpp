@@ -1,6 +1,6 @@
 #include "model/format_table.h"
 
-#include "model/out_of_memory.h"
+#include "automation/checked.h"
 
 #include <algorithm>
 #include <functional>

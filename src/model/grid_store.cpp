@@ -1,6 +1,6 @@
 #include "model/grid_store.h"
 
-#include "model/out_of_memory.h"
+#include "automation/checked.h"
 #include "model/rewrite_blocks.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // Lines of the store made anew from the defaults.
 #include "model/grid_store.h"
 
-#include "model/out_of_memory.h"
+#include "automation/checked.h"
 #include "model/rewrite_blocks.h"
 
 #include <utility>

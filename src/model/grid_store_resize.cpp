@@ -1,7 +1,7 @@
 // The arrays of the store: their sizes, and lines moving in them.
 #include "model/grid_store.h"
 
-#include "model/out_of_memory.h"
+#include "automation/checked.h"
 #include "model/rewrite_blocks.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 // Writing to a run of rows that may share their cells.
 #pragma once
 
+#include "automation/checked.h"
 #include "model/grid_store.h"
-#include "model/out_of_memory.h"
 
 #include <algorithm>
 #include <unordered_map>

@@ -1,7 +1,6 @@
 #include "model/spans.h"
 
 #include "automation/checked.h"
-#include "model/out_of_memory.h"
 
 #include <algorithm>
 #include <string>

@@ -1,7 +1,6 @@
 #include "model/visual_cell_store.h"
 
 #include "automation/checked.h"
-#include "model/out_of_memory.h"
 
 namespace vornix {
 

@@ -56,11 +56,11 @@ TEST(Checked, ArgumentsAndMemory)
 {
     EXPECT_EQ(ErrorOf([] { CheckArgument(true); }), 0);
     EXPECT_EQ(ErrorOf([] { CheckArgument(false); }), ErrorNumber::InvalidArgument);
-    EXPECT_EQ(CheckedAllocation([] { return 5; }), 5);
+    EXPECT_EQ(OrOutOfMemory([] { return 5; }), 5);
     std::vector<int> numbers;
     EXPECT_EQ(
-        ErrorOf([&] { CheckedAllocation([&] { numbers.resize(numbers.max_size() + 1); }); }), ErrorNumber::OutOfMemory);
-    EXPECT_EQ(ErrorOf([] { CheckedAllocation([] { throw std::bad_alloc(); }); }), ErrorNumber::OutOfMemory);
+        ErrorOf([&] { OrOutOfMemory([&] { numbers.resize(numbers.max_size() + 1); }); }), ErrorNumber::OutOfMemory);
+    EXPECT_EQ(ErrorOf([] { OrOutOfMemory([] { throw std::bad_alloc(); }); }), ErrorNumber::OutOfMemory);
 }
 
 TEST(Checked, EveryErrorHasADescription)

@@ -21,6 +21,19 @@ TEST_F(Headless, HasTheScreenAndAmbientOfItsKind)
     EXPECT_EQ(host->Colors().values[15], 0xF0F0F0u);
 }
 
+TEST_F(Headless, KeepsItsPictureWhileNothingIsPainted)
+{
+    Table(3, 3);
+    Grid().SetCellBackColor(0, 0, 0x00FFFF);
+    ASSERT_EQ(host->Pixel(40, 10), 0x00FFFFu);
+    Grid().SetRedraw(false);
+    host->Resize(200, 100);
+    EXPECT_EQ(host->Pixel(40, 10), 0x00FFFFu);
+    EXPECT_EQ(host->Pixel(200, 10), 0xFFFFFFFFu);
+    host->Resize(640, 480);
+    EXPECT_EQ(host->Pixel(40, 10), 0x00FFFFu);
+}
+
 TEST_F(Headless, LogsEventsInOrderWithTheirValuesAsRaised)
 {
     Table(2, 1);

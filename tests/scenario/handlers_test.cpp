@@ -113,7 +113,7 @@ TEST_F(Handlers, DrawCellOfOneRefreshedCellShrinksTheTable)
     EXPECT_EQ(Grid().Rows(), 0);
 }
 
-// A refresh of a line walks the lines that the latest paint found; one that is gone meanwhile ends it with error 9.
+// A refresh of a line ends where its line is gone; a rectangle's next column may be one that is not there any more.
 TEST_F(Handlers, DrawCellShrinksTheTableDuringLineRefreshes)
 {
     const std::pair<std::function<void()>, std::function<void()>> cases[] = {
@@ -133,6 +133,18 @@ TEST_F(Handlers, DrawCellShrinksTheTableDuringLineRefreshes)
         Grid().Refresh();
         EXPECT_FALSE(ErrorOf([&] { Grid().SetRowForeColor(0, 2); }));
     }
+}
+
+TEST_F(Handlers, DrawCellTakesTheRefreshedLineAway)
+{
+    CustomTable();
+    OnFirstDraw([&](Hdc&, bool&) { Grid().SetRows(1); });
+    EXPECT_FALSE(ErrorOf([&] { Grid().SetRowForeColor(3, 1); }));
+    EXPECT_EQ(drawn, 1);
+    Make({});
+    CustomTable();
+    OnFirstDraw([&](Hdc&, bool&) { Grid().SetCols(1); });
+    EXPECT_FALSE(ErrorOf([&] { Grid().SetColForeColor(3, 1); }));
 }
 
 TEST_F(Handlers, DrawCellGrowsTheTable)

@@ -50,6 +50,8 @@ HeadlessContainer::HeadlessContainer(const HeadlessOptions& options)
     , log_(options.events)
 {
     MakeWindow(ClientSize());
+    if (!window_)
+        throw std::bad_alloc();
     grid_ = std::make_unique<Vornix>(*this, log_);
     const MemoryBag emptyBag;
     if (options.design && !options.bag)
@@ -114,12 +116,12 @@ Size HeadlessContainer::ClientSize() const
     return { std::max(size_.width - border, 0), std::max(size_.height - border, 0) };
 }
 
-// The window's picture is the back store itself. A new size comes into force here, where no paint is going on.
+// The window is a surface of its own. A new size comes into force here, where no paint is going on.
 Surface* HeadlessContainer::BackStore(Size size)
 {
     if (size != windowSize_)
         MakeWindow(size);
-    return window_.get();
+    return nullptr;
 }
 
 void HeadlessContainer::MakeWindow(Size client)
@@ -127,9 +129,14 @@ void HeadlessContainer::MakeWindow(Size client)
     const Size atLeastOne { std::max(client.width, 1), std::max(client.height, 1) };
     auto window = RasterSurface::Create(atLeastOne, scale_, colors_);
     if (!window)
-        throw AutomationError(ErrorNumber::OutOfMemory);
-    window->FillRect({ 0, 0, atLeastOne.width, atLeastOne.height },
-        colors_.values[static_cast<std::size_t>(SystemColor::ButtonFace)]);
+        return; // the window goes on as it was; only a first one must be had
+    const Rect whole { 0, 0, atLeastOne.width, atLeastOne.height };
+    window->FillRect(whole, colors_.values[static_cast<std::size_t>(SystemColor::ButtonFace)]);
+    // What was seen stays where it was until the next paint.
+    if (window_) {
+        window->BitBlt(whole, *window_, {}, RasterOp::SrcCopy);
+        window->SetBkColor(window_->GetBkColor());
+    }
     window_ = std::move(window);
     windowSize_ = client;
 }

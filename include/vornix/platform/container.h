@@ -31,6 +31,8 @@ public:
     virtual void Raise() = 0;
     // False when the window cannot take the focus now.
     virtual bool SetFocus() = 0;
+    // What the control draws on where it draws a child itself; null where the toolkit does.
+    virtual Device* Canvas() { return nullptr; }
 };
 
 // The children by the names they carry.
@@ -56,8 +58,8 @@ public:
 class SettingsStore {
 public:
     virtual ~SettingsStore() = default;
-    virtual std::u16string GetSetting(
-        std::u16string_view application, std::u16string_view section, std::u16string_view key, std::u16string_view fallback)
+    virtual std::u16string GetSetting(std::u16string_view application, std::u16string_view section,
+        std::u16string_view key, std::u16string_view fallback)
         = 0;
     virtual void SaveSetting(std::u16string_view application, std::u16string_view section, std::u16string_view key,
         std::u16string_view value)

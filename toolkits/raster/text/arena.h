@@ -35,7 +35,7 @@ public:
     std::size_t Used() const { return used_; }
 
 private:
-    static constexpr std::size_t ChunkBytes = 64 * 1024;
+    static constexpr std::size_t ChunkBytes = std::size_t { 64 } * 1024;
 
     void NextChunk()
     {

@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-struct _FcCharSet;
+struct _FcCharSet; // NOLINT(bugprone-reserved-identifier): its name in Fontconfig
 
 namespace vornix {
 

@@ -13,8 +13,8 @@ namespace vornix {
 
 namespace {
 
-constexpr std::size_t MostBytes = 4 * 1024 * 1024;
-constexpr std::size_t MostImages = 16 * 1024;
+constexpr std::size_t MostBytes = std::size_t { 4 } * 1024 * 1024;
+constexpr std::size_t MostImages = std::size_t { 16 } * 1024;
 
 bool LoadOutline(const FontFace& face, u32 glyph, int emHeight64, int phase)
 {

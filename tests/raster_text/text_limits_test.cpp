@@ -45,6 +45,22 @@ TEST(TextLimits, MeasuringAMegabyteEnds)
     EXPECT_NEAR(rect.bottom, lines * 14, 14);
 }
 
+TEST(TextLimits, ARectangleAtTheEndsOf32BitsIsCut)
+{
+    constexpr int Most = 2147483647;
+    Canvas near(60, 30, 2);
+    Canvas far(60, 30, 2);
+    near.Draw(u"text", { 0, 0, 60, 30 }, 0);
+    far.Draw(u"text", { 0, 0, Most, Most }, 0);
+    EXPECT_EQ(near.Pixels(), far.Pixels());
+    const std::vector<u32> before = far.Pixels();
+    for (const u32 format : { 0u, DT_RIGHT, DT_CENTER | DT_SINGLELINE, DT_WORDBREAK, DT_CALCRECT }) {
+        far.Draw(u"text", { -Most - 1, -Most - 1, -Most, -Most }, format);
+        far.Draw(u"text", { Most, Most, Most, Most }, format);
+    }
+    EXPECT_EQ(far.Pixels(), before);
+}
+
 TEST(TextLimits, ALineIsMeasuredUpToItsLimit)
 {
     const int limit = static_cast<int>(LineLayout::LongestLine);

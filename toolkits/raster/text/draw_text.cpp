@@ -9,6 +9,15 @@ namespace vornix {
 
 namespace {
 
+// No surface reaches this far: a rectangle that does is cut, so that no sum of its edges and a text leaves 32 bits.
+constexpr int FarAway = 1 << 24;
+
+Rect Near(const Rect& rect)
+{
+    const auto near = [](int edge) { return std::clamp(edge, -FarAway, FarAway); };
+    return { near(rect.left), near(rect.top), near(rect.right), near(rect.bottom) };
+}
+
 class NoLines : public LineSink {
 public:
     bool Wants(int, int) override { return false; }
@@ -33,6 +42,7 @@ int DrawTextOnPixels(const PixelView& view, std::u16string_view text, Rect& rect
     TextEngine& engine = TextEngine::OfThread();
     engine.BeginCall();
     Font& resolved = engine.Resolve(font);
+    rect = Near(rect);
     LineLayout layout(engine, resolved, rect, format);
     if ((format & DT_CALCRECT) && !(format & DT_TABSTOP)) {
         NoLines none;

@@ -32,6 +32,15 @@ TEST(TextLimits, AMegabyteIsDrawnWithinItsRectangle)
             EXPECT_GT(height, 0) << "first unit " << static_cast<int>(text[0]) << " format " << format;
         }
     }
+    const std::vector<u32> pixels = canvas.Pixels();
+    const std::vector<u32> blank = Canvas(200, 100).Pixels();
+    for (std::size_t i = 0; i < pixels.size(); ++i) {
+        const std::size_t x = i % 200;
+        const std::size_t y = i / 200;
+        if (x < 3 || x >= 150 || y < 3 || y >= 90) {
+            ASSERT_EQ(pixels[i], blank[i]) << x << ", " << y;
+        }
+    }
 }
 
 TEST(TextLimits, MeasuringAMegabyteEnds)

@@ -25,6 +25,7 @@ inline constexpr int TypeMismatch = 13;
 inline constexpr int InvalidUseOfNull = 94;
 inline constexpr int NoSuchMember = 438;
 inline constexpr int ActionNotSupported = 445;
+inline constexpr int NamedArgumentNotFound = 448;
 inline constexpr int WrongArgumentCount = 450;
 } // namespace ErrorNumber
 
@@ -53,6 +54,7 @@ enum class VariantType : u8 {
     Single,
     Double,
     Currency,
+    Decimal,
     Date,
     Boolean,
     Text,
@@ -61,6 +63,15 @@ enum class VariantType : u8 {
     Picture,
     Object,
     Array
+};
+
+// An exact decimal number: (high * 2^64 + low) / 10^scale. The scale is 0 to 28.
+struct DecimalValue {
+    std::uint64_t low = 0;
+    u32 high = 0;
+    u8 scale = 0;
+    bool negative = false;
+    friend bool operator==(const DecimalValue&, const DecimalValue&) = default;
 };
 
 struct VariantArray;
@@ -95,6 +106,8 @@ public:
     static Variant Missing();
     // Ten-thousandths.
     static Variant FromCurrency(std::int64_t scaled);
+    // Error 5 for a scale beyond 28.
+    static Variant FromDecimal(const DecimalValue& value);
     // Days since 30 December 1899.
     static Variant FromDate(double days);
     static Variant FromObject(ObjectPtr object);
@@ -115,6 +128,7 @@ public:
     double ToDate(const Locale& locale = BuiltinLocale()) const;
     // Ten-thousandths.
     std::int64_t ToCurrency(const Locale& locale = BuiltinLocale()) const;
+    DecimalValue ToDecimal(const Locale& locale = BuiltinLocale()) const;
     // A colour is a 32-bit pattern: both 0x80000005 and its negative reading are taken.
     OleColor ToColor(const Locale& locale = BuiltinLocale()) const;
 

@@ -125,8 +125,16 @@ enum vxFocusEnum : i32 { vxFocusNone = 0, vxFocusLight = 1, vxFocusHeavy = 2, vx
 
 enum vxScrollEnum : i32 { vxNoScrollBar = 0, vxNormalScroll = 1, vxScrollTrack = 2, vxScrollSmooth = 3 };
 
+enum vxScrollBarStyleEnum : i32 { vxSB3D = 0, vxSBFlat = 1, vxSB3DTrack = 2 };
+
 enum vxPictureModeEnum : i32 { vxDefault = 0, vxPicRow = 1, vxPicColumn = 2, vxPicCell = 3 };
 
 enum vxMaskModeEnum : i32 { vxNoMask = 0, vxMaskColor = 1, vxTopLeftPixel = 2 };
+
+enum vxOrderEnum : i32 { vxNoOrder = 0, vxAsc = 1, vxDesc = 2 };
+
+enum vxTypeColEnum : i32 { vxAlphaNum = 0, vxNumeric = 1, vxDate = 2 };
+
+enum vxTextOrKey : i32 { vxText = 0, vxKey = 1 };
 
 } // namespace vornix

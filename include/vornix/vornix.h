@@ -13,11 +13,13 @@
 
 #include "vornix/automation.h"
 #include "vornix/events.h"
+#include "vornix/members.h"
 #include "vornix/picture.h"
 #include "vornix/platform/container.h"
 #include "vornix/types.h"
 
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -65,6 +67,36 @@ public:
     int Repaints() const;
     int Refreshes() const;
     void ClearPaintCounters();
+
+    // -- Late binding --
+
+    // Calls a member by its name, in any case. Arguments are converted to the member's types in the container's locale
+    // (error 13 where that cannot be, 6 where a value leaves its width); those by reference come back in their places,
+    // unless the call fails. Optional ones may be left out at the end or be Variant::Missing(). Writing a property, the
+    // value is the last argument. The result is empty where nothing comes back. Errors 438 for a name or a kind that
+    // the control does not have, 450 for a wrong number of arguments, 445 for members that are not built yet.
+    Variant Invoke(std::string_view name, InvokeKind kind, std::span<Variant> args);
+    // The last arguments by name: names[i] is that of args[args.size() - names.size() + i]. Error 448 for a name that
+    // the member does not have, 450 for one that is given twice. By-reference arguments come back where they were given.
+    Variant Invoke(
+        std::string_view name, InvokeKind kind, std::span<Variant> args, std::span<const std::string_view> names);
+    // A member that FindMember gave, for calls that are made often.
+    Variant Invoke(const MemberInfo& member, InvokeKind kind, std::span<Variant> args);
+
+    // -- Input --
+    // What happened to the control's window, in the platform's numbers: buttons 1 left, 2 right, 4 middle; shift 1
+    // Shift, 2 Ctrl, 4 Alt; places in pixels of the client area. Each raises the event of its name; the codes that
+    // handlers left come back.
+
+    void MouseDown(i16 Button, i16 Shift, float x, float y);
+    void MouseMove(i16 Button, i16 Shift, float x, float y);
+    void MouseUp(i16 Button, i16 Shift, float x, float y);
+    // Come after the release.
+    void Click();
+    void DblClick();
+    void KeyDown(i16& KeyCode, i16& Shift);
+    void KeyPress(i16& KeyAscii);
+    void KeyUp(i16& KeyCode, i16& Shift);
 
     // -- Drawing and the redraw gate --
 
@@ -353,7 +385,8 @@ public:
     // Whether the second cell is the parent of the first. False for a first cell outside the real lines.
     bool IsParent(i16 Row, i16 Col, i16 ParentRow, i16 ParentCol) const;
     // Merges runs of rows with equal texts (or keys), without regard to case, in one column. Repaints once.
-    void SpanRows(i16 Col, bool bUseKey = false);
+    void SpanRows(i16 Col, bool& bUseKey);
+    void SpanRows(i16 Col, bool&& bUseKey = false);
     // Undoes it in `Cols` columns from `Col` on. Repaints once.
     void RemoveSpanRows(i16 Col, i16 Cols = 1);
 
@@ -465,6 +498,14 @@ public:
     // Pixels. Writing does nothing.
     i16 ScrollBarSize() const;
     void SetScrollBarSize(i16 Value);
+
+    // -- Tables in and out --
+
+    // Appends the records of an array as rows, and makes its columns the grid's: Cols becomes their number, Rows grows.
+    // Every element becomes a text as conversions to text do in the container's locale. Null elements leave their cells
+    // alone; with IsNullTest off they raise error 94, and the rows before stay. Repaints once. An array without columns
+    // or without records does nothing.
+    void LoadFromArray(const VariantArray& Arr, bool IsNullTest = true);
 
     // -- Current cell and virtual mode, as far as they are read --
 

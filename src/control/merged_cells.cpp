@@ -59,7 +59,12 @@ bool Vornix::IsParent(i16 Row, i16 Col, i16 ParentRow, i16 ParentCol) const
     return control->spans.ParentOf(row, col) == control->Internal(ParentRow, ParentCol);
 }
 
-void Vornix::SpanRows(i16 Col, bool bUseKey)
+void Vornix::SpanRows(i16 Col, bool&& bUseKey)
+{
+    SpanRows(Col, bUseKey);
+}
+
+void Vornix::SpanRows(i16 Col, bool& bUseKey)
 {
     const auto control = Enter();
     if (control->store.Rows() == 0)

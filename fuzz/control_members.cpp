@@ -211,7 +211,7 @@ constexpr MemberCall acting[] = {
     Call<&Vornix::ResetGrid>,
     Call<&Vornix::SetColSpan>,
     Call<&Vornix::SetRowSpan>,
-    Call<&Vornix::SpanRows>,
+    Call<static_cast<void (Vornix::*)(i16, bool&)>(&Vornix::SpanRows)>,
     Call<&Vornix::RemoveSpanRows>,
     Call<&Vornix::HideRow>,
     Call<&Vornix::ShowRow>,

@@ -125,6 +125,8 @@ public:
     double ToDouble(const Locale& locale = BuiltinLocale()) const;
     bool ToBool(const Locale& locale = BuiltinLocale()) const;
     std::u16string ToText(const Locale& locale = BuiltinLocale()) const;
+    // The same without a copy where the value is a text: a view of it, otherwise of `scratch`.
+    std::u16string_view ViewText(std::u16string& scratch, const Locale& locale = BuiltinLocale()) const;
     double ToDate(const Locale& locale = BuiltinLocale()) const;
     // Ten-thousandths.
     std::int64_t ToCurrency(const Locale& locale = BuiltinLocale()) const;
@@ -144,8 +146,8 @@ public:
 
 private:
     // Every integer, boolean and currency is held in 64 bits, every float as a double.
-    using Storage
-        = std::variant<std::monostate, std::int64_t, double, std::u16string, FontPtr, PicturePtr, ObjectPtr, ArrayPtr>;
+    using Storage = std::variant<std::monostate, std::int64_t, double, DecimalValue, std::u16string, FontPtr,
+        PicturePtr, ObjectPtr, ArrayPtr>;
 
     Variant(VariantType type, Storage value);
 
@@ -153,8 +155,9 @@ private:
     bool IsFloat() const;
     [[noreturn]] void RaiseMismatch() const;
 
+    // Its padding holds the type.
+    [[no_unique_address]] Storage value_;
     VariantType type_ = VariantType::Empty;
-    Storage value_;
 };
 
 // A table: element [c][r] is record r of column c.

@@ -4,53 +4,67 @@
 #include <charconv>
 #include <cmath>
 #include <iterator>
+#include <string_view>
 
 namespace vornix {
 
-namespace {
-
-void TrimZeros(DecimalDigits& number)
+void DecimalDigits::TrimZeros()
 {
-    number.digits.erase(number.digits.find_last_not_of('0') + 1);
-    const std::size_t first = number.digits.find_first_not_of('0');
+    digits.erase(digits.find_last_not_of('0') + 1);
+    const std::size_t first = digits.find_first_not_of('0');
     if (first == std::string::npos) {
-        number.digits.clear();
-        number.point = 0;
+        digits.clear();
+        point = 0;
         return;
     }
-    number.digits.erase(0, first);
-    number.point -= static_cast<int>(first);
+    digits.erase(0, first);
+    point -= static_cast<int>(first);
 }
 
-} // namespace
-
-DecimalDigits ToDecimalDigits(double value)
+DecimalDigits ToDecimalDigits(double value, int significantDigits)
 {
     // d.dddddddddddddde[+-]xx
     char buffer[40];
-    const auto [end, error]
-        = std::to_chars(std::begin(buffer), std::end(buffer), std::fabs(value), std::chars_format::scientific, 14);
+    const auto [end, error] = std::to_chars(
+        std::begin(buffer), std::end(buffer), std::fabs(value), std::chars_format::scientific, significantDigits - 1);
     DecimalDigits number;
     number.isNegative = value < 0;
-    number.digits = std::string(buffer, 1) + std::string(buffer + 2, 14);
-    const char* exponentText = buffer + 17;
+    number.digits = std::string(buffer, 1) + std::string(buffer + 2, static_cast<std::size_t>(significantDigits - 1));
+    const char* exponentText = buffer + significantDigits + 2;
     int exponent = 0;
     std::from_chars(exponentText + (*exponentText == '+'), end, exponent);
     number.point = exponent + 1;
-    TrimZeros(number);
+    number.TrimZeros();
     return number;
 }
 
 void DecimalDigits::RoundToPlaces(int places)
 {
     const int kept = point + places;
+    if (kept < static_cast<int>(digits.size()))
+        CutDigits(kept, kept >= 0 && digits[static_cast<std::size_t>(kept)] >= '5');
+}
+
+void DecimalDigits::RoundToEvenPlaces(int places)
+{
+    const int kept = point + places;
     if (kept >= static_cast<int>(digits.size()))
         return;
+    if (kept < 0)
+        return CutDigits(kept, false);
+    // No zeros stand at the end, so that a tie is a single 5.
+    const std::string_view rest = std::string_view(digits).substr(static_cast<std::size_t>(kept));
+    const bool isOdd = kept > 0 && (digits[static_cast<std::size_t>(kept - 1)] - '0') % 2 != 0;
+    CutDigits(kept, rest == "5" ? isOdd : rest.front() >= '5');
+}
+
+// To the first `kept` digits, with one added to the last of them.
+void DecimalDigits::CutDigits(int kept, bool roundsUp)
+{
     if (kept < 0) {
         *this = { isNegative, {}, 0 };
         return;
     }
-    const bool roundsUp = digits[static_cast<std::size_t>(kept)] >= '5';
     digits.resize(static_cast<std::size_t>(kept));
     if (roundsUp) {
         digits.insert(0, 1, '0');
@@ -60,7 +74,7 @@ void DecimalDigits::RoundToPlaces(int places)
             digits[at] = '0';
         ++digits[at];
     }
-    TrimZeros(*this);
+    TrimZeros();
 }
 
 std::string DecimalDigits::IntegerPart() const

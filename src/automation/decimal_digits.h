@@ -1,4 +1,5 @@
-// A number as the decimal digits that a person sees: 15 significant ones, so that 99.995 rounds up.
+// A number as its decimal digits: all of an exact one; of a float the 15 significant ones that a person sees, so that
+// 99.995 rounds up.
 #pragma once
 
 #include <string>
@@ -15,12 +16,19 @@ struct DecimalDigits {
     bool IsZero() const { return digits.empty(); }
     // Ties go away from zero.
     void RoundToPlaces(int places);
+    // Ties go to the even digit.
+    void RoundToEvenPlaces(int places);
+    // Takes the zeros off both ends.
+    void TrimZeros();
     std::string IntegerPart() const;
     // Exactly `places` digits of a number rounded to as many.
     std::string FractionPart(int places) const;
+
+private:
+    void CutDigits(int kept, bool roundsUp);
 };
 
-// The value is finite.
-DecimalDigits ToDecimalDigits(double value);
+// The value is finite. A single has 7 significant digits.
+DecimalDigits ToDecimalDigits(double value, int significantDigits = 15);
 
 } // namespace vornix

@@ -2,6 +2,7 @@
 
 #include "automation/checked.h"
 #include "automation/date_parser.h"
+#include "automation/decimal_value.h"
 #include "automation/numeric_parser.h"
 #include "automation/text_cursor.h"
 
@@ -32,7 +33,7 @@ int ExponentOf(const std::string& digits)
     const auto [rest, error] = std::from_chars(digits.data() + mark + 1, digits.data() + digits.size(), exponent);
     if (error == std::errc::result_out_of_range)
         return digits[mark + 1] == '-' ? -farOut : farOut;
-    return exponent;
+    return std::clamp(exponent, -farOut, farOut);
 }
 
 // Of a number out of the range of a double: does it lie near zero? Otherwise it is too large.
@@ -67,13 +68,34 @@ double ValueOf(const ParsedNumber& number)
     return number.isNegative ? -magnitude : magnitude;
 }
 
+DecimalDigits DigitsOf(const ParsedNumber& number)
+{
+    DecimalDigits result;
+    result.isNegative = number.isNegative;
+    if (number.kind == ParsedNumber::Kind::Bits) {
+        result.digits = std::to_string(number.bits);
+        result.point = static_cast<int>(result.digits.size());
+    } else {
+        result.digits = number.digits.substr(0, number.digits.find('e'));
+        const std::size_t point = std::min(result.digits.find('.'), result.digits.size());
+        result.digits.erase(point, 1);
+        result.point = static_cast<int>(point) + ExponentOf(number.digits);
+    }
+    result.TrimZeros();
+    return result;
+}
+
 // Hexadecimal and octal texts are bit patterns: they fill the type up to its sign.
-template <typename Signed, typename Unsigned> std::int64_t PatternOf(const ParsedNumber& number)
+template <typename Signed, typename Unsigned> Signed PatternOf(const ParsedNumber& number)
 {
     if (number.bits > std::numeric_limits<Unsigned>::max())
         RaiseError(ErrorNumber::Overflow);
-    const std::int64_t value = static_cast<Signed>(static_cast<Unsigned>(number.bits));
-    return number.isNegative ? -value : value;
+    const auto value = static_cast<Signed>(static_cast<Unsigned>(number.bits));
+    if (!number.isNegative)
+        return value;
+    if (value == std::numeric_limits<Signed>::min())
+        RaiseError(ErrorNumber::Overflow);
+    return static_cast<Signed>(-value);
 }
 
 } // namespace
@@ -100,16 +122,34 @@ i16 TextToI2(std::u16string_view text, const Locale& locale)
 {
     const ParsedNumber number = ParseNumberOrRaise(text, locale);
     if (number.kind == ParsedNumber::Kind::Bits)
-        return ToI16(PatternOf<i16, u16>(number));
-    return RoundToI16(ValueOf(number));
+        return PatternOf<i16, u16>(number);
+    return ToI16(ToScaledInteger(DigitsOf(number), 0));
 }
 
 i32 TextToI4(std::u16string_view text, const Locale& locale)
 {
     const ParsedNumber number = ParseNumberOrRaise(text, locale);
     if (number.kind == ParsedNumber::Kind::Bits)
-        return ToI32(PatternOf<i32, u32>(number));
-    return RoundToI32(ValueOf(number));
+        return PatternOf<i32, u32>(number);
+    return ToI32(ToScaledInteger(DigitsOf(number), 0));
+}
+
+std::int64_t TextToI8(std::u16string_view text, const Locale& locale)
+{
+    const ParsedNumber number = ParseNumberOrRaise(text, locale);
+    if (number.kind == ParsedNumber::Kind::Bits)
+        return PatternOf<std::int64_t, std::uint64_t>(number);
+    return ToScaledInteger(DigitsOf(number), 0);
+}
+
+std::int64_t TextToCurrency(std::u16string_view text, const Locale& locale)
+{
+    return ToScaledInteger(DigitsOf(ParseNumberOrRaise(text, locale)), 4);
+}
+
+DecimalValue TextToDecimal(std::u16string_view text, const Locale& locale)
+{
+    return ToDecimalValue(DigitsOf(ParseNumberOrRaise(text, locale)));
 }
 
 double TextToR8(std::u16string_view text, const Locale& locale)

@@ -2,9 +2,11 @@
 // A text that has no such value is error 13, a value out of range error 6.
 #pragma once
 
+#include "vornix/automation.h"
 #include "vornix/platform/locale.h"
 #include "vornix/types.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -17,6 +19,10 @@ bool IsDate(std::u16string_view text, const Locale& locale = BuiltinLocale());
 // "&HFFFF" is -1 in 16 bits and 65535 in 32.
 i16 TextToI2(std::u16string_view text, const Locale& locale = BuiltinLocale());
 i32 TextToI4(std::u16string_view text, const Locale& locale = BuiltinLocale());
+std::int64_t TextToI8(std::u16string_view text, const Locale& locale = BuiltinLocale());
+// By the digits as they stand, not by the nearest float. Ten-thousandths, and up to 28 places, ties to the even digit.
+std::int64_t TextToCurrency(std::u16string_view text, const Locale& locale = BuiltinLocale());
+DecimalValue TextToDecimal(std::u16string_view text, const Locale& locale = BuiltinLocale());
 double TextToR8(std::u16string_view text, const Locale& locale = BuiltinLocale());
 
 // The words for true and false, "#TRUE#", "#FALSE#", and every number.

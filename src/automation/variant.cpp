@@ -1,18 +1,25 @@
 #include "automation/checked.h"
 #include "automation/date_fields.h"
+#include "automation/decimal_value.h"
 #include "automation/text_conversions.h"
 #include "vornix/automation.h"
 
 #include <cmath>
 #include <cstdlib>
+#include <iterator>
 #include <limits>
 #include <utility>
 
 namespace vornix {
 
+// A table of a million values should stay small: the text is the widest of them, and 40 bytes in all where the compiler
+// puts the type into the padding behind it.
+static_assert(sizeof(Variant) <= sizeof(std::u16string) + 2 * sizeof(std::int64_t));
+
 namespace {
 
 constexpr std::int64_t CurrencyUnit = 10000;
+constexpr int CurrencyPlaces = 4;
 
 double CheckedDate(double days)
 {
@@ -43,28 +50,26 @@ std::int64_t RoundCurrency(std::int64_t scaled)
 
 std::u16string IntegerText(std::int64_t value, const Locale& locale)
 {
-    std::u16string text;
+    char16_t buffer[20];
+    char16_t* first = std::end(buffer);
     std::uint64_t magnitude = value < 0 ? 0 - static_cast<std::uint64_t>(value) : static_cast<std::uint64_t>(value);
     do {
-        text.insert(text.begin(), static_cast<char16_t>(u'0' + magnitude % 10));
+        *--first = static_cast<char16_t>(u'0' + magnitude % 10);
         magnitude /= 10;
     } while (magnitude != 0);
+    std::u16string text(first, std::end(buffer));
     return value < 0 ? locale.Numbers().negativeSign + text : text;
 }
 
-// Up to four decimals, without zeros at the end.
-std::u16string CurrencyText(std::int64_t scaled, const Locale& locale)
+// Significant digits that a float is sure of.
+constexpr int SingleDigits = 7;
+constexpr int DoubleDigits = 15;
+
+DecimalValue FloatToDecimal(double value, int significantDigits)
 {
-    const std::int64_t whole = scaled / CurrencyUnit;
-    const std::int64_t rest = std::abs(scaled % CurrencyUnit);
-    std::u16string text = IntegerText(whole, locale);
-    if (scaled < 0 && whole == 0)
-        text = locale.Numbers().negativeSign + text;
-    if (rest == 0)
-        return text;
-    std::u16string decimals = IntegerText(CurrencyUnit + rest, locale).substr(1);
-    decimals.erase(decimals.find_last_not_of(u'0') + 1);
-    return text + locale.Numbers().decimalSeparator + decimals;
+    if (!std::isfinite(value))
+        RaiseError(ErrorNumber::Overflow);
+    return ToDecimalValue(ToDecimalDigits(value, significantDigits));
 }
 
 // Null and empty have no object; a type that holds none is error 13.
@@ -81,8 +86,8 @@ Pointer PointerOf(const Storage& value, VariantType type, VariantType wanted)
 } // namespace
 
 Variant::Variant(VariantType type, Storage value)
-    : type_(type)
-    , value_(std::move(value))
+    : value_(std::move(value))
+    , type_(type)
 {
 }
 
@@ -151,6 +156,12 @@ Variant Variant::FromCurrency(std::int64_t scaled)
     return Variant(VariantType::Currency, Storage(scaled));
 }
 
+Variant Variant::FromDecimal(const DecimalValue& value)
+{
+    CheckArgument(value.scale <= MaxDecimalScale);
+    return Variant(VariantType::Decimal, Storage(value));
+}
+
 Variant Variant::FromDate(double days)
 {
     return Variant(VariantType::Date, Storage(days));
@@ -208,11 +219,17 @@ std::int64_t Variant::ToI64(const Locale& locale) const
         return std::get<std::int64_t>(value_);
     if (type_ == VariantType::Currency)
         return RoundCurrency(std::get<std::int64_t>(value_));
+    if (type_ == VariantType::Decimal)
+        return ToScaledInteger(DigitsOf(std::get<DecimalValue>(value_)), 0);
+    if (type_ == VariantType::Text)
+        return TextToI8(std::get<std::u16string>(value_), locale);
     return RoundToI64(ToDouble(locale));
 }
 
 float Variant::ToSingle(const Locale& locale) const
 {
+    if (type_ == VariantType::Decimal)
+        return ToFloat32(DigitsOf(std::get<DecimalValue>(value_)));
     const double value = ToDouble(locale);
     if (std::isfinite(value) && std::fabs(value) > static_cast<double>(std::numeric_limits<float>::max()))
         RaiseError(ErrorNumber::Overflow);
@@ -229,6 +246,8 @@ double Variant::ToDouble(const Locale& locale) const
         return std::get<double>(value_);
     if (type_ == VariantType::Currency)
         return static_cast<double>(std::get<std::int64_t>(value_)) / static_cast<double>(CurrencyUnit);
+    if (type_ == VariantType::Decimal)
+        return ToFloat64(DigitsOf(std::get<DecimalValue>(value_)));
     if (type_ == VariantType::Text)
         return TextToR8(std::get<std::u16string>(value_), locale);
     RaiseMismatch();
@@ -261,10 +280,20 @@ std::u16string Variant::ToText(const Locale& locale) const
     case VariantType::Date:
         return DateToText(std::get<double>(value_), locale);
     case VariantType::Currency:
-        return CurrencyText(std::get<std::int64_t>(value_), locale);
+        return DigitsToText(DigitsOf(std::get<std::int64_t>(value_), CurrencyPlaces), locale);
+    case VariantType::Decimal:
+        return DigitsToText(DigitsOf(std::get<DecimalValue>(value_)), locale);
     default:
         RaiseMismatch();
     }
+}
+
+std::u16string_view Variant::ViewText(std::u16string& scratch, const Locale& locale) const
+{
+    if (const std::u16string* text = std::get_if<std::u16string>(&value_))
+        return *text;
+    scratch = ToText(locale);
+    return scratch;
 }
 
 double Variant::ToDate(const Locale& locale) const
@@ -278,6 +307,10 @@ std::int64_t Variant::ToCurrency(const Locale& locale) const
 {
     if (type_ == VariantType::Currency)
         return std::get<std::int64_t>(value_);
+    if (type_ == VariantType::Decimal)
+        return ToScaledInteger(DigitsOf(std::get<DecimalValue>(value_)), CurrencyPlaces);
+    if (type_ == VariantType::Text)
+        return TextToCurrency(std::get<std::u16string>(value_), locale);
     if (!IsInteger())
         return RoundToI64(ToDouble(locale) * static_cast<double>(CurrencyUnit));
     const std::int64_t value = std::get<std::int64_t>(value_);
@@ -287,9 +320,29 @@ std::int64_t Variant::ToCurrency(const Locale& locale) const
     return value * CurrencyUnit;
 }
 
+DecimalValue Variant::ToDecimal(const Locale& locale) const
+{
+    switch (type_) {
+    case VariantType::Decimal:
+        return std::get<DecimalValue>(value_);
+    case VariantType::Currency:
+        return ToDecimalValue(DigitsOf(std::get<std::int64_t>(value_), CurrencyPlaces));
+    case VariantType::Text:
+        return TextToDecimal(std::get<std::u16string>(value_), locale);
+    case VariantType::Single:
+        return FloatToDecimal(std::get<double>(value_), SingleDigits);
+    case VariantType::Double:
+    case VariantType::Date:
+        return FloatToDecimal(std::get<double>(value_), DoubleDigits);
+    default:
+        return ToDecimalValue(DigitsOf(ToI64(locale), 0));
+    }
+}
+
 OleColor Variant::ToColor(const Locale& locale) const
 {
-    const bool isWide = type_ == VariantType::I64 || type_ == VariantType::Double;
+    const bool isWide = type_ == VariantType::I64 || type_ == VariantType::Double || type_ == VariantType::Currency
+        || type_ == VariantType::Decimal;
     const std::int64_t value = isWide ? ToI64(locale) : ToI32(locale);
     if (value > std::numeric_limits<u32>::max())
         RaiseError(ErrorNumber::Overflow);

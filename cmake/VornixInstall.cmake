@@ -16,7 +16,7 @@ function(vornix_install_component name target)
     endforeach()
 endfunction()
 
-vornix_install_component(vornix vornix ${PROJECT_SOURCE_DIR}/include)
+vornix_install_component(vornix vornix ${PROJECT_SOURCE_DIR}/include ${vornix_generated_include})
 vornix_install_component(raster vornix_raster ${PROJECT_SOURCE_DIR}/toolkits/raster/include)
 vornix_install_component(headless vornix_headless ${PROJECT_SOURCE_DIR}/toolkits/headless/include)
 vornix_install_component(icu vornix_icu ${PROJECT_SOURCE_DIR}/toolkits/icu/include)

@@ -26,6 +26,8 @@ std::string StandardDescription(int number)
         return "Object doesn't support this property or method";
     case ErrorNumber::ActionNotSupported:
         return "Object doesn't support this action";
+    case ErrorNumber::NamedArgumentNotFound:
+        return "Named argument not found";
     case ErrorNumber::WrongArgumentCount:
         return "Wrong number of arguments or invalid property assignment";
     default:

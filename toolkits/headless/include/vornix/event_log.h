@@ -2,10 +2,15 @@
 #pragma once
 
 #include "vornix/automation.h"
-#include "vornix/events.h"
+#include "vornix/event_funnel.h"
 
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -20,7 +25,7 @@ struct LoggedEvent {
     const Variant& operator[](std::string_view argument) const;
 };
 
-class EventLog : public VornixEvents {
+class EventLog : public EventFunnel<EventLog> {
 public:
     // The receiver may be null and must outlive the log.
     explicit EventLog(VornixEvents* receiver = nullptr)
@@ -33,44 +38,29 @@ public:
     int Count(std::string_view name) const;
     void Clear() { events_.clear(); }
 
-    void ADOInProgress(i32 Value, i32 Max) override;
-    void AfterEdit(i16 Row, i16 Col) override;
-    void BeforeEdit(i16 Row, i16 Col) override;
-    void BeforeCustom(i16 Row, i16 Col, i32& x, i32& y, i32& Width, i32& Height) override;
-    void CellOver(i16 Row, i16 Col) override;
-    void CellOut(i16 Row, i16 Col) override;
-    void CellDown(i16 Row, i16 Col) override;
-    void CellUp(i16 Row, i16 Col) override;
-    void CellChange(i16 Row, i16 Col, bool& bCancel) override;
-    void CellClick(i16 Row, i16 Col) override;
-    void CellDblClick(i16 Row, i16 Col) override;
-    void Click() override;
-    void DblClick() override;
-    void KeyDown(i16& KeyCode, i16& Shift) override;
-    void KeyPress(i16& KeyAscii) override;
-    void KeyUp(i16& KeyCode, i16& Shift) override;
-    void OLECompleteDrag(i32& Effect) override;
-    void OLEDragDrop(DataObject& Data, i32& Effect, i16& Button, i16& Shift, float& x, float& y) override;
-    void OLEDragOver(DataObject& Data, i32& Effect, i16& Button, i16& Shift, float& x, float& y, i16& State) override;
-    void OLEGiveFeedback(i32& Effect, bool& DefaultCursors) override;
-    void OLESetData(DataObject& Data, i16& DataFormat) override;
-    void OLEStartDrag(DataObject& Data, i32& AllowedEffects) override;
-    void MouseDown(i16 Button, i16 Shift, float x, float y) override;
-    void MouseMove(i16 Button, i16 Shift, float x, float y) override;
-    void MouseUp(i16 Button, i16 Shift, float x, float y) override;
-    void ResizeCol(i16 Col, i16& NewWidth) override;
-    void ResizeRow(i16 Row, i16& NewHeight) override;
-    void Scroll() override;
-    void ScrollTrackRow(i16 Row) override;
-    void ScrollTrackCol(i16 Col) override;
-    void SplitCols(i16 Cols) override;
-    void TextChange(i16 Row, i16 Col) override;
-    void ValidateRow() override;
-    void PopulateGrid(i32 Offset, i16 StartRow, i16 EndRow) override;
-    void SearchResult(i16 IdSearch, i32& Pos) override;
-    void DrawCell(i16 Row, i16 Col, Hdc& PictureHdc, bool& bCancel) override;
-
 private:
+    friend EventFunnel<EventLog>;
+
+    template <typename Event, typename... Arguments> void On(int number, Event event, Arguments&... arguments)
+    {
+        std::array<Variant, sizeof...(Arguments)> values { Logged(arguments)... };
+        WriteDown(number, values);
+        if (receiver_)
+            (receiver_->*event)(arguments...);
+    }
+
+    // Of an object only that it was there is kept.
+    static Variant Logged(const DataObject& /*data*/) { return Variant::FromObject(nullptr); }
+    template <typename Argument> static Variant Logged(Argument argument)
+    {
+        if constexpr (std::is_same_v<Argument, Hdc>)
+            return Variant(static_cast<std::int64_t>(argument));
+        else
+            return Variant(argument);
+    }
+
+    void WriteDown(int number, std::span<Variant> values);
+
     VornixEvents* receiver_;
     std::vector<LoggedEvent> events_;
 };

@@ -1,0 +1,32 @@
+// The code behind the members of the control, beside their descriptions in vornix/members.h.
+#pragma once
+
+#include "vornix/automation.h"
+
+#include <span>
+#include <string_view>
+#include <variant>
+
+namespace vornix {
+
+class Vornix;
+
+// Calls a member with arguments that are complete and in its order, for a writing call with the value behind them. Those
+// by reference are written back once the member has returned.
+using MemberThunk = Variant (*)(Vornix& control, std::span<Variant> arguments, const Locale& locale);
+
+// What an argument is that was left out.
+using DefaultValue = std::variant<bool, i32, std::u16string_view>;
+
+struct MemberCode {
+    // Reads a property or calls a method; null where that cannot be done or is pending, as for `write`.
+    MemberThunk read = nullptr;
+    MemberThunk write = nullptr;
+    // Of the optional arguments, which are the last ones.
+    std::span<const DefaultValue> defaults;
+};
+
+// In the order of Members().
+std::span<const MemberCode> MemberCodes();
+
+} // namespace vornix

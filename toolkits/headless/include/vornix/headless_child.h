@@ -1,0 +1,69 @@
+// The child windows of a container without a screen: rectangles with flags that take notifications and do nothing with
+// them.
+#pragma once
+
+#include "vornix/platform/container.h"
+
+namespace vornix {
+
+// A window that the pointer and the keyboard reach. Places are relative to its own top left corner; codes come back as
+// the receiver left them. What is not overridden does nothing.
+class InputWindow {
+public:
+    virtual ~InputWindow() = default;
+    // In the client area of the control.
+    virtual Rect Area() const = 0;
+    virtual void MouseDown(i16 /*button*/, i16 /*shift*/, float /*x*/, float /*y*/) { }
+    virtual void MouseMove(i16 /*button*/, i16 /*shift*/, float /*x*/, float /*y*/) { }
+    virtual void MouseUp(i16 /*button*/, i16 /*shift*/, float /*x*/, float /*y*/) { }
+    virtual void Click() { }
+    virtual void DblClick() { }
+    virtual void KeyDown(i16& /*code*/, i16& /*shift*/) { }
+    virtual void KeyPress(i16& /*character*/) { }
+    virtual void KeyUp(i16& /*code*/, i16& /*shift*/) { }
+};
+
+class HeadlessChild;
+
+// The window that the children lie on.
+class ChildParent {
+public:
+    virtual ~ChildParent() = default;
+    virtual void RaiseChild(HeadlessChild& child) = 0;
+    virtual void FocusChild(HeadlessChild& child) = 0;
+};
+
+class HeadlessChild : public ChildWindow, public InputWindow {
+public:
+    // A child in a frame is seen only where and while the frame is.
+    void Attach(ChildParent& parent, const HeadlessChild* frame);
+    const HeadlessChild* Frame() const { return frame_; }
+
+    void Move(const Rect& place) override { place_ = place; }
+    Rect Place() const override { return place_; }
+    Rect Area() const override { return place_; }
+    void Show(bool visible) override { visible_ = visible; }
+    // Its own flag, whatever the frame's is.
+    bool IsVisible() const override { return visible_; }
+    void SetEnabled(bool enabled) override { enabled_ = enabled; }
+    bool IsEnabled() const override { return enabled_; }
+    void Raise() override;
+    bool SetFocus() override;
+
+    // Whether a person sees it and can use it.
+    bool IsUsable() const;
+    // Whether it is usable and covers the point of the control's client area.
+    bool IsUsableAt(float x, float y) const;
+
+private:
+    Rect place_;
+    bool visible_ = false;
+    bool enabled_ = true;
+    ChildParent* parent_ = nullptr;
+    const HeadlessChild* frame_ = nullptr;
+};
+
+// Whether the point lies in the rectangle.
+bool Contains(const Rect& rect, float x, float y);
+
+} // namespace vornix

@@ -1,10 +1,8 @@
-"""Emits vornix/vornix_constants.h: the enums of the interface and the numbers of the grid's events, for C and C++."""
+"""Emits vornix/vornix_constants.h: enums and the numbers of the grid's events, for C and C++."""
 
 from typing import List, Tuple
 
 from iface import Enum, Event, Interface
-
-CONTROL = "Vornix"
 
 HEAD = """/* Made from interface/vornix.iface; do not edit. */
 /* The constants of the grid: values of its properties, and the numbers of its events. */
@@ -16,7 +14,7 @@ def emit(interface: Interface) -> str:
     lines = [*HEAD]
     for enum in interface.enums:
         lines += ["", f"/* {enum.sentence} */", *declaration(enum)]
-    lines += ["", "/* Events. */", *event_numbers(interface[CONTROL].events)]
+    lines += ["", "/* Events. */", *event_numbers(interface.grid.events)]
     lines += ["", "#endif"]
     return "\n".join(lines) + "\n"
 
@@ -27,10 +25,9 @@ def declaration(enum: Enum) -> List[str]:
 
 
 def event_numbers(events: List[Event]) -> List[str]:
-    return ["enum {", *entries([(f"VORNIX_EVENT_{event.name}", event.number) for event in events]), "};"]
+    numbers = [(f"VORNIX_EVENT_{event.name}", event.number) for event in events]
+    return ["enum {", *entries(numbers), "};"]
 
 
 def entries(values: List[Tuple[str, int]]) -> List[str]:
-    # No comma behind the last one: C++ before C++11 takes none.
-    last = len(values) - 1
-    return [f"    {name} = {value}{',' if place < last else ''}" for place, (name, value) in enumerate(values)]
+    return ",\n".join(f"    {name} = {value}" for name, value in values).split("\n")

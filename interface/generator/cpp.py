@@ -2,7 +2,7 @@
 
 from typing import Iterable, List
 
-from iface import Argument, Interface
+from iface import Argument, Event, Interface
 
 FIRST_LINE = "// Made from interface/vornix.iface; do not edit."
 
@@ -78,6 +78,12 @@ def event_argument_type(interface: Interface, argument: Argument) -> str:
     if argument.type == "object":
         return "DataObject&"
     return argument_type(interface, argument)
+
+
+def event_parameters(interface: Interface, event: Event) -> str:
+    """The parameters of an event with their names."""
+    arguments = event.arguments
+    return joined(f"{event_argument_type(interface, each)} {each.name}" for each in arguments)
 
 
 def descriptor(interface: Interface, name: str) -> str:

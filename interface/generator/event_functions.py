@@ -1,11 +1,7 @@
 """Emits vornix/event_functions.h: a function object for every event of the control."""
 
-from typing import List
-
 import cpp
 from iface import Event, Interface
-
-CONTROL = "Vornix"
 
 HEAD = """// A function for every event of the control, none of them set at first.
 #pragma once
@@ -20,18 +16,19 @@ struct EventFunctions {""".split("\n")
 
 
 def emit(interface: Interface) -> str:
-    events = interface[CONTROL].events
+    events = interface.grid.events
     lines = [*HEAD]
     lines += [function(interface, event) for event in events]
     lines += ["", "    // The function of an event."]
-    for event in events:
-        lines += [f"    const auto& Of(EventTag<{event.number}> /*event*/) const {{ return On{event.name}; }}"]
+    lines += [getter(event) for event in events]
     lines += ["};", "", "} // namespace vornix"]
     return cpp.source(lines)
 
 
 def function(interface: Interface, event: Event) -> str:
-    parameters: List[str] = [
-        f"{cpp.event_argument_type(interface, argument)} {argument.name}" for argument in event.arguments
-    ]
-    return f"    std::function<void({cpp.joined(parameters)})> On{event.name};"
+    return f"    std::function<void({cpp.event_parameters(interface, event)})> On{event.name};"
+
+
+def getter(event: Event) -> str:
+    tag = f"EventTag<{event.number}>"
+    return f"    const auto& Of({tag} /*event*/) const {{ return On{event.name}; }}"

@@ -1,22 +1,23 @@
-"""Emits vornix/event_funnel.h: all events of the control handed to one member template of a derived class."""
+"""Emits vornix/event_funnel.h: all events of the control in one template of a derived class."""
 
 from typing import List
 
 import cpp
 from iface import Event, Interface
 
-CONTROL = "Vornix"
-
-HEAD = """// All events of the control through one function, for receivers that treat every event alike.
+HEAD = """\
+// All events of the control through one function, for receivers that treat every event alike.
 //
-// A class `Receiver` derives from EventFunnel<Receiver> and has a member template that is called for every event:
+// A class `Receiver` derives from EventFunnel<Receiver> and has a member template that is called
+// for every event:
 //
 //     template <typename Tag, typename Event, typename... Arguments>
 //     void On(Tag tag, Event event, Arguments&... arguments);
 //
-// `tag` is the event's EventTag: it converts to the number of the event, and functions can be overloaded by it. `event`
-// points to the function of VornixEvents; its type tells which arguments are by reference. The arguments are those of the
-// event; ones by reference may be written. The member may be private where the funnel is a friend.
+// `tag` is the event's EventTag: it converts to the number of the event, and functions can be
+// overloaded by it. `event` points to the function of VornixEvents; its type tells which arguments
+// are by reference. The arguments are those of the event; ones by reference may be written. The
+// member may be private where the funnel is a friend.
 #pragma once
 
 #include "vornix/events.h"
@@ -33,7 +34,7 @@ namespace EventNumber {""".split("\n")
 
 
 def emit(interface: Interface) -> str:
-    events = interface[CONTROL].events
+    events = interface.grid.events
     lines = [*HEAD]
     lines += [f"inline constexpr int {event.name} = {event.number};" for event in events]
     lines += ["} // namespace EventNumber", ""]
@@ -52,9 +53,7 @@ def emit(interface: Interface) -> str:
 
 
 def override(interface: Interface, event: Event) -> List[str]:
-    parameters = cpp.joined(
-        f"{cpp.event_argument_type(interface, argument)} {argument.name}" for argument in event.arguments
-    )
+    parameters = cpp.event_parameters(interface, event)
     passed = "".join(f", {argument.name}" for argument in event.arguments)
     return [
         f"    void {event.name}({parameters}) override",

@@ -4,9 +4,9 @@
     generate.py IFACE --emit NAME OUTPUT    the output of one emitter, into a file or a folder
     generate.py IFACE --count-pending       prints how many lines are not built yet
 
-An emitter is a module beside this one with a function `emit(interface)`. It gives the text of one file, or a mapping of
-relative paths to texts for a folder. A file is written only when its content has changed, so that what depends on it is
-not built again for nothing.
+An emitter is a module beside this one with a function `emit(interface)`. It gives the text of one
+file, or a mapping of relative paths to texts for a folder. A file is written only when its content
+has changed, so that what depends on it is not built again for nothing.
 """
 
 import argparse
@@ -48,8 +48,12 @@ def write_output(path: Path, output: Output) -> None:
 def main(arguments: Optional[List[str]] = None) -> int:
     parser = argparse.ArgumentParser(description="Makes one output from the interface file.")
     parser.add_argument("iface", type=Path, help="the interface file")
-    parser.add_argument("--emit", nargs=2, metavar=("NAME", "OUTPUT"), help="an emitter, and where its output goes")
-    parser.add_argument("--count-pending", action="store_true", help="print the number of pending lines")
+    parser.add_argument(
+        "--emit", nargs=2, metavar=("NAME", "OUTPUT"), help="an emitter, and where its output goes"
+    )
+    parser.add_argument(
+        "--count-pending", action="store_true", help="print how many lines are not built yet"
+    )
     options = parser.parse_args(arguments)
     try:
         interface = iface.read(options.iface)

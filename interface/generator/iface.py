@@ -3,7 +3,7 @@
 import re
 from dataclasses import dataclass, field
 from pathlib import Path
-from typing import Dict, Iterator, List, Optional, Tuple
+from typing import Dict, FrozenSet, Iterable, List, NoReturn, Optional, Tuple, Union
 
 # The types of the file besides its enums.
 VALUE_TYPES = frozenset(
@@ -47,6 +47,8 @@ class Member:
     pending_read: bool = False
     pending_write: bool = False
     example: Example = field(default_factory=Example)
+    # Where it stands in the file, from 1.
+    line: int = 0
 
     @property
     def is_method(self) -> bool:
@@ -75,6 +77,7 @@ class Event:
     arguments: Tuple[Argument, ...]
     sentence: str
     pending: bool = False
+    line: int = 0
 
 
 @dataclass
@@ -98,7 +101,8 @@ class ControlClass:
 
     @property
     def events(self) -> List[Event]:
-        return sorted((event for family in self.families for event in family.events), key=lambda event: event.number)
+        events = (event for family in self.families for event in family.events)
+        return sorted(events, key=lambda event: event.number)
 
 
 @dataclass
@@ -117,7 +121,12 @@ class Interface:
         return next(each for each in self.classes if each.name == name)
 
     @property
-    def enum_names(self) -> frozenset:
+    def grid(self) -> ControlClass:
+        """The grid control itself."""
+        return self["Vornix"]
+
+    @property
+    def enum_names(self) -> FrozenSet[str]:
         return frozenset(each.name for each in self.enums)
 
     @property
@@ -149,7 +158,9 @@ class _Marks:
 
 _MARKS = r"(?:\s*\[(?P<marks>[^\]]*)\])?"
 _CLASS = re.compile(r"class (?P<name>\w+): (?P<sentence>.+)$")
-_FAMILY = re.compile(r'family (?P<name>\w+) "(?P<title>[^"]+)"' + _MARKS + r": (?P<sentence>.+)$")
+_FAMILY = re.compile(
+    r'family (?P<name>\w+) "(?P<title>[^"]+)"' + _MARKS + r": (?P<sentence>.+)$"
+)
 _MEMBER = re.compile(
     r"(?P<kind>property|readonly|writeonly|method) (?P<name>\w+)\((?P<arguments>.*?)\)"
     r"(?: -> (?P<result>\w+))?" + _MARKS + r": (?P<sentence>.+)$"
@@ -160,6 +171,7 @@ _EVENT = re.compile(
 _ENUM = re.compile(r"enum (?P<name>\w+): (?P<sentence>.+)$")
 _VALUE = re.compile(r"(?P<name>\w+) = (?P<value>-?\d+)$")
 _ARGUMENT = re.compile(r"(?P<ref>ref )?(?P<name>\w+): (?P<type>\w+)(?: = (?P<default>.+))?$")
+_DEFAULT = re.compile(r'True$|False$|-?\d+$|"[^"\\]*"$')
 
 
 class _Reader:
@@ -170,8 +182,8 @@ class _Reader:
         self.family_marks = _Marks()
         self.current: Optional[Member] = None
 
-    def fail(self, what: str) -> None:
-        raise IfaceError(f"{self.path.name}:{self.number}: {what}")
+    def fail(self, what: str, line: Optional[int] = None) -> NoReturn:
+        raise IfaceError(f"{self.path.name}:{line or self.number}: {what}")
 
     def read(self) -> Interface:
         for self.number, line in enumerate(self.path.read_text(encoding="utf-8").splitlines(), 1):
@@ -184,8 +196,7 @@ class _Reader:
         if line.startswith("    "):
             if self.current is None:
                 self.fail("an example without a member")
-            else:
-                self.current.example.lines.append(line[4:])
+            self.current.example.lines.append(line[4:])
             return
         self.current = None
         for pattern, action in (
@@ -212,12 +223,13 @@ class _Reader:
     def add_member(self, found: Dict[str, str]) -> None:
         marks = self.marks(found["marks"]).over(self.family_marks)
         kind = found["kind"]
-        if kind != "method" and not found["result"]:
-            self.fail("a property needs a type")
+        arguments = self.arguments(found["arguments"])
+        if kind != "method":
+            self.check_property(arguments, found["result"])
         member = Member(
             kind,
             found["name"],
-            self.arguments(found["arguments"]),
+            arguments,
             found["result"],
             found["sentence"],
             marks.errors,
@@ -225,6 +237,7 @@ class _Reader:
             marks.reports,
             pending_read=marks.pending == "all" and kind != "writeonly",
             pending_write=marks.pending in ("all", "write") and kind in ("property", "writeonly"),
+            line=self.number,
         )
         self.last_family().members.append(member)
         self.current = member
@@ -238,6 +251,7 @@ class _Reader:
                 self.arguments(found["arguments"]),
                 found["sentence"],
                 marks.pending == "all",
+                self.number,
             )
         )
 
@@ -261,14 +275,31 @@ class _Reader:
         return families[-1]
 
     def arguments(self, text: str) -> Tuple[Argument, ...]:
-        return tuple(self.argument(part) for part in text.split(", ") if part)
+        arguments = tuple(self.argument(part) for part in text.split(", ") if part)
+        names = [argument.name.lower() for argument in arguments]
+        if len(set(names)) < len(names):
+            self.fail("an argument is there twice")
+        for before, after in zip(arguments, arguments[1:]):
+            if before.default is not None and after.default is None:
+                self.fail(f"{after.name} must be given, so {before.name} cannot be left out")
+        return arguments
 
     def argument(self, text: str) -> Argument:
         match = _ARGUMENT.match(text)
         if not match:
             self.fail(f"not an argument: {text}")
         found = match.groupdict()
+        if found["default"] is not None and not _DEFAULT.match(found["default"]):
+            self.fail(f"not a default: {found['default']}")
         return Argument(found["name"], found["type"], bool(found["ref"]), found["default"])
+
+    def check_property(self, arguments: Tuple[Argument, ...], result: Optional[str]) -> None:
+        """The value stands behind the arguments: all of them are there, and come in only."""
+        if not result:
+            self.fail("a property needs a type")
+        for argument in arguments:
+            if argument.by_ref or argument.default is not None:
+                self.fail(f"an argument of a property is by reference or optional: {argument.name}")
 
     def marks(self, text: Optional[str]) -> _Marks:
         marks = _Marks()
@@ -292,27 +323,31 @@ class _Reader:
         """What no single line can show: types that exist, names and numbers that are there once."""
         types = VALUE_TYPES | self.interface.enum_names
         for each in self.interface.classes:
-            self.check_once(each.name, [member.name.lower() for member in each.members])
-            self.check_once(each.name, [event.name for event in each.events])
-            self.check_once(each.name, [str(event.number) for event in each.events])
-            for where, arguments, result in self.signatures(each):
-                for name in [argument.type for argument in arguments] + ([result] if result else []):
-                    if name not in types:
-                        raise IfaceError(f"{self.path.name}: {where}: no type {name}")
-                self.check_once(where, [argument.name.lower() for argument in arguments])
-        self.check_once("the enums", [name for enum in self.interface.enums for name, _ in enum.values])
+            self.check_once([(member.name.lower(), member) for member in each.members])
+            self.check_once([(event.name.lower(), event) for event in each.events])
+            self.check_once([(str(event.number), event) for event in each.events])
+            for member in each.members:
+                self.check_types(types, member, [member.result] if member.result else [])
+            for event in each.events:
+                self.check_types(types, event, [])
+        values = [name for enum in self.interface.enums for name, _ in enum.values]
+        for name in values:
+            if values.count(name) > 1:
+                raise IfaceError(f"{self.path.name}: the enums have {name} twice")
 
-    @staticmethod
-    def signatures(each: ControlClass) -> Iterator[Tuple[str, Tuple[Argument, ...], Optional[str]]]:
-        for member in each.members:
-            yield f"{each.name}.{member.name}", member.arguments, member.result
-        for event in each.events:
-            yield f"{each.name}.{event.name}", event.arguments, None
+    def check_types(
+        self, types: FrozenSet[str], where: Union[Member, Event], results: List[str]
+    ) -> None:
+        for name in [*(argument.type for argument in where.arguments), *results]:
+            if name not in types:
+                self.fail(f"{where.name}: no type {name}", where.line)
 
-    def check_once(self, where: str, names: List[str]) -> None:
-        twice = sorted({name for name in names if names.count(name) > 1})
-        if twice:
-            raise IfaceError(f"{self.path.name}: {where}: twice {', '.join(twice)}")
+    def check_once(self, names: Iterable[Tuple[str, Union[Member, Event]]]) -> None:
+        seen = set()
+        for name, where in names:
+            if name in seen:
+                self.fail(f"{name} is there twice", where.line)
+            seen.add(name)
 
 
 def read(path: Path) -> Interface:

@@ -1,21 +1,25 @@
-"""Emits the table behind late binding: what every member and event of the control is, and the code that calls it.
+"""Emits the table behind late binding: members and events, and the code that calls them.
 
-A member's code is a thunk made from a pointer to the C++ member. The pointer is asked for with the exact signature that
-the line of the member gives, so that a member which is missing or has other arguments does not compile.
+A member's code is a thunk made from a pointer to the C++ member. The pointer is asked for with the
+exact signature that the line of the member gives, so that a member which is missing or has other
+arguments does not compile.
 """
 
-from typing import List, Optional, Tuple
+from typing import List, Sequence, Tuple, Union
 
 import cpp
 from iface import Argument, Event, Interface, Member
 
-CONTROL = "Vornix"
-
-_KINDS = {"property": "Property", "readonly": "ReadOnly", "writeonly": "WriteOnly", "method": "Method"}
+_KINDS = {
+    "property": "Property",
+    "readonly": "ReadOnly",
+    "writeonly": "WriteOnly",
+    "method": "Method",
+}
 
 
 def emit(interface: Interface) -> str:
-    control = interface[CONTROL]
+    grid = interface.grid
     lines = [
         '#include "control/member_code.h"',
         '#include "control/member_thunks.h"',
@@ -31,22 +35,25 @@ def emit(interface: Interface) -> str:
         "",
         "// The arguments of members and events, one array for each list that occurs.",
     ]
-    lists = argument_lists(control.members, control.events)
+    lists = argument_lists([*grid.members, *grid.events])
     for number, arguments in enumerate(lists):
         lines += argument_array(interface, number, arguments)
-    lines += ["", f"constexpr std::array<MemberInfo, {len(control.members)}> MemberTable {{ {{"]
-    lines += [member_info(interface, lists, member) for member in control.members]
-    lines += ["} };", "", f"constexpr std::array<EventInfo, {len(control.events)}> EventTable {{ {{"]
-    lines += [event_info(lists, event) for event in control.events]
-    lines += ["} };", "", "// What arguments that were left out are."]
-    for member in control.members:
+    members = [member_info(interface, lists, member) for member in grid.members]
+    lines += ["", *table("MemberInfo", "MemberTable", members)]
+    events = [event_info(lists, event) for event in grid.events]
+    lines += ["", *table("EventInfo", "EventTable", events)]
+    lines += ["", "// What arguments that were left out are."]
+    for member in grid.members:
         lines += default_array(member)
-    lines += ["", f"constexpr std::array<MemberCode, {len(control.members)}> CodeTable {{ {{"]
-    for member in control.members:
-        lines += member_code(interface, member)
-    lines += ["} };"]
+    codes = [member_code(interface, member) for member in grid.members]
+    lines += ["", *table("MemberCode", "CodeTable", codes)]
     lines += FUNCTIONS
     return cpp.source(lines)
+
+
+def table(element: str, name: str, elements: List[str]) -> List[str]:
+    head = f"constexpr std::array<{element}, {len(elements)}> {name} {{ {{"
+    return [head, *(f"    {each}," for each in elements), "} };"]
 
 
 FUNCTIONS = """
@@ -79,10 +86,10 @@ std::span<const MemberCode> MemberCodes()
 ArgumentLists = List[Tuple[Argument, ...]]
 
 
-def argument_lists(members: List[Member], events: List[Event]) -> ArgumentLists:
+def argument_lists(owners: Sequence[Union[Member, Event]]) -> ArgumentLists:
     """Every list of arguments that occurs, once."""
     lists: ArgumentLists = []
-    for each in [*members, *events]:
+    for each in owners:
         if each.arguments and each.arguments not in lists:
             lists.append(each.arguments)
     return lists
@@ -115,23 +122,27 @@ def member_info(interface: Interface, lists: ArgumentLists, member: Member) -> s
         cpp.boolean(member.pending_write),
         cpp.string(member.sentence),
     ]
-    return f"    {{ {cpp.joined(fields)} }},"
+    return f"{{ {cpp.joined(fields)} }}"
 
 
 def event_info(lists: ArgumentLists, event: Event) -> str:
-    return f"    {{ {cpp.string(event.name)}, {event.number}, {arguments_name(lists, event.arguments)} }},"
+    fields = [cpp.string(event.name), str(event.number), arguments_name(lists, event.arguments)]
+    return f"{{ {cpp.joined(fields)} }}"
 
 
 def default_array(member: Member) -> List[str]:
-    defaults = [default_value(argument) for argument in member.arguments if argument.default is not None]
+    defaults = cpp.joined(default_value(text) for text in defaults_of(member))
     if not defaults:
         return []
-    return [f"constexpr DefaultValue {member.name}Defaults[] = {{ {cpp.joined(defaults)} }};"]
+    return [f"constexpr DefaultValue {member.name}Defaults[] = {{ {defaults} }};"]
 
 
-def default_value(argument: Argument) -> str:
-    """The default of an argument, with the type that its spelling in the file has."""
-    text = argument.default or ""
+def defaults_of(member: Member) -> List[str]:
+    return [argument.default for argument in member.arguments if argument.default is not None]
+
+
+def default_value(text: str) -> str:
+    """A default, with the type that its spelling in the file has."""
     if text in ("True", "False"):
         return f"DefaultValue(std::in_place_type<bool>, {text.lower()})"
     if text.startswith('"'):
@@ -139,12 +150,12 @@ def default_value(argument: Argument) -> str:
     return f"DefaultValue(std::in_place_type<i32>, {int(text)})"
 
 
-def member_code(interface: Interface, member: Member) -> List[str]:
+def member_code(interface: Interface, member: Member) -> str:
     """One element of the table of code: what reads or calls, what writes, the defaults."""
-    defaults = [argument for argument in member.arguments if argument.default is not None]
     read = thunk(read_pointer(interface, member)) if reads(member) else "nullptr"
     write = thunk(write_pointer(interface, member)) if writes(member) else "nullptr"
-    return [f"    {{ {read}, {write}, {member.name + 'Defaults' if defaults else '{}'} }},"]
+    defaults = f"{member.name}Defaults" if defaults_of(member) else "{}"
+    return f"{{ {read}, {write}, {defaults} }}"
 
 
 def reads(member: Member) -> bool:
@@ -155,21 +166,26 @@ def writes(member: Member) -> bool:
     return member.is_writable and not member.pending_write
 
 
-def thunk(pointer: str) -> str:
-    return f"&Thunk<{pointer}>::Call"
+def thunk(member: str) -> str:
+    return f"&Thunk<{member}>::Call"
 
 
 def read_pointer(interface: Interface, member: Member) -> str:
     result = cpp.value_type(interface, member.result) if member.result else "void"
-    check = "Method" if member.is_method else "Getter"
-    return f"Signature<{result}({signature(interface, member)})>::{check}(&{CONTROL}::{member.name})"
+    kind = "Method" if member.is_method else "Getter"
+    return pointer(result, parameter_types(interface, member), kind, member.name)
 
 
 def write_pointer(interface: Interface, member: Member) -> str:
-    value = Argument("Value", member.result or "")
-    return f"Signature<void({signature(interface, member, value)})>::Method(&{CONTROL}::Set{member.name})"
+    value = cpp.parameter_type(interface, member.result or "")
+    parameters = [*parameter_types(interface, member), value]
+    return pointer("void", parameters, "Method", f"Set{member.name}")
 
 
-def signature(interface: Interface, member: Member, value: Optional[Argument] = None) -> str:
-    arguments = [*member.arguments, *([value] if value else [])]
-    return cpp.joined(cpp.argument_type(interface, argument) for argument in arguments)
+def parameter_types(interface: Interface, member: Member) -> List[str]:
+    return [cpp.argument_type(interface, argument) for argument in member.arguments]
+
+
+def pointer(result: str, parameters: List[str], kind: str, name: str) -> str:
+    """A pointer to a C++ member that has exactly this signature."""
+    return f"Signature<{result}({cpp.joined(parameters)})>::{kind}(&Vornix::{name})"

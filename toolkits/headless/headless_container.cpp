@@ -1,5 +1,8 @@
 #include "vornix/headless_container.h"
 
+#include "person.h"
+#include "window_stack.h"
+
 #include <algorithm>
 #include <new>
 
@@ -11,6 +14,8 @@ constexpr Size ScreenInPixels { 1920, 1080 };
 constexpr int TwipsAPixel = 15;
 constexpr u32 ClientEdge = 512;
 constexpr u32 StaticEdge = 131072;
+constexpr int LongestSide = 32767;
+constexpr std::int64_t MostPixels = std::int64_t { 1 } << 26;
 
 constexpr std::array<std::string_view, 8> ChildNames {
     "scrV",
@@ -39,7 +44,38 @@ FontPtr MakeAmbientFont()
     return std::make_shared<const FontObject>(font);
 }
 
+[[noreturn]] void RaiseInvalid(const std::string& description)
+{
+    throw AutomationError(ErrorNumber::InvalidArgument, description);
+}
+
 } // namespace
+
+std::string_view NameOf(MessageIcon icon)
+{
+    switch (icon) {
+    case MessageIcon::Exclamation:
+        return "exclamation";
+    case MessageIcon::Information:
+        return "information";
+    case MessageIcon::None:
+        break;
+    }
+    return "";
+}
+
+std::string_view NameOf(PointerShape shape)
+{
+    switch (shape) {
+    case PointerShape::SizeWE:
+        return "size_we";
+    case PointerShape::SizeNS:
+        return "size_ns";
+    case PointerShape::Default:
+        break;
+    }
+    return "default";
+}
 
 HeadlessContainer::HeadlessContainer(const HeadlessOptions& options)
     : size_ { options.width, options.height }
@@ -49,9 +85,14 @@ HeadlessContainer::HeadlessContainer(const HeadlessOptions& options)
     , settings_(options.settings ? options.settings : std::make_shared<MemorySettings>())
     , log_(options.events)
 {
+    if (!(scale_ >= 1 && scale_ <= 4))
+        RaiseInvalid("The scale of a window is 1 to 4 device pixels a pixel");
+    CheckSize(size_);
     MakeWindow(ClientSize());
     if (!window_)
         throw std::bad_alloc();
+    windows_ = std::make_unique<WindowStack>(*this, children_);
+    person_ = std::make_unique<Person>(*this, *windows_);
     grid_ = std::make_unique<Vornix>(*this, log_);
     const MemoryBag emptyBag;
     if (options.design && !options.bag)
@@ -68,9 +109,60 @@ HeadlessContainer::~HeadlessContainer() = default;
 
 void HeadlessContainer::Resize(int width, int height)
 {
+    RequireOpen();
+    CheckSize({ width, height });
     const Size before = ClientSize();
     size_ = { width, height };
     TellClientSize(before);
+}
+
+void HeadlessContainer::CheckSize(Size size) const
+{
+    if (size.width < 0 || size.height < 0 || size.width > LongestSide || size.height > LongestSide)
+        RaiseInvalid("The sides of a window are 0 to 32767 pixels");
+    const Size device = RasterSurface::DeviceSize(size, scale_);
+    if (std::int64_t { device.width } * device.height > MostPixels)
+        RaiseInvalid("A window has no more than 67108864 device pixels");
+}
+
+void HeadlessContainer::RequireOpen() const
+{
+    if (grid_->IsTerminated())
+        RaiseInvalid("The control is closed");
+}
+
+void HeadlessContainer::Hide()
+{
+    RequireOpen();
+    grid_->Hide();
+}
+
+void HeadlessContainer::EnterFocus()
+{
+    RequireOpen();
+    windows_->EnterFocus();
+}
+
+void HeadlessContainer::ExitFocus()
+{
+    RequireOpen();
+    windows_->ExitFocus();
+}
+
+bool HeadlessContainer::SetFocus()
+{
+    windows_->FocusControl();
+    return true;
+}
+
+bool HeadlessContainer::HasFocus() const
+{
+    return windows_->HasFocus();
+}
+
+bool HeadlessContainer::IsKeyDown(int code) const
+{
+    return keysDown_.contains(code) || person_->Holds(code);
 }
 
 void HeadlessContainer::TellClientSize(Size before)
@@ -98,6 +190,30 @@ HeadlessChild* HeadlessContainer::FindChild(std::string_view name)
 {
     const auto found = std::find(ChildNames.begin(), ChildNames.end(), name);
     return found == ChildNames.end() ? nullptr : &children_[static_cast<std::size_t>(found - ChildNames.begin())];
+}
+
+HeadlessChild& HeadlessContainer::Child(std::string_view name)
+{
+    if (HeadlessChild* const child = FindChild(name))
+        return *child;
+    RaiseInvalid("No child window is named \"" + std::string(name) + "\"");
+}
+
+RgbaImage HeadlessContainer::Image() const
+{
+    const DevicePixels pixels = window_->Pixels();
+    RgbaImage image { pixels.width, pixels.height, {} };
+    image.bytes.reserve(std::size_t { 4 } * pixels.width * pixels.height);
+    for (int y = 0; y < pixels.height; ++y) {
+        const u32* const row = pixels.data + y * pixels.stride;
+        for (int x = 0; x < pixels.width; ++x) {
+            const u32 pixel = row[x];
+            for (const int shift : { 16, 8, 0 })
+                image.bytes.push_back(static_cast<u8>(pixel >> shift & 0xFF));
+            image.bytes.push_back(255);
+        }
+    }
+    return image;
 }
 
 Size HeadlessContainer::ScreenSizeInTwips() const

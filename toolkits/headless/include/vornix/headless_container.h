@@ -3,6 +3,7 @@
 #pragma once
 
 #include "vornix/event_log.h"
+#include "vornix/headless_child.h"
 #include "vornix/memory_stores.h"
 #include "vornix/platform/container.h"
 #include "vornix/raster_surface.h"
@@ -17,32 +18,30 @@
 
 namespace vornix {
 
-// A child window is a rectangle and two flags here.
-class HeadlessChild : public ChildWindow {
-public:
-    void Move(const Rect& place) override { place_ = place; }
-    Rect Place() const override { return place_; }
-    void Show(bool visible) override { visible_ = visible; }
-    bool IsVisible() const override { return visible_; }
-    void SetEnabled(bool enabled) override { enabled_ = enabled; }
-    bool IsEnabled() const override { return enabled_; }
-    void Raise() override { }
-    bool SetFocus() override { return visible_ && enabled_; }
-
-private:
-    Rect place_;
-    bool visible_ = false;
-    bool enabled_ = true;
-};
-
 struct MessageBoxRecord {
     std::u16string title;
     std::u16string text;
     MessageIcon icon = MessageIcon::None;
 };
 
+// A picture by device pixels: four bytes each, red, green, blue and an alpha of 255, rows from the top.
+struct RgbaImage {
+    int width = 0;
+    int height = 0;
+    std::vector<u8> bytes;
+};
+
+// "exclamation", "information" or "".
+std::string_view NameOf(MessageIcon icon);
+// "default", "size_we" or "size_ns".
+std::string_view NameOf(PointerShape shape);
+
+class Person;
+class WindowStack;
+
 struct HeadlessOptions {
-    // Of the window, border included; logical pixels.
+    // Of the window, border included; logical pixels. 0 to 32767 each, and no more than 2^26 device pixels in all (a
+    // quarter of a gigabyte; the control keeps a second picture as large). Error 5 for other sizes and scales.
     int width = 640;
     int height = 480;
     // Device pixels a logical pixel, 1 to 4.
@@ -69,18 +68,65 @@ public:
 
     Vornix& Grid() { return *grid_; }
 
-    // What a form does to the control.
+    // What a form does to the control. All but SetUserMode and Close are error 5 on a closed control.
     void SetUserMode(bool userMode) { userMode_ = userMode; }
+    // The limits are those of the options.
     void Resize(int width, int height);
     void Show() { grid_->Show(); }
-    void Hide() { grid_->Hide(); }
+    void Hide();
     void Paint() { grid_->Paint(); }
-    void EnterFocus() { grid_->EnterFocus(); }
-    void ExitFocus() { grid_->ExitFocus(); }
+    void EnterFocus();
+    void ExitFocus();
     // Ends in Terminate; the object stays, its members raise errors.
     void Close() { grid_->Terminate(); }
-    // The platform code of a key or button that is held down from now on.
+
+    // Single notifications to the control itself. Nothing is implied: no window on top, no focus, no button or key that
+    // is held, and no other notification. Buttons 1 left, 2 right, 4 middle; shift the sum of 1 Shift, 2 Ctrl, 4 Alt;
+    // places in pixels of the client area. Those of keys give the code as the handlers left it. Error 5 on a closed
+    // control. They reach the control at design time, too.
+    void MouseDown(float x, float y, i16 button = 1, i16 shift = 0);
+    void MouseMove(float x, float y, i16 button = 0, i16 shift = 0);
+    void MouseUp(float x, float y, i16 button = 1, i16 shift = 0);
+    void Click();
+    void DblClick();
+    i16 KeyDown(i16 code, i16 shift = 0);
+    i16 KeyPress(i16 character);
+    i16 KeyUp(i16 code, i16 shift = 0);
+    // Error 445: the control has no scroll bars for the wheel yet, and no watch over the pointer.
+    void Wheel(i32 delta);
+    void Tick();
+
+    // What a person does, in the platform's order. The window on top at a place gets the notifications of the pointer,
+    // in its own coordinates: a child that is visible and enabled, else the control; from the press to the release they
+    // all go to the window of the press. Outside the client area there is no window, and nothing arrives. A press on
+    // the control gives it the focus first (EnterFocus when the focus was elsewhere). Buttons and keys are held, for
+    // IsKeyDown, from their press to their release. Children take notifications and do nothing with them.
+    //
+    // A control that a handler closes gets no further notification; one that is closed from the start is error 5, as
+    // are buttons, sums of keys and numbers of steps that there are not, and places that are not finite.
+
+    // MouseMove, MouseDown, MouseUp, Click.
+    void ClickAt(float x, float y, i16 button = 1, i16 shift = 0);
+    // MouseMove, MouseDown, MouseUp, Click, DblClick, MouseUp. Where another window lies on top after the first click,
+    // the second one is a click on that.
+    void DblClickAt(float x, float y, i16 button = 1, i16 shift = 0);
+    // MouseMove to the first place, MouseDown, 1 to 32767 times MouseMove with the button, the last one to the second
+    // place, MouseUp, and Click if that lies in the window of the press.
+    void Drag(float x1, float y1, float x2, float y2, i16 button = 1, i16 shift = 0, i32 steps = 8);
+    // KeyDown, KeyPress unless the handlers set the code of KeyDown to 0, and KeyUp for each unit of the text, by the
+    // keys of a US keyboard: capitals and upper signs with Shift, a line feed as Return, what has no key with the code
+    // 231. They go to what has the focus at the moment; when that is not in the control, the control gets it first.
+    void Type(std::u16string_view text);
+    // The same for one key, by its name in any case ("a", "Left", "F2", "Escape", "Delete", "Back", "Return", "Tab",
+    // "Numpad5", ...) or its code, 1 to 254. KeyPress comes for keys that give a character: letters, digits, signs,
+    // Back, Tab, Return, Escape and Space; with Ctrl, letters give 1 to 26; with Alt nothing does. Error 5 for a name
+    // that no key has; its description lists those there are.
+    void Press(std::string_view key, i16 shift = 0);
+    void Press(i16 code, i16 shift = 0);
+    // Holds a key or button by its platform code, or lets it go.
     void HoldKey(int code, bool down);
+    // Whether the control or one of its children has the focus.
+    bool HasFocus() const;
 
     // What the control said since ClearLog.
     const std::vector<LoggedEvent>& Log() const { return log_.Events(); }
@@ -100,11 +146,14 @@ public:
     int TimerInterval() const { return timerInterval_; }
     // Null for a name that no child has.
     HeadlessChild* FindChild(std::string_view name);
+    // Error 5 for a name that no child has.
+    HeadlessChild& Child(std::string_view name);
     MemorySettings& StoredSettings() { return *settings_; }
 
     // The control's picture. Logical pixels; 0xFFFFFFFF outside.
     ColorRef Pixel(int x, int y) const { return window_->GetPixel(x, y); }
     RasterSurface& Window() { return *window_; }
+    RgbaImage Image() const;
     // Throws std::runtime_error when the file cannot be written.
     void SavePng(const std::string& path) const { window_->SavePng(path); }
 
@@ -120,9 +169,9 @@ public:
     Surface* BackStore(Size size) override;
     void SetExtendedStyle(u32 style) override;
     void PictureChanged(const Rect&) override { }
-    bool SetFocus() override { return true; }
+    bool SetFocus() override;
     void SetPointerShape(PointerShape shape) override { pointer_ = shape; }
-    bool IsKeyDown(int code) const override { return keysDown_.contains(code); }
+    bool IsKeyDown(int code) const override;
     void SetTimer(int interval, bool enabled) override;
     ChildWindow& Child(ChildName name) override;
     void PropertyChanged(std::string_view name) override { propertyChanges_.emplace_back(name); }
@@ -134,6 +183,8 @@ public:
 private:
     void MakeWindow(Size client);
     void TellClientSize(Size before);
+    void CheckSize(Size size) const;
+    void RequireOpen() const;
 
     Size size_;
     double scale_;
@@ -154,6 +205,8 @@ private:
     bool isLoaded_ = false;
     Size windowSize_;
     std::unique_ptr<RasterSurface> window_;
+    std::unique_ptr<WindowStack> windows_;
+    std::unique_ptr<Person> person_;
     std::unique_ptr<Vornix> grid_;
 };
 

@@ -1,0 +1,46 @@
+// What happens to the control's window, on its way to the host.
+#include "control/control.h"
+
+namespace vornix {
+
+void Vornix::MouseDown(i16 Button, i16 Shift, float x, float y)
+{
+    Enter()->events.MouseDown(Button, Shift, x, y);
+}
+
+void Vornix::MouseMove(i16 Button, i16 Shift, float x, float y)
+{
+    Enter()->events.MouseMove(Button, Shift, x, y);
+}
+
+void Vornix::MouseUp(i16 Button, i16 Shift, float x, float y)
+{
+    Enter()->events.MouseUp(Button, Shift, x, y);
+}
+
+void Vornix::Click()
+{
+    Enter()->events.Click();
+}
+
+void Vornix::DblClick()
+{
+    Enter()->events.DblClick();
+}
+
+void Vornix::KeyDown(i16& KeyCode, i16& Shift)
+{
+    Enter()->events.KeyDown(KeyCode, Shift);
+}
+
+void Vornix::KeyPress(i16& KeyAscii)
+{
+    Enter()->events.KeyPress(KeyAscii);
+}
+
+void Vornix::KeyUp(i16& KeyCode, i16& Shift)
+{
+    Enter()->events.KeyUp(KeyCode, Shift);
+}
+
+} // namespace vornix

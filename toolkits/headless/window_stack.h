@@ -1,0 +1,70 @@
+// The control's window and its children: which lies on top at a place, and which has the focus.
+#pragma once
+
+#include "vornix/headless_child.h"
+
+#include <array>
+#include <span>
+#include <vector>
+
+namespace vornix {
+
+class HeadlessContainer;
+
+// The control as a window among its children.
+class ControlWindow : public InputWindow {
+public:
+    explicit ControlWindow(HeadlessContainer& host)
+        : host_(host)
+    {
+    }
+    Rect Area() const override;
+    void MouseDown(i16 button, i16 shift, float x, float y) override;
+    void MouseMove(i16 button, i16 shift, float x, float y) override;
+    void MouseUp(i16 button, i16 shift, float x, float y) override;
+    void Click() override;
+    void DblClick() override;
+    void KeyDown(i16& code, i16& shift) override;
+    void KeyPress(i16& character) override;
+    void KeyUp(i16& code, i16& shift) override;
+
+private:
+    HeadlessContainer& host_;
+};
+
+class WindowStack : public ChildParent {
+public:
+    // The children by their names in ChildName, the later above the earlier.
+    WindowStack(HeadlessContainer& host, std::span<HeadlessChild> children);
+
+    InputWindow& TheControl() { return control_; }
+    // Null outside the client area. What cannot be used lets through what lies below.
+    InputWindow* TopAt(float x, float y);
+
+    // Null while the focus is elsewhere than in the control. A child that cannot be used any more has lost it to the
+    // control.
+    InputWindow* Focused();
+    bool HasFocus() const { return hasFocus_; }
+    // The control itself takes the focus; when it comes from elsewhere the control is told that it entered.
+    void FocusControl();
+    // The control is told that the focus entered it or left it.
+    void EnterFocus();
+    void ExitFocus();
+
+    void RaiseChild(HeadlessChild& child) override;
+    void FocusChild(HeadlessChild& child) override;
+
+private:
+    HeadlessChild* TopChildAt(float x, float y, const HeadlessChild* frame) const;
+    // To the control itself where no child is given.
+    void GiveFocus(HeadlessChild* child);
+
+    HeadlessContainer& host_;
+    ControlWindow control_;
+    // From the bottom up; those in a frame count among themselves.
+    std::vector<HeadlessChild*> order_;
+    bool hasFocus_ = false;
+    HeadlessChild* focusedChild_ = nullptr;
+};
+
+} // namespace vornix

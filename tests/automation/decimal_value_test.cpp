@@ -1,3 +1,4 @@
+#include "automation/comma_locale.h"
 #include "automation/reference_table.h"
 #include "vornix/automation.h"
 
@@ -28,28 +29,6 @@ std::u16string TextOfDecimal(const Variant& value)
 {
     return Variant::FromDecimal(value.ToDecimal()).ToText();
 }
-
-class CommaNumbers : public Locale {
-public:
-    CommaNumbers()
-    {
-        numbers_.decimalSeparator = u",";
-        numbers_.groupSeparator = u".";
-        numbers_.negativeSign = u"\u2212";
-    }
-    const NumberSymbols& Numbers() const override { return numbers_; }
-    const DateSymbols& Dates() const override { return BuiltinLocale().Dates(); }
-    const LocaleWords& Words() const override { return BuiltinLocale().Words(); }
-    char16_t ToLower(char16_t unit) const override { return BuiltinLocale().ToLower(unit); }
-    char16_t ToUpper(char16_t unit) const override { return BuiltinLocale().ToUpper(unit); }
-    int CompareNoCase(std::u16string_view a, std::u16string_view b) const override
-    {
-        return BuiltinLocale().CompareNoCase(a, b);
-    }
-
-private:
-    NumberSymbols numbers_;
-};
 
 } // namespace
 
@@ -83,7 +62,7 @@ TEST(DecimalValue, AZeroHasNoSignInItsText)
 
 TEST(DecimalValue, TextsAreThoseOfTheLocale)
 {
-    const CommaNumbers locale;
+    const CommaLocale locale;
     EXPECT_EQ(Decimal(123456789, 2, true).ToText(locale), u"\u22121234567,89");
     EXPECT_EQ(Variant::FromCurrency(-12345678).ToText(locale), u"\u22121234,5678");
     EXPECT_EQ(Variant(u"1.234.567,89").ToDecimal(locale), (DecimalValue { 123456789, 0, 2, false }));

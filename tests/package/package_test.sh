@@ -85,7 +85,7 @@ test_core_alone() {
         { cat "$work/core.log"; fail "the core alone does not configure"; }
     cmake --build "$work/core"
     local archive
-    archive=$(find "$work/core" -name libvornix.a)
+    archive=$(find "$work/core" -name libvornix_core.a)
     "$CXX" -shared -nodefaultlibs -o "$work/libcore.so" -Wl,--no-undefined -Wl,--whole-archive "$archive" \
         -Wl,--no-whole-archive -lstdc++ -lm -lgcc_s -lc -lgcc
     local needed

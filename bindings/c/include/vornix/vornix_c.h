@@ -230,6 +230,7 @@ VORNIX_API int32_t vornix_read_texts(
 /* -- Arrays: records of columns, for LoadFromArray -- */
 
 VORNIX_API int32_t vornix_array_create(size_t columns, size_t records, vornix_array** array);
+VORNIX_API void vornix_array_retain(vornix_array* array);
 VORNIX_API void vornix_array_release(vornix_array* array);
 VORNIX_API int32_t vornix_array_set(vornix_array* array, size_t column, size_t record, const vornix_value* value);
 /* A whole column at once; count is the number of records. A length of UINT32_MAX is null. */
@@ -278,6 +279,14 @@ VORNIX_API int32_t vornix_picture_load(const char* path, vornix_picture** pictur
 VORNIX_API int32_t vornix_picture_describe(const vornix_picture* picture, vornix_picture_info* info);
 VORNIX_API void vornix_picture_retain(vornix_picture* picture);
 VORNIX_API void vornix_picture_release(vornix_picture* picture);
+
+/* An object that passes through unseen. The function is called with the pointer when the last holder lets go of it, on
+ * whichever thread that is; it may be null. */
+VORNIX_API int32_t vornix_object_create(void* pointer, void (*release)(void* pointer), vornix_object** object);
+/* Null for null, and for what a finished event has brought. */
+VORNIX_API void* vornix_object_pointer(const vornix_object* object);
+VORNIX_API void vornix_object_retain(vornix_object* object);
+VORNIX_API void vornix_object_release(vornix_object* object);
 
 /* -- Surfaces: devices to draw on, for arguments named PictureHdc or PrinterHdc -- */
 

@@ -62,7 +62,7 @@ static void let_cell(vornix_grid* grid, const char* name, int row, int col, vorn
 static void on_event(void* user, vornix_grid* grid, int32_t event, vornix_value* arguments, size_t count)
 {
     (void)count;
-    if (event != vxEventMouseDown)
+    if (event != VORNIX_EVENT_MouseDown)
         return;
     vornix_value cell[] = { number(arguments[2].as.number), number(arguments[3].as.number), integer(0), integer(0) };
     vornix_value found;

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the build and uses it as a program outside the tree would: find_package, pkg-config, the installed viewer.
-#   package_test.sh SOURCE BUILD [headless] [qt] [viewer]     the parts that the build has
+#   package_test.sh SOURCE BUILD [headless] [c] [qt] [viewer]     the parts that the build has
 set -euo pipefail
 source_dir=$1
 build_dir=$2
@@ -45,6 +45,24 @@ test_headless() {
         $(pkg-config --cflags --libs vornix-headless)
     "$work/by_pkg_config" "$work/configured.png"
     cmp "$work/found.png" "$work/configured.png" || fail "the two programs draw different pictures"
+}
+
+test_c() {
+    say "find_package, c"
+    build_example c
+    "$work/c/build/c_example" "$work/c_found.png"
+    is_png "$work/c_found.png" 360 130
+
+    say "pkg-config, c"
+    local libraries
+    libraries=$(dirname "$(find "$prefix" -name libvornix.so)")
+    export PKG_CONFIG_PATH
+    PKG_CONFIG_PATH=$libraries/pkgconfig
+    # shellcheck disable=SC2046
+    "${CC:-cc}" -std=c11 -Wall -Wextra -Wpedantic -Werror "$source_dir/examples/c/main.c" -o "$work/c_by_pkg_config" \
+        $(pkg-config --cflags --libs vornix-c)
+    LD_LIBRARY_PATH=$libraries "$work/c_by_pkg_config" "$work/c_configured.png"
+    cmp "$work/c_found.png" "$work/c_configured.png" || fail "the two C programs draw different pictures"
 }
 
 test_qt() {

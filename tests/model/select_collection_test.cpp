@@ -1,0 +1,465 @@
+#include "model/select_collection.h"
+
+#include "vornix/automation.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <random>
+#include <utility>
+#include <vector>
+
+namespace vornix {
+namespace {
+
+using Ranges = std::vector<std::pair<i32, i32>>;
+
+Ranges LiveRanges(const SelectCollection& selection)
+{
+    Ranges ranges;
+    for (int slot = 0; slot < selection.SlotCount(); ++slot) {
+        if (selection.Slot(slot).isActive)
+            ranges.emplace_back(selection.Slot(slot).left, selection.Slot(slot).right);
+    }
+    return ranges;
+}
+
+SelectCollection Rows(i32 first, i32 last)
+{
+    SelectCollection selection;
+    selection.AddRows(true, first, last);
+    return selection;
+}
+
+TEST(SelectCollection, IsEmptyAtFirst)
+{
+    const SelectCollection selection;
+    EXPECT_EQ(selection.Mode(), SelectionKind::None);
+    EXPECT_EQ(selection.Count(), 0);
+    EXPECT_EQ(selection.CountCells() + selection.CountCols() + selection.CountRows(), 0);
+    EXPECT_FALSE(selection.IsCellSelected(0, 0));
+}
+
+TEST(SelectCollection, HoldsOneKindAtATime)
+{
+    SelectCollection selection = Rows(1, 2);
+    selection.AddCols(false, 4, 6);
+    EXPECT_EQ(selection.Mode(), SelectionKind::Cols);
+    EXPECT_EQ(selection.CountCols(), 3);
+    EXPECT_EQ(selection.CountRows(), 0);
+    EXPECT_TRUE(selection.IsColSelected(5));
+    EXPECT_FALSE(selection.IsRowSelected(5));
+    selection.AddCells(false, 1, 2, 3, 4);
+    EXPECT_EQ(selection.CountCells(), 9);
+    EXPECT_TRUE(selection.IsCellSelected(3, 4));
+    EXPECT_FALSE(selection.IsCellSelected(4, 3));
+}
+
+TEST(SelectCollection, ForgetsTheModeWithTheLastRange)
+{
+    SelectCollection selection = Rows(1, 2);
+    selection.SetMode(SelectionKind::Cols);
+    EXPECT_EQ(selection.Mode(), SelectionKind::Cols);
+    selection.RemoveAll();
+    selection.SetMode(SelectionKind::Rows);
+    EXPECT_EQ(selection.Mode(), SelectionKind::None);
+}
+
+TEST(SelectCollection, AddsNothingForALastIndexBeforeTheFirst)
+{
+    SelectCollection selection;
+    selection.AddRows(true, 5, 4);
+    EXPECT_EQ(selection.Count(), 0);
+}
+
+TEST(SelectCollection, CountsARangeThatIsAddedTwiceTwice)
+{
+    SelectCollection selection = Rows(3, 3);
+    selection.AddRows(false, 3, 3);
+    EXPECT_EQ(selection.CountRows(), 2);
+}
+
+TEST(SelectCollection, TellsAnotherKindOnlyWhileSomethingIsSelected)
+{
+    SelectCollection selection;
+    EXPECT_FALSE(selection.IsNewModeSelection(SelectionKind::Cols));
+    selection.AddRows(true, 1, 1);
+    EXPECT_TRUE(selection.IsNewModeSelection(SelectionKind::Cols));
+    EXPECT_FALSE(selection.IsNewModeSelection(SelectionKind::Rows));
+}
+
+TEST(SelectCollection, RemovesOnlyRangesThatReachOverTheInterval)
+{
+    SelectCollection single = Rows(5, 5);
+    single.RemoveRows(5, 5);
+    EXPECT_EQ(single.Count(), 1);
+
+    SelectCollection range = Rows(4, 6);
+    range.RemoveCols(4, 6);
+    EXPECT_EQ(range.Count(), 1);
+    range.RemoveRows(5, 5);
+    EXPECT_EQ(range.Count(), 0);
+    EXPECT_EQ(range.Mode(), SelectionKind::None);
+}
+
+TEST(SelectCollection, TakesOneLineOutOfTheMiddleOfARange)
+{
+    SelectCollection selection = Rows(2, 6);
+    selection.UnSelectRange(4);
+    EXPECT_EQ(LiveRanges(selection), (Ranges { { 2, 3 }, { 5, 6 } }));
+    EXPECT_EQ(selection.Count(), 2);
+}
+
+TEST(SelectCollection, TakesOneLineOffTheEndsOfARange)
+{
+    SelectCollection selection = Rows(2, 4);
+    selection.UnSelectRange(2);
+    EXPECT_EQ(LiveRanges(selection), (Ranges { { 3, 4 } }));
+    selection.UnSelectRange(4);
+    EXPECT_EQ(LiveRanges(selection), (Ranges { { 3, 3 } }));
+    EXPECT_TRUE(selection.Slot(0).isSingle);
+    selection.UnSelectRange(3);
+    EXPECT_EQ(selection.Count(), 0);
+}
+
+TEST(SelectCollection, TakesALineOutOfTheFirstOfTwoRangesOnly)
+{
+    SelectCollection selection = Rows(3, 3);
+    selection.AddRows(false, 2, 6);
+    selection.UnSelectRange(3);
+    EXPECT_TRUE(selection.IsRowSelected(3));
+    EXPECT_EQ(selection.Count(), 1);
+}
+
+TEST(SelectCollection, OverwritesTheRangeBehindAFreedSlot)
+{
+    SelectCollection selection = Rows(1, 1);
+    selection.AddRows(false, 3, 3);
+    selection.AddRows(false, 5, 5);
+    selection.UnSelectRange(1);
+    selection.AddRows(false, 7, 7);
+    selection.AddRows(false, 9, 9);
+    EXPECT_EQ(LiveRanges(selection), (Ranges { { 7, 7 }, { 9, 9 }, { 5, 5 } }));
+    EXPECT_EQ(selection.Count(), 4);
+}
+
+TEST(SelectCollection, KeepsCoveredRangesCountedWhenARunIsUnselected)
+{
+    SelectCollection selection = Rows(2, 3);
+    selection.AddRows(false, 5, 9);
+    selection.UnselectItems(1, 6);
+    EXPECT_EQ(LiveRanges(selection), (Ranges { { 7, 9 } }));
+    EXPECT_EQ(selection.Count(), 2);
+}
+
+TEST(SelectCollection, CutsARangeAroundAnUnselectedRun)
+{
+    SelectCollection selection = Rows(2, 9);
+    selection.UnselectItems(4, 5);
+    EXPECT_EQ(LiveRanges(selection), (Ranges { { 2, 3 }, { 6, 9 } }));
+    selection.UnselectItems(9, 12);
+    EXPECT_EQ(LiveRanges(selection), (Ranges { { 2, 3 }, { 6, 8 } }));
+}
+
+TEST(SelectCollection, CutsARangeAroundInsertedLines)
+{
+    SelectCollection selection = Rows(2, 6);
+    selection.InsertItems(4, 2);
+    EXPECT_EQ(LiveRanges(selection), (Ranges { { 2, 3 }, { 6, 8 } }));
+    selection.InsertItems(0, 1);
+    EXPECT_EQ(LiveRanges(selection), (Ranges { { 3, 4 }, { 7, 9 } }));
+}
+
+TEST(SelectCollection, ShrinksARangeByDeletedLines)
+{
+    SelectCollection selection = Rows(2, 6);
+    selection.DeleteItems(3, 2);
+    EXPECT_EQ(LiveRanges(selection), (Ranges { { 3, 4 }, { 2, 2 } }));
+    EXPECT_EQ(selection.Count(), 2);
+}
+
+TEST(SelectCollection, DropsRangesThatAreDeletedWhole)
+{
+    SelectCollection selection = Rows(2, 3);
+    selection.AddRows(false, 6, 9);
+    selection.DeleteItems(2, 2);
+    EXPECT_EQ(LiveRanges(selection), (Ranges { { 4, 7 } }));
+    EXPECT_EQ(selection.Count(), 1);
+    selection.DeleteItems(6, 9);
+    EXPECT_EQ(LiveRanges(selection), (Ranges { { 4, 5 } }));
+}
+
+TEST(SelectCollection, LeavesRectanglesAloneWhenLinesComeAndGo)
+{
+    SelectCollection selection;
+    selection.AddCells(true, 1, 1, 4, 4);
+    selection.InsertItems(2, 3);
+    selection.DeleteItems(0, 1);
+    selection.UnselectItems(0, 9);
+    selection.InvertSelection(0, 9);
+    EXPECT_EQ(selection.CountCells(), 16);
+}
+
+TEST(SelectCollection, InvertsWhatIsSelected)
+{
+    SelectCollection selection = Rows(2, 3);
+    selection.AddRows(false, 6, 6);
+    selection.InvertSelection(0, 9);
+    EXPECT_EQ(LiveRanges(selection), (Ranges { { 0, 1 }, { 4, 5 }, { 7, 9 } }));
+    EXPECT_EQ(selection.Mode(), SelectionKind::Rows);
+}
+
+TEST(SelectCollection, InvertsNothingToNothing)
+{
+    SelectCollection selection;
+    selection.InvertSelection(0, 9);
+    EXPECT_EQ(selection.Count(), 0);
+}
+
+TEST(SelectCollection, WalksRangesFromASlotOn)
+{
+    SelectCollection selection = Rows(1, 2);
+    selection.AddRows(false, 5, 5);
+    i16 slot = 0;
+    i32 first = 0;
+    i32 last = 0;
+    EXPECT_TRUE(selection.SelectItem(slot, first, last));
+    EXPECT_EQ(std::make_pair(first, last), std::make_pair(1, 2));
+    ++slot;
+    EXPECT_TRUE(selection.SelectItem(slot, first, last));
+    EXPECT_EQ(first, 5);
+    ++slot;
+    EXPECT_FALSE(selection.SelectItem(slot, first, last));
+}
+
+TEST(SelectCollection, GivesTheFirstRectangle)
+{
+    SelectCollection selection;
+    selection.AddCells(true, 4, 3, 2, 1);
+    i16 slot = 0;
+    i32 row1 = 0;
+    i32 col1 = 0;
+    i32 row2 = 0;
+    i32 col2 = 0;
+    EXPECT_TRUE(selection.SelectCell(slot, row1, col1, row2, col2));
+    EXPECT_EQ((std::vector<i32> { row1, col1, row2, col2 }), (std::vector<i32> { 4, 3, 2, 1 }));
+    EXPECT_EQ(slot, 0);
+    selection.AddRows(true, 1, 1);
+    EXPECT_FALSE(selection.SelectCell(slot, row1, col1, row2, col2));
+}
+
+TEST(SelectCollection, CannotHoldMoreRangesThanAreCounted)
+{
+    SelectCollection selection;
+    for (int row = 0; row < 32766; ++row)
+        selection.AddRows(false, row, row);
+    try {
+        for (int more = 0; more < 3; ++more)
+            selection.AddRows(false, 0, 0);
+        FAIL() << "no error";
+    } catch (const AutomationError& error) {
+        EXPECT_EQ(error.Number(), ErrorNumber::Overflow);
+    }
+    selection.InsertItems(0, 1);
+    EXPECT_TRUE(selection.IsRowSelected(32766));
+}
+
+// The same bookkeeping, written down step by step with a map from slots to ranges.
+class PlainSelection {
+public:
+    struct Item {
+        i32 left;
+        i32 right;
+        bool single;
+    };
+
+    void AddRows(bool reset, i32 first, i32 last)
+    {
+        if (reset || !isRows) {
+            count = 0;
+            isRows = true;
+        }
+        Add(first, last);
+    }
+
+    void UnSelect(i32 index)
+    {
+        if (count == 0)
+            return;
+        for (auto& [slot, item] : live) {
+            if (item.single ? index != item.left : index < item.left || index > item.right)
+                continue;
+            if (item.single)
+                Remove(slot);
+            else if (item.left < index && index < item.right)
+                Add(index + 1, std::exchange(item.right, index - 1));
+            else if (index == item.left)
+                item.single = ++item.left == item.right;
+            else
+                item.single = --item.right == item.left;
+            return;
+        }
+    }
+
+    void Unselect(i32 first, i32 last)
+    {
+        if (count == 0)
+            return;
+        for (const int slot : Slots()) {
+            if (IsAdded(slot))
+                continue;
+            Item& item = live.at(slot);
+            if (item.right < first || last < item.left)
+                continue;
+            if (item.left < first) {
+                const i32 right = std::exchange(item.right, first - 1);
+                if (last < right)
+                    Add(last + 1, right);
+            } else if (last < item.right)
+                item.left = last + 1;
+            else
+                live.erase(slot);
+        }
+    }
+
+    void Insert(i32 position, i32 n)
+    {
+        if (count == 0)
+            return;
+        for (const int slot : Slots()) {
+            if (IsAdded(slot))
+                continue;
+            Item& item = live.at(slot);
+            if (position <= item.left)
+                item = { item.left + n, item.right + n, item.single };
+            else if (position <= item.right)
+                Add(position + n, std::exchange(item.right, position - 1) + n);
+        }
+    }
+
+    void Delete(i32 position, i32 n)
+    {
+        if (count == 0 || n == 0)
+            return;
+        const i32 last = position + n - 1;
+        for (const int slot : Slots()) {
+            if (IsAdded(slot))
+                continue;
+            Item& item = live.at(slot);
+            if (last < item.left)
+                item = { item.left - n, item.right - n, item.single };
+            else if (last >= item.right && position <= item.left)
+                Remove(slot);
+            else if (last >= item.right && position <= item.right)
+                item.right = position - 1;
+            else if (last < item.right) {
+                const Item old = std::exchange(item, { last + 1 - n, item.right - n, item.single });
+                if (position > old.left)
+                    Add(old.left, position - 1);
+            }
+        }
+    }
+
+    void Invert(i32 first, i32 last)
+    {
+        if (count == 0)
+            return;
+        const auto before = live;
+        count = 0;
+        Add(first, last);
+        for (const auto& [slot, item] : before)
+            Unselect(item.left, item.right);
+    }
+
+    std::map<int, Item> live;
+    int count = 0;
+    bool isRows = false;
+
+private:
+    void Add(i32 first, i32 last)
+    {
+        if (first > last)
+            return;
+        if (count++ == 0) {
+            live.clear();
+            next = 0;
+        }
+        added.push_back(next);
+        live[next++] = { first, last, first == last };
+    }
+
+    void Remove(int slot)
+    {
+        live.erase(slot);
+        --count;
+        next = std::min(next, slot);
+    }
+
+    bool IsAdded(int slot) const { return std::find(added.begin(), added.end(), slot) != added.end(); }
+
+    // The slots to look at; those that are written from now on are passed over.
+    std::vector<int> Slots()
+    {
+        added.clear();
+        std::vector<int> slots;
+        for (const auto& each : live)
+            slots.push_back(each.first);
+        return slots;
+    }
+
+    int next = 0;
+    std::vector<int> added;
+};
+
+TEST(SelectCollection, AgreesWithAPlainOneOverRandomOperations)
+{
+    std::mt19937 random(20240611);
+    const auto below = [&](int limit) { return static_cast<i32>(random() % static_cast<unsigned>(limit)); };
+    for (int round = 0; round < 400; ++round) {
+        SelectCollection selection;
+        PlainSelection plain;
+        for (int step = 0; step < 60; ++step) {
+            const i32 a = below(30);
+            const i32 b = a + below(8);
+            switch (below(7)) {
+            case 0:
+            case 1: {
+                const bool reset = below(12) == 0;
+                selection.AddRows(reset, a, b);
+                plain.AddRows(reset, a, b);
+                break;
+            }
+            case 2:
+                selection.UnSelectRange(a);
+                plain.UnSelect(a);
+                break;
+            case 3:
+                selection.UnselectItems(a, b);
+                plain.Unselect(a, b);
+                break;
+            case 4:
+                selection.InsertItems(a, b - a);
+                plain.Insert(a, b - a);
+                break;
+            case 5:
+                selection.DeleteItems(a, b - a);
+                plain.Delete(a, b - a);
+                break;
+            default:
+                selection.InvertSelection(0, 30);
+                plain.Invert(0, 30);
+            }
+            ASSERT_EQ(selection.Count(), plain.count) << "round " << round << " step " << step;
+            Ranges expected;
+            for (const auto& [slot, item] : plain.live)
+                expected.emplace_back(item.left, item.right);
+            if (plain.count > 0) {
+                ASSERT_EQ(LiveRanges(selection), expected) << "round " << round << " step " << step;
+            }
+        }
+    }
+}
+
+} // namespace
+} // namespace vornix

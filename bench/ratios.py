@@ -1,47 +1,70 @@
 #!/usr/bin/env python3
-"""Makes the named ratios of a run of compare_bench: ratios.py RUN.json COMPARE.json"""
+"""Makes the named figures out of runs of the benchmarks: ratios.py RUN.json... COMPARE.json
+
+A run is a file as Google Benchmark writes it; what counts in it are the medians of the repetitions: "run_name" with
+"real_time", "time_unit" and counters. A figure is made when the runs hold all that it needs, and named on the standard
+error output when they do not.
+"""
 
 import json
 import sys
 
 TO_MILLISECONDS = {"ns": 1e-6, "us": 1e-3, "ms": 1.0, "s": 1e3}
 
+# By name, from the benchmarks' times in milliseconds and their counters.
+FIGURES = {
+    "fill_ratio": lambda time, _: time["QTableWidget/fill"] / time["Vornix/fill"],
+    "bytes_per_cell": lambda _, counter: counter["Vornix/fill"]["bytes_per_cell"],
+    "repaint_ratio": lambda time, _: time["QTableWidget/repaint"] / time["Vornix/repaint"],
+    "fresh_page_ratio": lambda time, _: time["QTableWidget/fresh_page"] / time["Vornix/fresh_page"],
+    "col_back_color_ms": lambda time, _: time["Vornix/col_back_color"],
+    "frame_copy_ratio": lambda time, _: time["Vornix/repaint"] / time["frame_copy"],
+    "late_bound_get_per_s": lambda _, counter: counter["C/late_bound_get"]["items_per_second"],
+    "late_bound_get_by_name_per_s": lambda _, counter: counter["C/late_bound_get_by_name"]["items_per_second"],
+    "python_load_1m_s": lambda time, _: time["Python/load_1m"] / TO_MILLISECONDS["s"],
+    "python_read_30k_ms": lambda time, _: time["Python/read_30k"],
+}
 
-def medians(run):
-    """Real time in milliseconds, and the memory counter, by benchmark: the median of the repetitions."""
+
+def medians(runs):
+    """Times in milliseconds, and everything else that was counted, by benchmark."""
     times, counters = {}, {}
-    for entry in run["benchmarks"]:
+    for entry in (entry for run in runs for entry in run["benchmarks"]):
         if entry.get("aggregate_name") != "median":
             continue
-        name = "/".join(entry["run_name"].split("/")[:2]) if "/" in entry["run_name"] else entry["run_name"]
+        name = "/".join(entry["run_name"].split("/")[:2])
         times[name] = entry["real_time"] * TO_MILLISECONDS[entry["time_unit"]]
-        if "bytes_per_cell" in entry:
-            counters[name] = entry["bytes_per_cell"]
+        counters[name] = entry
     return times, counters
 
 
-def compare(run):
-    time, memory = medians(run)
-    figures = {
-        "fill_ratio": time["QTableWidget/fill"] / time["Vornix/fill"],
-        "bytes_per_cell": memory["Vornix/fill"],
-        "repaint_ratio": time["QTableWidget/repaint"] / time["Vornix/repaint"],
-        "fresh_page_ratio": time["QTableWidget/fresh_page"] / time["Vornix/fresh_page"],
-        "col_back_color_ms": time["Vornix/col_back_color"],
-        "frame_copy_ratio": time["Vornix/repaint"] / time["frame_copy"],
-    }
-    return {name: round(value, 3) for name, value in figures.items()}
+def figures(runs):
+    """The figures that can be made, and the names of those that cannot."""
+    times, counters = medians(runs)
+    made, missing = {}, []
+    for name, figure in FIGURES.items():
+        try:
+            made[name] = round(figure(times, counters), 3)
+        except KeyError:
+            missing.append(name)
+    return made, missing
+
+
+def read(path):
+    with open(path, encoding="utf-8") as file:
+        return json.load(file)
 
 
 def main():
-    source, target = sys.argv[1:]
-    with open(source, encoding="utf-8") as file:
-        figures = compare(json.load(file))
+    *sources, target = sys.argv[1:]
+    made, missing = figures([read(source) for source in sources])
     with open(target, "w", encoding="utf-8") as file:
-        json.dump(figures, file, indent=2)
+        json.dump(made, file, indent=2)
         file.write("\n")
-    for name, value in figures.items():
-        print(f"{name:20} {value:10.3f}")
+    for name, value in made.items():
+        print(f"{name:30} {value:16.3f}")
+    for name in missing:
+        print(f"not measured: {name}", file=sys.stderr)
 
 
 if __name__ == "__main__":

@@ -1,0 +1,167 @@
+"""The grid."""
+
+import ctypes
+from typing import Any, Dict, List, Mapping, NoReturn, Optional
+
+from . import _library
+from ._checks import to_i16, to_i32, to_name
+from ._errors import INVALID_ARGUMENT, NOT_SUPPORTED, AutomationError
+from ._members import GridMembers
+from ._session import CALL, GET, LET, Session
+from ._values import put
+from .events import EVENTS, GridEvents
+from .host import Host, SettingName, make_settings
+
+__all__ = ["Grid", "ScrollBar", "TextBox"]
+
+_KINDS = {"get": GET, "let": LET, "call": CALL}
+
+
+def _make_bag(bag: Mapping[str, Any]) -> "ctypes.Array[_library.BagEntry]":
+    made = (_library.BagEntry * len(bag))()
+    for entry, (name, value) in zip(made, bag.items()):
+        entry.name = to_name(name)
+        put(entry.value, value)
+    return made
+
+
+class Grid(GridMembers, GridEvents):
+    """A grid in a container without a screen, which is its `host`.
+
+    width, height: of its window in pixels, border included.
+    design: the form is being designed; without a bag the control is a new one.
+    bag: what a control was saved with, values by name.
+    settings: the user's settings, text by (application, section, key).
+    show: whether the control is shown at the end.
+    scale: device pixels for each pixel, 1 to 4.
+
+    Row and Col are 0 for the first row and column that are not fixed; fixed ones are -1, -2, ...
+    outward. A grid belongs to the thread that made it.
+    """
+
+    __slots__ = ("_settings", "__weakref__")
+
+    def __init__(
+        self,
+        width: int = 640,
+        height: int = 480,
+        *,
+        design: bool = False,
+        bag: Optional[Mapping[str, Any]] = None,
+        settings: Optional[Dict[SettingName, str]] = None,
+        show: bool = True,
+        scale: float = 1.0,
+    ) -> None:
+        size = to_i32(width), to_i32(height)
+        if min(size) < 1:
+            raise AutomationError(INVALID_ARGUMENT, f"A window cannot be {width} x {height}")
+        entries = _make_bag(bag or {})
+        stored = make_settings(settings or {})
+        options = _library.GridOptions(
+            size=ctypes.sizeof(_library.GridOptions),
+            width=size[0],
+            height=size[1],
+            scale=float(scale),
+            design=bool(design),
+            hidden=not show,
+            has_bag=bag is not None,
+            bag=entries,
+            bag_count=len(entries),
+            settings=stored,
+            setting_count=len(stored),
+        )
+        self._settings = settings
+        self._session = Session(options, EVENTS)
+
+    @property
+    def host(self) -> Host:
+        """The container: what a form and a person do to the grid, and what it says and shows."""
+        return Host(self._session, self._settings)
+
+    def close(self) -> None:
+        """Ends the grid: everything of it raises error 5 from then on. A second time does nothing."""
+        self._session.end()
+
+    def __enter__(self) -> "Grid":
+        return self
+
+    def __exit__(self, *exception: object) -> None:
+        self.close()
+
+    def texts(self, Col: int, start: int = 0, stop: Optional[int] = None) -> List[str]:
+        """The texts of a column in one call, from row `start` up to, not including, row `stop`.
+
+        Without `stop`, to the last row. Fixed rows are negative, as everywhere: the whole column is
+        `g.texts(Col, -g.FixedRows)`. Errors 6 and 9 for what is no row or column.
+        """
+        end = self.Rows if stop is None else to_i32(stop)
+        first, col = to_i16(start), to_i16(Col)
+        if end <= first:
+            return []
+        return self._session.texts(first, col, to_i16(end - 1), col)
+
+    def columns(self, Row1: int, Col1: int, Row2: int, Col2: int) -> List[List[str]]:
+        """The texts of a rectangle in one call: a list for each column, as LoadFromArray takes
+        them. Both corners belong to it, in any order."""
+        row1, row2 = sorted((to_i16(Row1), to_i16(Row2)))
+        col1, col2 = sorted((to_i16(Col1), to_i16(Col2)))
+        texts = self._session.texts(row1, col1, row2, col2)
+        height = row2 - row1 + 1
+        return [texts[start : start + height] for start in range(0, len(texts), height)]
+
+    def invoke(self, name: str, /, *arguments: Any, kind: str = "call", **named: Any) -> Any:
+        """Calls a member by a name that is found out at run time, in any case.
+
+        kind: "call" calls a method or reads a property, "get" reads a property, "let" writes one,
+        the value being the last argument. Arguments may be given by name. What comes back is what
+        the member's own spelling gives. Errors 438, 448, 450 for what the grid does not have.
+        """
+        if kind not in _KINDS:
+            raise ValueError(f"kind must be one of {', '.join(_KINDS)}, not {kind!r}")
+        return self._session.invoke_by_name(name, _KINDS[kind], arguments, named)
+
+    def __copy__(self) -> NoReturn:
+        raise TypeError("a Grid cannot be copied")
+
+    def __deepcopy__(self, memo: Any) -> NoReturn:
+        raise TypeError("a Grid cannot be copied")
+
+    def __reduce_ex__(self, protocol: Any) -> NoReturn:
+        raise TypeError("a Grid cannot be pickled")
+
+    def __repr__(self) -> str:
+        session = self._session
+        if session.has_ended:
+            return "<vornix.Grid closed>"
+        if not session.is_here:
+            return "<vornix.Grid of another thread>"
+        try:
+            return f"<vornix.Grid {self.Rows} rows x {self.Cols} columns>"
+        except AutomationError:
+            return "<vornix.Grid closed>"
+
+
+class TextBox:
+    """A text box with an input mask. Not built yet: making one is error 445."""
+
+    __slots__ = ("__weakref__",)
+
+    def __init__(
+        self, width: int = 120, height: int = 21, *, bag: Optional[Mapping[str, Any]] = None
+    ) -> None:
+        raise AutomationError(NOT_SUPPORTED, "vornix.TextBox is not built yet")
+
+
+class ScrollBar:
+    """A scroll bar. Not built yet: making one is error 445."""
+
+    __slots__ = ("__weakref__",)
+
+    def __init__(
+        self, orientation: int = 0, length: int = 100, *, bag: Optional[Mapping[str, Any]] = None
+    ) -> None:
+        raise AutomationError(NOT_SUPPORTED, "vornix.ScrollBar is not built yet")
+
+
+for _public in (Grid, TextBox, ScrollBar):
+    _public.__module__ = "vornix"

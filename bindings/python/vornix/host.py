@@ -1,0 +1,464 @@
+"""The container without a screen that every grid lives in."""
+
+import ctypes
+import os
+from typing import Any, Dict, List, Mapping, NoReturn, Optional, Sequence, Tuple, Union
+
+from . import _library
+from ._checks import path_bytes, to_float, to_i16, to_i32, to_name, to_text
+from ._errors import INVALID_ARGUMENT, NOT_SUPPORTED, AutomationError
+from ._library import library, make_text, text_of
+from ._session import Session
+
+__all__ = ["Child", "Host"]
+
+# Application, section and key.
+SettingName = Tuple[str, str, str]
+PathLike = Union[str, "os.PathLike[str]"]
+
+
+def make_settings(settings: Mapping[SettingName, str]) -> "ctypes.Array[_library.Setting]":
+    """Settings for the library."""
+    made = (_library.Setting * len(settings))()
+    for entry, (name, value) in zip(made, settings.items()):
+        application, section, key = name
+        entry.application = make_text(application)
+        entry.section = make_text(section)
+        entry.key = make_text(key)
+        entry.value = make_text(value)
+    return made
+
+
+def _not_built(what: str) -> NoReturn:
+    raise AutomationError(NOT_SUPPORTED, f"{what} is not built yet")
+
+
+class Host:
+    """What a form and a person do to the control, and what the control says and shows.
+
+    Places are pixels of the client area. Buttons are 1 left, 2 right, 4 middle; shift is a sum of
+    1 Shift, 2 Ctrl and 4 Alt.
+    """
+
+    __slots__ = ("_session", "_settings")
+
+    def __init__(
+        self, session: Session, settings: Optional[Dict[SettingName, str]] = None
+    ) -> None:
+        self._session = session
+        self._settings = settings
+
+    # -- The form --
+
+    @property
+    def user_mode(self) -> bool:
+        """The ambient UserMode: True while the form runs, False while it is designed."""
+        mode = ctypes.c_int32()
+        self._session.call(library.vornix_host_get_user_mode, ctypes.byref(mode))
+        return mode.value != 0
+
+    @user_mode.setter
+    def user_mode(self, value: bool) -> None:
+        self._session.call(library.vornix_host_set_user_mode, -1 if value else 0)
+
+    def resize(self, width: int, height: int) -> None:
+        """Gives the window another size, in pixels with the border."""
+        self._session.call(library.vornix_host_resize, to_i32(width), to_i32(height))
+
+    def show(self) -> None:
+        """The control becomes visible."""
+        self._session.call(library.vornix_host_show)
+
+    def hide(self) -> None:
+        """The control is hidden."""
+        self._session.call(library.vornix_host_hide)
+
+    def paint(self) -> None:
+        """The window needs its picture again."""
+        self._session.call(library.vornix_host_paint)
+
+    def enter_focus(self) -> None:
+        """The focus comes to the control."""
+        self._session.call(library.vornix_host_enter_focus)
+
+    def exit_focus(self) -> None:
+        """The focus leaves the control."""
+        self._session.call(library.vornix_host_exit_focus)
+
+    def close(self) -> None:
+        """The form closes: Terminate. Members of the grid raise error 5 from then on."""
+        self._session.call(library.vornix_host_close)
+
+    def save(self) -> Dict[str, Any]:
+        """What the control saves with its form. Not built yet: error 445."""
+        self._session.require_open()
+        _not_built("Saving the control")
+
+    # -- Single notifications --
+
+    def _at(self, function: Any, x: float, y: float, button: int, shift: int) -> None:
+        self._session.call(function, to_float(x), to_float(y), to_i16(button), to_i16(shift))
+
+    def mouse_down(self, x: float, y: float, button: int = 1, shift: int = 0) -> None:
+        """A button goes down. Nothing else follows from it."""
+        self._at(library.vornix_host_mouse_down, x, y, button, shift)
+
+    def mouse_move(self, x: float, y: float, button: int = 0, shift: int = 0) -> None:
+        """The pointer moves. Nothing else follows from it."""
+        self._at(library.vornix_host_mouse_move, x, y, button, shift)
+
+    def mouse_up(self, x: float, y: float, button: int = 1, shift: int = 0) -> None:
+        """A button goes up. Nothing else follows from it."""
+        self._at(library.vornix_host_mouse_up, x, y, button, shift)
+
+    def click(self) -> None:
+        """The platform reports a click, as it does behind a release."""
+        self._session.call(library.vornix_host_click)
+
+    def dbl_click(self) -> None:
+        """The platform reports a double click."""
+        self._session.call(library.vornix_host_dbl_click)
+
+    def wheel(self, delta: int) -> None:
+        """The wheel turns, 120 a notch; away from the person is positive."""
+        self._session.call(library.vornix_host_wheel, to_i32(delta))
+
+    def tick(self) -> None:
+        """One tick of the control's timer."""
+        self._session.call(library.vornix_host_tick)
+
+    def key_down(self, code: int, shift: int = 0) -> int:
+        """A key goes down. Gives the code as the handlers left it."""
+        value = ctypes.c_int16(to_i16(code))
+        call = library.vornix_host_key_down
+        self._session.call(call, ctypes.byref(value), to_i16(shift))
+        return value.value
+
+    def key_press(self, char: Union[str, int]) -> int:
+        """A character is typed: itself, or its code. Gives the code as the handlers left it."""
+        value = ctypes.c_int16(_character_code(char))
+        self._session.call(library.vornix_host_key_press, ctypes.byref(value))
+        return value.value
+
+    def key_up(self, code: int, shift: int = 0) -> int:
+        """A key goes up. Gives the code as the handlers left it."""
+        value = ctypes.c_int16(to_i16(code))
+        call = library.vornix_host_key_up
+        self._session.call(call, ctypes.byref(value), to_i16(shift))
+        return value.value
+
+    # -- What a person does --
+
+    def click_at(self, x: float, y: float, button: int = 1, shift: int = 0) -> None:
+        """Moves the pointer there and clicks what is on top: press, release, click."""
+        self._at(library.vornix_host_click_at, x, y, button, shift)
+
+    def dbl_click_at(self, x: float, y: float, button: int = 1, shift: int = 0) -> None:
+        """Moves the pointer there and clicks twice what is on top."""
+        self._at(library.vornix_host_dbl_click_at, x, y, button, shift)
+
+    def drag(
+        self,
+        x1: float,
+        y1: float,
+        x2: float,
+        y2: float,
+        button: int = 1,
+        shift: int = 0,
+        steps: int = 8,
+    ) -> None:
+        """Presses at one place, moves to another in so many steps, and lets go."""
+        places = map(to_float, (x1, y1, x2, y2))
+        call = library.vornix_host_drag
+        self._session.call(call, *places, to_i16(button), to_i16(shift), to_i32(steps))
+
+    def type(self, text: str) -> None:
+        """Types a text into what has the focus."""
+        self._session.call(library.vornix_host_type, make_text(to_text(text)))
+
+    def press(self, key: Union[str, int], shift: int = 0) -> None:
+        """Presses a key ("Left", "F2", "Escape", "Return", ...) or the key of a code."""
+        if isinstance(key, str):
+            self._session.call(library.vornix_host_press, to_name(key), to_i16(shift))
+        else:
+            self._session.call(library.vornix_host_press_code, to_i16(key), to_i16(shift))
+
+    def child(self, name: str) -> "Child":
+        """A child window: "scrV", "scrH", "txtTmp", "cboTmp", "fraEdit", "cPivot", "picSplitCol"
+        or "picSplitMove". Error 5 for other names."""
+        child = Child(self._session, name)
+        child._info()
+        return child
+
+    # -- What the control said --
+
+    @property
+    def log(self) -> List[Tuple[str, Dict[str, Any]]]:
+        """Every event since clear_log(), handled or not: its name, and its arguments as they were
+        when it was raised."""
+        return self._session.logged()
+
+    def clear_log(self) -> None:
+        """Empties log and property_changes, and counts repaints and refreshes from 0."""
+        self._session.call(library.vornix_host_clear_log)
+
+    @property
+    def property_changes(self) -> List[str]:
+        """The names that PropertyChanged reported since clear_log()."""
+        length = ctypes.c_size_t()
+        call = library.vornix_host_property_change_count
+        self._session.call(call, ctypes.byref(length))
+        return [self._property_change(index) for index in range(length.value)]
+
+    def _property_change(self, index: int) -> str:
+        name = ctypes.c_char_p()
+        call = library.vornix_host_property_change_at
+        self._session.call(call, index, ctypes.byref(name))
+        return _name_of(name)
+
+    def _paint_counts(self) -> Tuple[int, int]:
+        repaints, refreshes = ctypes.c_int32(), ctypes.c_int32()
+        call = library.vornix_host_paint_counts
+        self._session.call(call, ctypes.byref(repaints), ctypes.byref(refreshes))
+        return repaints.value, refreshes.value
+
+    @property
+    def repaints(self) -> int:
+        """How often the whole grid was painted since clear_log()."""
+        return self._paint_counts()[0]
+
+    @property
+    def refreshes(self) -> int:
+        """How many cells were painted one by one since clear_log()."""
+        return self._paint_counts()[1]
+
+    # -- What it did to its surroundings --
+
+    @property
+    def message_boxes(self) -> List[Dict[str, str]]:
+        """The boxes that were shown: title, text, and icon ("exclamation", "information", "")."""
+        length = ctypes.c_size_t()
+        call = library.vornix_host_message_box_count
+        self._session.call(call, ctypes.byref(length))
+        return [self._message_box(index) for index in range(length.value)]
+
+    def _message_box(self, index: int) -> Dict[str, str]:
+        title, text, icon = _library.Text(), _library.Text(), ctypes.c_char_p()
+        self._session.call(
+            library.vornix_host_message_box_at,
+            index,
+            ctypes.byref(title),
+            ctypes.byref(text),
+            ctypes.byref(icon),
+        )
+        return {"title": text_of(title), "text": text_of(text), "icon": _name_of(icon)}
+
+    @property
+    def clipboard(self) -> str:
+        """The plain text on the clipboard."""
+        text = _library.Text()
+        self._session.call(library.vornix_host_get_clipboard, ctypes.byref(text))
+        return text_of(text)
+
+    @clipboard.setter
+    def clipboard(self, value: str) -> None:
+        self._session.call(library.vornix_host_set_clipboard, make_text(to_text(value)))
+
+    @property
+    def pointer_shape(self) -> str:
+        """ "default", "size_we" or "size_ns"."""
+        shape = ctypes.c_char_p()
+        self._session.call(library.vornix_host_pointer_shape, ctypes.byref(shape))
+        return _name_of(shape)
+
+    @property
+    def settings(self) -> Dict[SettingName, str]:
+        """The settings store, text by (application, section, key). It is the dict that the grid was
+        made with, brought up to date; writing into it later does not reach the control."""
+        length = ctypes.c_size_t()
+        self._session.call(library.vornix_host_setting_count, ctypes.byref(length))
+        stored = dict(self._setting(index) for index in range(length.value))
+        if self._settings is None:
+            return stored
+        self._settings.clear()
+        self._settings.update(stored)
+        return self._settings
+
+    def _setting(self, index: int) -> Tuple[SettingName, str]:
+        setting = _library.Setting()
+        self._session.call(library.vornix_host_setting_at, index, ctypes.byref(setting))
+        name = (text_of(setting.application), text_of(setting.section), text_of(setting.key))
+        return name, text_of(setting.value)
+
+    # -- Its picture --
+
+    def pixel(self, x: int, y: int) -> int:
+        """The colour of a pixel, 0x00BBGGRR; 0xFFFFFFFF outside."""
+        color = ctypes.c_uint32()
+        call = library.vornix_host_pixel
+        self._session.call(call, to_i32(x), to_i32(y), ctypes.byref(color))
+        return color.value
+
+    def image(self) -> Tuple[int, int, bytes]:
+        """Width, height, and the pixels: red, green, blue and opacity, a byte each."""
+        width, height = ctypes.c_int32(), ctypes.c_int32()
+        call = library.vornix_host_image_size
+        self._session.call(call, ctypes.byref(width), ctypes.byref(height))
+        pixels = ctypes.create_string_buffer(width.value * height.value * 4)
+        self._session.call(library.vornix_host_image, pixels, len(pixels))
+        return width.value, height.value, pixels.raw
+
+    def save_png(self, path: PathLike) -> None:
+        """Writes the picture to a PNG file. Error 75 where it cannot be written."""
+        self._session.call(library.vornix_host_save_png, path_bytes(path))
+
+    def __reduce_ex__(self, protocol: Any) -> Any:
+        raise TypeError("a Host cannot be copied or pickled")
+
+    def __repr__(self) -> str:
+        state = " of a closed grid" if self._session.has_ended else ""
+        return f"<vornix.host.Host{state}>"
+
+
+class Child:
+    """A child window of the control."""
+
+    __slots__ = ("_session", "_name")
+
+    def __init__(self, session: Session, name: str) -> None:
+        self._session = session
+        self._name = name
+
+    def _info(self) -> _library.ChildInfo:
+        info = _library.ChildInfo()
+        self._session.call(library.vornix_host_child, to_name(self._name), ctypes.byref(info))
+        return info
+
+    @property
+    def visible(self) -> bool:
+        """Whether the window shows."""
+        return bool(self._info().visible)
+
+    @property
+    def enabled(self) -> bool:
+        """Whether the window takes input."""
+        return bool(self._info().enabled)
+
+    @property
+    def left(self) -> int:
+        """The left edge in pixels of the client area."""
+        return int(self._info().left)
+
+    @property
+    def top(self) -> int:
+        """The upper edge in pixels of the client area."""
+        return int(self._info().top)
+
+    @property
+    def width(self) -> int:
+        """The width in pixels."""
+        return int(self._info().width)
+
+    @property
+    def height(self) -> int:
+        """The height in pixels."""
+        return int(self._info().height)
+
+    # What editors and bars have besides. None of it is built yet: error 445.
+
+    def _not_built(self, what: str) -> NoReturn:
+        self._session.require_open()
+        _not_built(f"{what} of {self._name}")
+
+    @property
+    def text(self) -> str:
+        """The text of an editor."""
+        self._not_built("The text")
+
+    @text.setter
+    def text(self, value: str) -> None:
+        self._not_built("The text")
+
+    @property
+    def sel_start(self) -> int:
+        """Where the selected text of an editor begins."""
+        self._not_built("The selected text")
+
+    @sel_start.setter
+    def sel_start(self, value: int) -> None:
+        self._not_built("The selected text")
+
+    @property
+    def sel_length(self) -> int:
+        """How long the selected text of an editor is."""
+        self._not_built("The selected text")
+
+    @sel_length.setter
+    def sel_length(self, value: int) -> None:
+        self._not_built("The selected text")
+
+    def key_down(self, code: int, shift: int = 0) -> int:
+        """A key goes down in an editor."""
+        self._not_built("The keyboard")
+
+    def key_press(self, char: Union[str, int]) -> int:
+        """A character is typed into an editor."""
+        self._not_built("The keyboard")
+
+    def key_up(self, code: int, shift: int = 0) -> int:
+        """A key goes up in an editor."""
+        self._not_built("The keyboard")
+
+    @property
+    def items(self) -> Sequence[str]:
+        """The items of a combo box."""
+        self._not_built("The list")
+
+    @property
+    def list_index(self) -> int:
+        """The item of a combo box that is selected; -1 for none."""
+        self._not_built("The list")
+
+    def click_item(self, index: int) -> None:
+        """Clicks an item of a combo box."""
+        self._not_built("The list")
+
+    @property
+    def min(self) -> int:
+        """The lowest position of a bar."""
+        self._not_built("The range")
+
+    @property
+    def max(self) -> int:
+        """The highest position of a bar."""
+        self._not_built("The range")
+
+    @property
+    def value(self) -> int:
+        """The position of a bar."""
+        self._not_built("The position")
+
+    def notify(self, code: int, track_pos: Optional[int] = None) -> None:
+        """The platform reports what was done to a bar: one of the SB_ codes, 0 to 8."""
+        self._not_built("The bar")
+
+    def __repr__(self) -> str:
+        try:
+            info = self._info()
+        except AutomationError:
+            return f"<vornix.host.Child {self._name!r} of a closed grid>"
+        state = "visible" if info.visible else "hidden"
+        place = f"{info.width} x {info.height} at {info.left}, {info.top}"
+        return f"<vornix.host.Child {self._name!r}: {place}, {state}>"
+
+
+def _name_of(name: ctypes.c_char_p) -> str:
+    return name.value.decode("utf-8") if name.value else ""
+
+
+def _character_code(char: Union[str, int]) -> int:
+    if not isinstance(char, str):
+        return to_i16(char)
+    if len(char) != 1:
+        raise AutomationError(INVALID_ARGUMENT, f"{char!r} is not one character")
+    return to_i16(ord(char))

@@ -348,6 +348,18 @@ private:
     std::optional<int> secondOfDay_;
 };
 
+// Not std::localtime, whose result all threads share.
+std::tm LocalTime(std::time_t time)
+{
+    std::tm local {};
+#ifdef _WIN32
+    localtime_s(&local, &time);
+#else
+    localtime_r(&time, &local);
+#endif
+    return local;
+}
+
 } // namespace
 
 std::optional<double> ParseDate(std::u16string_view text, const Locale& locale, std::optional<int> currentYear)
@@ -357,9 +369,7 @@ std::optional<double> ParseDate(std::u16string_view text, const Locale& locale, 
 
 int CurrentYear()
 {
-    const std::time_t now = std::time(nullptr);
-    const std::tm* local = std::localtime(&now);
-    return local->tm_year + 1900;
+    return LocalTime(std::time(nullptr)).tm_year + 1900;
 }
 
 } // namespace vornix

@@ -25,6 +25,7 @@ void Vornix::LoadFromArray(const VariantArray& Arr, bool IsNullTest)
     }
     const NullElements nulls = IsNullTest ? NullElements::Skip : NullElements::Convert;
     WriteArray(store, Arr, shape, first, nulls, control->container.GetLocale());
+    // A repaint alone: the counts were laid out behind the closed gate, so the bars follow at the next layout.
     control->funnel.RepaintUnderGate();
 }
 

@@ -134,9 +134,9 @@ def _set_values(pointer: Any, place: int, column: Sequence[Any]) -> None:
     from ._values import put
 
     slots = (_library.Value * len(column))()
-    for slot, value in zip(slots, column):
-        put(slot, value)
+    kept = [put(slot, value) for slot, value in zip(slots, column)]
     check(library.vornix_array_set_values(pointer, place, slots, len(column)))
+    kept.clear()
 
 
 _none: type = type(None)

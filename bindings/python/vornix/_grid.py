@@ -5,8 +5,9 @@ from typing import Any, Dict, List, Mapping, NoReturn, Optional
 
 from . import _library
 from ._checks import to_i16, to_i32, to_name
-from ._errors import INVALID_ARGUMENT, NOT_SUPPORTED, AutomationError
+from ._errors import INVALID_ARGUMENT, NOT_SUPPORTED, TYPE_MISMATCH, AutomationError
 from ._members import GridMembers
+from ._objects import Font, Picture
 from ._session import CALL, GET, LET, Session
 from ._values import put
 from .events import EVENTS, GridEvents
@@ -17,9 +18,15 @@ __all__ = ["Grid", "ScrollBar", "TextBox"]
 _KINDS = {"get": GET, "let": LET, "call": CALL}
 
 
+_BAG_KINDS = (bool, int, str, Font, Picture, type(None))
+
+
 def _make_bag(bag: Mapping[str, Any]) -> "ctypes.Array[_library.BagEntry]":
     made = (_library.BagEntry * len(bag))()
     for entry, (name, value) in zip(made, bag.items()):
+        if not isinstance(value, _BAG_KINDS):
+            kind = type(value).__name__
+            raise AutomationError(TYPE_MISMATCH, f"{name} in the bag cannot be of type {kind}")
         entry.name = to_name(name)
         put(entry.value, value)
     return made

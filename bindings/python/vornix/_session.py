@@ -146,8 +146,7 @@ class Session:
         member = _members[name]
         length = len(arguments)
         slots = (Value * length)()
-        for place in range(length):
-            put(slots[place], arguments[place])
+        kept = [put(slots[place], arguments[place]) for place in range(length)]
         result = Value()
         try:
             self.call(
@@ -161,6 +160,8 @@ class Session:
         except BaseException:
             library.vornix_value_clear(ctypes.byref(result))
             raise
+        finally:
+            kept.clear()
         if kind == LET:
             return None
         return _returned(member, member.references, slots, result)
@@ -178,8 +179,7 @@ class Session:
                 values.append(_STARTS.get(argument.type, 0))
                 names.append(argument.name)
         slots = (Value * len(values))()
-        for place, value in enumerate(values):
-            put(slots[place], value)
+        kept = [put(slots[place], value) for place, value in enumerate(values)]
         result = Value()
         self.call(
             library.vornix_invoke_named,
@@ -191,6 +191,7 @@ class Session:
             len(names),
             ctypes.byref(result),
         )
+        kept.clear()
         lowered = [argument.name.decode().lower() for argument in member.arguments]
         order = [*lowered[: len(positional)], *(key.decode().lower() for key in names)]
         places = tuple(order.index(lowered[place]) for place in member.references)

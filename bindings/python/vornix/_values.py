@@ -3,7 +3,7 @@
 import ctypes
 import decimal
 from datetime import date, datetime
-from typing import Any, Callable, Dict, Union
+from typing import Any, Callable, Dict, Optional, Tuple
 
 from . import _library
 from ._arrays import Array
@@ -67,7 +67,7 @@ def _put_decimal(slot: Value, value: decimal.Decimal) -> None:
     parts.negative = value.is_signed()
 
 
-def _decimal_parts(value: decimal.Decimal) -> "tuple[int, int]":
+def _decimal_parts(value: decimal.Decimal) -> Tuple[int, int]:
     """Coefficient and digits behind the point, rounded to what the interface holds."""
     if not value.is_finite():
         raise AutomationError(OVERFLOW, f"{value} is not a decimal number")
@@ -105,12 +105,14 @@ def _put_object(slot: Value, value: ForeignObject) -> None:
     slot.pointer = value._pointer
 
 
-def _put_array(slot: Value, value: Array) -> None:
+def _put_table(slot: Value, value: Any) -> Array:
+    array = Array(value)
     slot.type = _library.ARRAY
-    slot.pointer = value.pointer
+    slot.pointer = array.pointer
+    return array
 
 
-_PUT: Dict[type, Callable[[Value, Any], None]] = {
+_PUT: Dict[type, Callable[[Value, Any], Optional[Array]]] = {
     int: _put_int,
     str: _put_text,
     bool: _put_bool,
@@ -123,30 +125,32 @@ _PUT: Dict[type, Callable[[Value, Any], None]] = {
     Picture: _put_picture,
     Surface: _put_surface,
     ForeignObject: _put_object,
-    Array: _put_array,
+    list: _put_table,
+    tuple: _put_table,
 }
 
 
-def put(slot: Value, value: Any) -> None:
-    """Writes a value into an empty one of the library. It lives as long as the slot and the value."""
-    function = _PUT.get(type(value))
-    if function is not None:
-        function(slot, value)
-    else:
-        _put_other(slot, value)
+def put(slot: Value, value: Any) -> Optional[Array]:
+    """Writes a value into an empty one of the library.
+
+    It is good for as long as the slot, the value, and the array that is given back.
+    """
+    return _PUT.get(type(value), _put_other)(slot, value)
 
 
-def _put_other(slot: Value, value: Any) -> None:
+def _put_other(slot: Value, value: Any) -> Optional[Array]:
     for kind, function in _PUT.items():
         if isinstance(value, kind):
-            function(slot, value)
-            return
+            return function(slot, value)
+    if hasattr(value, "tolist") and hasattr(value, "__len__"):
+        return _put_table(slot, value)
     if hasattr(value, "__index__"):
         _put_int(slot, value.__index__())
     elif hasattr(value, "__float__"):
         _put_float(slot, float(value))
     else:
         raise AutomationError(TYPE_MISMATCH, f"A value of type {type(value).__name__} is none here")
+    return None
 
 
 def _take_decimal(value: Value) -> decimal.Decimal:
@@ -156,11 +160,11 @@ def _take_decimal(value: Value) -> decimal.Decimal:
     return decimal.Decimal(f"{sign}{digits}E-{parts.scale}")
 
 
-def _take_font(value: Value) -> "Union[Font, None]":
+def _take_font(value: Value) -> Optional[Font]:
     return Font._from_native(_taken(value)) if value.pointer else None
 
 
-def _take_picture(value: Value) -> "Union[Picture, None]":
+def _take_picture(value: Value) -> Optional[Picture]:
     return Picture._from_native(_taken(value)) if value.pointer else None
 
 
@@ -171,7 +175,7 @@ def _taken(value: Value) -> int:
     return pointer
 
 
-def _take_object(value: Value) -> "Union[ForeignObject, None]":
+def _take_object(value: Value) -> Optional[ForeignObject]:
     if not value.pointer:
         return None
     kept = Value()

@@ -47,6 +47,12 @@ def emit(interface: Interface) -> str:
         "    Derived& Self() { return static_cast<Derived&>(*this); }",
         "};",
         "",
+        "// Calls `visit` with the tag of every event and the function of VornixEvents, in order.",
+        "template <typename Visit> void ForEachEvent(Visit&& visit)",
+        "{",
+        *(f"    visit(EventTag<{event.number}>(), &VornixEvents::{event.name});" for event in events),
+        "}",
+        "",
         "} // namespace vornix",
     ]
     return cpp.source(lines)

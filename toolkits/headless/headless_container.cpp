@@ -91,7 +91,9 @@ HeadlessContainer::HeadlessContainer(const HeadlessOptions& options)
     MakeWindow(ClientSize());
     if (!window_)
         throw std::bad_alloc();
-    windows_ = std::make_unique<WindowStack>(*this, children_);
+    std::array<HeadlessChild*, ChildNames.size()> children {};
+    std::ranges::transform(children_, children.begin(), [](HeadlessChild& child) { return &child; });
+    windows_ = std::make_unique<WindowStack>(*this, children);
     person_ = std::make_unique<Person>(*this, *windows_);
     grid_ = std::make_unique<Vornix>(*this, log_);
     const MemoryBag emptyBag;

@@ -53,16 +53,15 @@ void ControlWindow::KeyUp(i16& code, i16& shift)
     host_.Grid().KeyUp(code, shift);
 }
 
-WindowStack::WindowStack(HeadlessContainer& host, std::span<HeadlessChild> children)
+WindowStack::WindowStack(HeadlessContainer& host, std::span<HeadlessChild* const> children)
     : host_(host)
     , control_(host)
+    , order_(children.begin(), children.end())
 {
-    const auto at = [&](ChildName name) { return &children[static_cast<std::size_t>(name)]; };
-    HeadlessChild* const frame = at(ChildName::fraEdit);
-    for (HeadlessChild& child : children) {
-        const bool isEditor = &child == at(ChildName::txtTmp) || &child == at(ChildName::cboTmp);
-        child.Attach(*this, isEditor ? frame : nullptr);
-        order_.push_back(&child);
+    const auto at = [&](ChildName name) { return children[static_cast<std::size_t>(name)]; };
+    for (HeadlessChild* const child : children) {
+        const bool isEditor = child == at(ChildName::txtTmp) || child == at(ChildName::cboTmp);
+        child->Attach(*this, isEditor ? at(ChildName::fraEdit) : nullptr);
     }
 }
 

@@ -3,7 +3,6 @@
 
 #include "vornix/headless_child.h"
 
-#include <array>
 #include <span>
 #include <vector>
 
@@ -35,7 +34,7 @@ private:
 class WindowStack : public ChildParent {
 public:
     // The children by their names in ChildName, the later above the earlier.
-    WindowStack(HeadlessContainer& host, std::span<HeadlessChild> children);
+    WindowStack(HeadlessContainer& host, std::span<HeadlessChild* const> children);
 
     InputWindow& TheControl() { return control_; }
     // Null outside the client area. What cannot be used lets through what lies below.

@@ -1,0 +1,187 @@
+#include "virtual_keys.h"
+
+#include "vornix/automation.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <map>
+#include <string>
+
+namespace vornix {
+namespace {
+
+const std::map<std::string, int> Named {
+    { "Back", 8 },
+    { "Backspace", 8 },
+    { "Tab", 9 },
+    { "Clear", 12 },
+    { "Return", 13 },
+    { "Enter", 13 },
+    { "Shift", 16 },
+    { "Control", 17 },
+    { "Ctrl", 17 },
+    { "Alt", 18 },
+    { "Menu", 18 },
+    { "Pause", 19 },
+    { "CapsLock", 20 },
+    { "Capital", 20 },
+    { "Escape", 27 },
+    { "Esc", 27 },
+    { "Space", 32 },
+    { "PageUp", 33 },
+    { "PageDown", 34 },
+    { "End", 35 },
+    { "Home", 36 },
+    { "Left", 37 },
+    { "Up", 38 },
+    { "Right", 39 },
+    { "Down", 40 },
+    { "PrintScreen", 44 },
+    { "Snapshot", 44 },
+    { "Insert", 45 },
+    { "Ins", 45 },
+    { "Delete", 46 },
+    { "Del", 46 },
+    { "Help", 47 },
+    { "Apps", 93 },
+    { "NumpadMultiply", 106 },
+    { "Multiply", 106 },
+    { "NumpadAdd", 107 },
+    { "Add", 107 },
+    { "NumpadSeparator", 108 },
+    { "Separator", 108 },
+    { "NumpadSubtract", 109 },
+    { "Subtract", 109 },
+    { "NumpadDecimal", 110 },
+    { "Decimal", 110 },
+    { "NumpadDivide", 111 },
+    { "Divide", 111 },
+    { "NumLock", 144 },
+    { "ScrollLock", 145 },
+};
+
+std::string InCapitals(std::string text)
+{
+    for (char& character : text)
+        character = static_cast<char>(std::toupper(static_cast<unsigned char>(character)));
+    return text;
+}
+
+TEST(VirtualKeys, HaveNamesInAnyCase)
+{
+    for (const auto& [name, code] : Named) {
+        EXPECT_EQ(CodeOfKey(name), code) << name;
+        EXPECT_EQ(CodeOfKey(InCapitals(name)), code) << name;
+    }
+}
+
+TEST(VirtualKeys, OfFunctionAndNumberPadCountOn)
+{
+    for (int number = 1; number <= 24; ++number) {
+        EXPECT_EQ(CodeOfKey("F" + std::to_string(number)), 111 + number);
+        EXPECT_EQ(CodeOfKey("f" + std::to_string(number)), 111 + number);
+    }
+    for (int number = 0; number <= 9; ++number)
+        EXPECT_EQ(CodeOfKey("numPAD" + std::to_string(number)), 96 + number);
+}
+
+TEST(VirtualKeys, OfLettersAndDigitsAreTheirCharacters)
+{
+    for (char letter = 'A'; letter <= 'Z'; ++letter) {
+        EXPECT_EQ(CodeOfKey(std::string(1, letter)), letter);
+        EXPECT_EQ(CodeOfKey(std::string(1, static_cast<char>(letter - 'A' + 'a'))), letter);
+    }
+    for (char digit = '0'; digit <= '9'; ++digit)
+        EXPECT_EQ(CodeOfKey(std::string(1, digit)), digit);
+}
+
+TEST(VirtualKeys, OfSignsGoByTheLowerOne)
+{
+    const std::string signs = ";=,-./`[\\]'";
+    const int codes[] = { 186, 187, 188, 189, 190, 191, 192, 219, 220, 221, 222 };
+    for (std::size_t i = 0; i < signs.size(); ++i)
+        EXPECT_EQ(CodeOfKey(signs.substr(i, 1)), codes[i]) << signs[i];
+}
+
+TEST(VirtualKeys, UnknownNamesAreAnErrorThatListsTheKnownOnes)
+{
+    for (const char* name : { "", "Lef", "Leftt", "F0", "F25", "F01", "F1x", "Numpad", "Numpad10", "ab", "!", ":", " ",
+             "\xC3\xA9", " Left" }) {
+        try {
+            CodeOfKey(name);
+            FAIL() << name;
+        } catch (const AutomationError& error) {
+            EXPECT_EQ(error.Number(), 5);
+            EXPECT_THAT(error.Description(), testing::HasSubstr('"' + std::string(name) + '"'));
+            for (const char* known :
+                { "Back, ", "Return, ", "PageDown, ", "Escape, ", "F1 to F24", "Numpad0 to Numpad9" })
+                EXPECT_THAT(error.Description(), testing::HasSubstr(known));
+        }
+    }
+}
+
+TEST(VirtualKeys, GiveTheCharactersOfTheKeyboard)
+{
+    const std::u16string plain = u"abcxyz0123456789;=,-./`[\\]' ";
+    const std::u16string upper = u"ABCXYZ)!@#$%^&*(:+<_>?~{|}\" ";
+    for (std::size_t i = 0; i < plain.size(); ++i) {
+        const KeyStroke stroke = StrokeFor(plain[i]);
+        EXPECT_EQ(stroke.shift, 0) << i;
+        EXPECT_EQ(stroke.character, static_cast<i16>(plain[i])) << i;
+        EXPECT_EQ(StrokeOf(stroke.code, ShiftDown).character, static_cast<i16>(upper[i])) << i;
+        const KeyStroke shifted = StrokeFor(upper[i]);
+        EXPECT_EQ(shifted.code, stroke.code) << i;
+        EXPECT_EQ(shifted.shift, upper[i] == u' ' ? 0 : ShiftDown) << i;
+    }
+}
+
+TEST(VirtualKeys, OfTheNumberPadGiveDigitsAndSigns)
+{
+    for (int i = 0; i < 16; ++i) {
+        const auto character = StrokeOf(static_cast<i16>(96 + i), 0).character;
+        if (i == 12)
+            EXPECT_EQ(character, std::nullopt);
+        else
+            EXPECT_EQ(character, static_cast<i16>(u"0123456789*+ -./"[i])) << i;
+    }
+    EXPECT_EQ(StrokeOf(112, 0).character, std::nullopt);
+}
+
+TEST(VirtualKeys, ThatAreNoCharactersGiveNone)
+{
+    for (const char* name : { "Clear", "Shift", "Control", "Alt", "Pause", "CapsLock", "PageUp", "PageDown", "End",
+             "Home", "Left", "Up", "Right", "Down", "PrintScreen", "Insert", "Delete", "Help", "Apps", "NumLock",
+             "ScrollLock", "F1", "F2", "F24" }) {
+        for (const i16 shift : std::initializer_list<i16> { 0, 1, 2, 3, 4 })
+            EXPECT_EQ(StrokeOf(CodeOfKey(name), shift).character, std::nullopt) << name << ' ' << shift;
+    }
+}
+
+TEST(VirtualKeys, WithCtrlGiveControlCharacters)
+{
+    for (i16 letter = 'A'; letter <= 'Z'; ++letter) {
+        EXPECT_EQ(StrokeOf(letter, CtrlDown).character, letter - 'A' + 1);
+        EXPECT_EQ(StrokeOf(letter, CtrlDown | ShiftDown).character, letter - 'A' + 1);
+        EXPECT_EQ(StrokeOf(letter, CtrlDown | AltDown).character, std::nullopt);
+    }
+    EXPECT_EQ(StrokeOf(13, CtrlDown).character, 10);
+    EXPECT_EQ(StrokeOf(8, CtrlDown).character, 127);
+    EXPECT_EQ(StrokeOf(27, CtrlDown).character, 27);
+    EXPECT_EQ(StrokeOf(32, CtrlDown).character, 32);
+    EXPECT_EQ(StrokeOf(9, CtrlDown).character, std::nullopt);
+    EXPECT_EQ(StrokeOf('1', CtrlDown).character, std::nullopt);
+}
+
+TEST(VirtualKeys, EveryUnitCanBeTyped)
+{
+    for (int unit = 0; unit <= 0xFFFF; ++unit) {
+        const KeyStroke stroke = StrokeFor(static_cast<char16_t>(unit));
+        ASSERT_GE(stroke.code, 1) << unit;
+        ASSERT_LE(stroke.code, 254) << unit;
+        ASSERT_EQ(stroke.character, static_cast<i16>(unit == 10 ? 13 : unit)) << unit;
+    }
+}
+
+} // namespace
+} // namespace vornix

@@ -52,8 +52,6 @@ TEST_F(LateBinding, AMemberOfAnotherTableIsError438)
     std::vector<Variant> arguments;
     EXPECT_EQ(ErrorOf([&] { Grid().Invoke(copy, InvokeKind::Get, arguments); }), 438);
     EXPECT_EQ(Grid().Invoke(*FindMember("Rows"), InvokeKind::Get, arguments), Variant(i16 { 3 }));
-    const MemberInfo* behindTheLast = Members().data() + Members().size();
-    EXPECT_EQ(ErrorOf([&] { Grid().Invoke(*behindTheLast, InvokeKind::Get, arguments); }), 438);
 }
 
 TEST_F(LateBinding, AKindThatTheMemberDoesNotHaveIsError438)

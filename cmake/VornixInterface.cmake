@@ -32,3 +32,9 @@ endforeach()
 vornix_generate(c_constants OUTPUT ${vornix_generated_include}/vornix/vornix_constants.h)
 list(APPEND vornix_generated_headers ${vornix_generated_include}/vornix/vornix_constants.h)
 add_custom_target(vornix_interface_headers ALL DEPENDS ${vornix_generated_headers})
+
+# The reference pages, one a family.
+set(vornix_reference ${PROJECT_BINARY_DIR}/docs/reference)
+vornix_generate(reference_pages FOLDER ${vornix_reference} OUTPUT ${vornix_reference}/index.md)
+add_custom_target(vornix_reference_pages ALL DEPENDS ${vornix_reference}/index.md)
+install(DIRECTORY ${vornix_reference} DESTINATION ${CMAKE_INSTALL_DOCDIR})

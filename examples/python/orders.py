@@ -10,18 +10,16 @@ from typing import List
 
 import vornix
 
-ORDERS = [
-    ["Berlin", "Lyon", "Lyon", "Porto", "Turin"],
-    [date(2024, 3, 1), date(2024, 3, 4), date(2024, 3, 4), date(2024, 3, 9), date(2024, 3, 11)],
-    [1250.5, 310.0, 99.95, 4020.0, 87.4],
-]
+CITIES = ["Berlin", "Lyon", "Lyon", "Porto", "Turin"]
+DATES = [date(2024, 3, day) for day in (1, 4, 4, 9, 11)]
+TOTALS = [1250.5, 310.0, 99.95, 4020.0, 87.4]
 
 
 def main() -> None:
     grid = vornix.Grid(420, 150)
     grid.FixedRows = 1
     grid.Rows = 0
-    grid.LoadFromArray(ORDERS)
+    grid.LoadFromArray([CITIES, DATES, TOTALS])
 
     for col, name in enumerate(("City", "Date", "Total")):
         grid.ColName[col] = name
@@ -29,8 +27,8 @@ def main() -> None:
     grid.ColFormat[2] = "#,##0.00"
     grid.ColTextAlign[2] = vornix.vxTxtRight | vornix.vxTxtVCenter
     grid.RowFont[-1] = vornix.Font(Name="DejaVu Sans", Size=9, Bold=True)
-    for row, total in enumerate(ORDERS[2]):
-        if isinstance(total, float) and total > 1000:
+    for row, total in enumerate(TOTALS):
+        if total > 1000:
             grid.CellBackColor[row, 2] = 0x00C0FFC0
     grid.SpanRows(0)
 

@@ -159,13 +159,11 @@ def finished(lines: List[str]) -> str:
 
 
 def constants(interface: Interface, stub: bool) -> str:
-    lines = [HEAD]
+    lines = [HEAD, ""] if stub else ['"""The constants of the interface."""', HEAD, ""]
     if stub:
-        lines += ["from typing import Final, List", "", "__all__: List[str]"]
-    else:
-        lines[0:0] = ['"""The constants of the interface."""']
-        names = [name for enum in interface.enums for name, _ in enum.values]
-        lines += ["", "__all__ = [", *(f'    "{name}",' for name in names), "]"]
+        lines += ["from typing import Final", ""]
+    names = [name for enum in interface.enums for name, _ in enum.values]
+    lines += ["__all__ = [", *(f'    "{name}",' for name in names), "]"]
     for enum in interface.enums:
         lines += ["", f"# {enum.name}: {enum.sentence}"]
         final = ": Final" if stub else ""
@@ -369,10 +367,12 @@ def events_module(interface: Interface) -> str:
     lines = [
         '"""The events of the grid: what their handlers get, by the names of the events."""',
         HEAD,
-        "from typing import Any, Dict, Sequence, Tuple, Type",
+        "from typing import Any, Dict, Literal, Sequence, Tuple, Type",
         "",
         "from ._event import Event",
         "from ._session import Session",
+        "",
+        *event_names(events),
     ]
     for event in events:
         lines += ["", "", *event_class(interface, event)]
@@ -381,6 +381,10 @@ def events_module(interface: Interface) -> str:
     lines += [*(f"    {event.name}," for event in events), ")"]
     lines += ["", "", *registration()]
     return finished(lines)
+
+
+def event_names(events: List[Event]) -> List[str]:
+    return ["EventName = Literal[", *(f'    "{event.name}",' for event in events), "]"]
 
 
 def event_class(interface: Interface, event: Event) -> List[str]:
@@ -474,9 +478,7 @@ def events_stub(interface: Interface) -> str:
         "_Handler = Callable[[_E], object]",
         "_Decorator = Callable[[_Handler[_E]], _Handler[_E]]",
         "",
-        "_EventName = Literal[",
-        *(f'    "{event.name}",' for event in events),
-        "]",
+        *event_names(events),
     ]
     for event in events:
         lines += ["", *event_stub(interface, event)]
@@ -488,7 +490,7 @@ def events_stub(interface: Interface) -> str:
         lines += ["    @overload"]
         decorator = f"_Decorator[{event.name}]"
         lines += signature(4, "def on", ["self", name, "handler: None = None"], decorator, stub=True)
-    any_name = ["self", "name: _EventName", "handler: _Handler[Event]"]
+    any_name = ["self", "name: EventName", "handler: _Handler[Event]"]
     lines += ["    @overload", *signature(4, "def on", any_name, "None", stub=True)]
     any_name[-1] = "handler: Callable[[Any], object]"
     lines += signature(4, "def off", any_name, "None", stub=True)

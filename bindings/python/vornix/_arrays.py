@@ -29,10 +29,10 @@ class Array:
     __slots__ = ("pointer",)
 
     def __init__(self, columns: Any) -> None:
+        self.pointer: Optional[int] = None
         table = _to_table(columns)
         records = len(table[0]) if table else 0
         pointer = ctypes.c_void_p()
-        self.pointer: Optional[int] = None
         check(library.vornix_array_create(len(table), records, ctypes.byref(pointer)))
         self.pointer = pointer.value
         if records:

@@ -22,6 +22,7 @@ _BAG_KINDS = (bool, int, str, Font, Picture, type(None))
 
 
 def _make_bag(bag: Mapping[str, Any]) -> "ctypes.Array[_library.BagEntry]":
+    """What a control was saved with; None is no picture."""
     made = (_library.BagEntry * len(bag))()
     for entry, (name, value) in zip(made, bag.items()):
         if not isinstance(value, _BAG_KINDS):
@@ -29,6 +30,8 @@ def _make_bag(bag: Mapping[str, Any]) -> "ctypes.Array[_library.BagEntry]":
             raise AutomationError(TYPE_MISMATCH, f"{name} in the bag cannot be of type {kind}")
         entry.name = to_name(name)
         put(entry.value, value)
+        if value is None:
+            entry.value.type = _library.PICTURE
     return made
 
 
@@ -143,7 +146,7 @@ class Grid(GridMembers, GridEvents):
         if not session.is_here:
             return "<vornix.Grid of another thread>"
         try:
-            return f"<vornix.Grid {self.Rows} rows x {self.Cols} columns>"
+            return f"<vornix.Grid Rows={self.Rows} Cols={self.Cols}>"
         except AutomationError:
             return "<vornix.Grid closed>"
 

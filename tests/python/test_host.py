@@ -1,0 +1,261 @@
+"""The container without a screen."""
+
+import os
+import struct
+import tempfile
+import unittest
+import zlib
+from pathlib import Path
+from typing import Tuple
+
+import vornix
+from support import GridTest
+
+
+def png_size(data: bytes) -> Tuple[int, int]:
+    """Width and height of a PNG file, whose first piece must be whole."""
+    assert data[:8] == b"\x89PNG\r\n\x1a\n"
+    assert zlib.crc32(data[12:29]) == struct.unpack(">I", data[29:33])[0]
+    width, height = struct.unpack(">II", data[16:24])
+    return width, height
+
+
+class TestForm(GridTest):
+    def test_the_user_mode(self) -> None:
+        self.assertIs(self.g.host.user_mode, True)
+        self.g.host.user_mode = False
+        self.assertIs(self.g.host.user_mode, False)
+        with vornix.Grid(100, 100, design=True) as designed:
+            self.assertIs(designed.host.user_mode, False)
+
+    def test_a_resize(self) -> None:
+        self.g.host.resize(200, 100)
+        self.assertEqual(self.g.host.image()[:2], (200, 100))
+        self.assertEqual(self.g.host.pixel(199, 99), self.g.host.pixel(199, 98))
+        self.assertEqual(self.g.host.pixel(200, 0), 0xFFFFFFFF)
+
+    def test_a_size_beyond_32_bits_is_error_6(self) -> None:
+        self.fails(6, self.g.host.resize, 2**31, 10)
+        self.fails(6, vornix.Grid, 2**31, 10)
+
+    def test_a_window_of_no_size_is_error_5(self) -> None:
+        for size in ((0, 10), (10, 0), (-1, 10)):
+            self.fails(5, vornix.Grid, *size)
+
+    def test_the_lifecycle(self) -> None:
+        for call in (
+            self.g.host.hide,
+            self.g.host.show,
+            self.g.host.paint,
+            self.g.host.enter_focus,
+            self.g.host.exit_focus,
+        ):
+            self.assertIsNone(call())
+
+    def test_a_scale(self) -> None:
+        with vornix.Grid(100, 50, scale=1.5) as g:
+            self.assertEqual(g.host.image()[:2], (150, 75))
+
+
+class TestBag(GridTest):
+    def test_a_loaded_control_has_what_the_bag_holds(self) -> None:
+        font = vornix.Font(Name="DejaVu Serif", Size=12)
+        picture = vornix.Picture.from_rgba(1, 1, b"\xff\x00\x00\xff")
+        bag = {"Cols": 5, "Rows": 7, "Redraw": False, "Font": font, "Picture": picture}
+        with vornix.Grid(100, 100, bag=bag) as g:
+            self.assertEqual((g.Cols, g.Rows, g.Redraw), (5, 7, False))
+            self.assertEqual(g.Font, font)
+            self.assertEqual(g.Picture, picture)
+
+    def test_no_picture(self) -> None:
+        with vornix.Grid(100, 100, bag={"Picture": None}) as g:
+            self.assertIsNone(g.Picture)
+
+    def test_a_new_control_differs_from_one_with_an_empty_bag(self) -> None:
+        with vornix.Grid(100, 100, design=True) as new:
+            self.assertEqual((new.Rows, new.Cols), (1, 1))
+        with vornix.Grid(100, 100, design=True, bag={"Rows": 3}) as loaded:
+            self.assertEqual(loaded.Rows, 3)
+
+    def test_values_that_do_not_fit(self) -> None:
+        self.fails(6, vornix.Grid, 100, 100, bag={"Rows": 40000})
+        self.fails(13, vornix.Grid, 100, 100, bag={"Rows": "x"})
+        self.fails(13, vornix.Grid, 100, 100, bag={"Rows": 1.5})
+        self.fails(13, vornix.Grid, 100, 100, bag={"Rows": [1]})
+
+    def test_saving_is_not_built_yet(self) -> None:
+        self.fails(445, self.g.host.save)
+
+
+class TestSettings(unittest.TestCase):
+    def test_the_store_is_the_dict_that_was_given(self) -> None:
+        store = {("app", "section", "key"): "text", ("ä", "", "\U0001f600"): ""}
+        kept = dict(store)
+        with vornix.Grid(100, 100, settings=store) as g:
+            self.assertEqual(g.host.settings, kept)
+            self.assertIs(g.host.settings, store)
+        with vornix.Grid(100, 100) as g:
+            self.assertEqual(g.host.settings, {})
+
+
+class TestPointer(GridTest):
+    def test_single_notifications_imply_nothing(self) -> None:
+        self.g.host.mouse_move(10.5, 11)
+        self.g.host.mouse_down(10, 11)
+        self.g.host.mouse_up(10, 11, 2, 3)
+        self.g.host.click()
+        self.g.host.dbl_click()
+        log = [entry for entry in self.g.host.log if entry[0].startswith("Mouse")]
+        self.assertEqual(
+            log,
+            [
+                ("MouseMove", {"Button": 0, "Shift": 0, "x": 10.5, "y": 11.0}),
+                ("MouseDown", {"Button": 1, "Shift": 0, "x": 10.0, "y": 11.0}),
+                ("MouseUp", {"Button": 2, "Shift": 3, "x": 10.0, "y": 11.0}),
+            ],
+        )
+        names = [name for name, _ in self.g.host.log]
+        self.assertEqual([names.count("Click"), names.count("DblClick")], [1, 1])
+
+    def test_a_click_of_a_person_is_press_release_and_click(self) -> None:
+        self.g.host.click_at(60, 40)
+        names = [name for name, _ in self.g.host.log]
+        expected = ["MouseDown", "MouseUp", "Click"]
+        self.assertEqual([name for name in names if name in expected], expected)
+
+    def test_a_double_click_of_a_person(self) -> None:
+        self.g.host.dbl_click_at(60, 40)
+        names = [name for name, _ in self.g.host.log]
+        self.assertEqual(names.count("DblClick"), 1)
+
+    def test_a_drag_presses_moves_and_lets_go(self) -> None:
+        self.g.host.drag(60, 40, 100, 80, steps=4)
+        moves = [arguments for name, arguments in self.g.host.log if name == "MouseMove"]
+        self.assertEqual((moves[-1]["x"], moves[-1]["y"]), (100, 80))
+        self.assertEqual(sum(move["Button"] == 1 for move in moves), 4)
+
+    def test_what_the_control_does_not_answer_yet_is_error_445(self) -> None:
+        self.fails(445, self.g.host.wheel, 120)
+        self.fails(445, self.g.host.tick)
+
+    def test_numbers_that_do_not_fit(self) -> None:
+        self.fails(6, self.g.host.mouse_down, 1, 1, 40000)
+        self.fails(13, self.g.host.mouse_down, "x", 1)
+        self.fails(6, self.g.host.wheel, 2**31)
+
+
+class TestKeyboard(GridTest):
+    def test_codes_come_back(self) -> None:
+        self.assertEqual(self.g.host.key_down(37, 1), 37)
+        self.assertEqual(self.g.host.key_up(37), 37)
+        self.assertEqual(self.g.host.key_press("a"), 97)
+        self.assertEqual(self.g.host.key_press(98), 98)
+        self.assertEqual(
+            self.g.host.log,
+            [
+                ("KeyDown", {"KeyCode": 37, "Shift": 1}),
+                ("KeyUp", {"KeyCode": 37, "Shift": 0}),
+                ("KeyPress", {"KeyAscii": 97}),
+                ("KeyPress", {"KeyAscii": 98}),
+            ],
+        )
+
+    def test_a_character_is_one(self) -> None:
+        self.fails(5, self.g.host.key_press, "ab")
+        self.fails(6, self.g.host.key_press, "\U0001f600")
+
+    def test_what_a_person_types(self) -> None:
+        self.g.host.type("ab")
+        names = [name for name, _ in self.g.host.log]
+        self.assertEqual(names, ["KeyDown", "KeyPress", "KeyUp"] * 2)
+
+    def test_keys_by_name_and_code(self) -> None:
+        self.g.host.press("Left", 2)
+        self.g.host.press(37)
+        codes = [entry[1] for entry in self.g.host.log if entry[0] == "KeyDown"]
+        self.assertEqual(codes, [{"KeyCode": 37, "Shift": 2}, {"KeyCode": 37, "Shift": 0}])
+        self.fails(5, self.g.host.press, "NoSuchKey")
+
+
+class TestChildren(GridTest):
+    def test_every_child_has_a_place(self) -> None:
+        for name in "scrV scrH txtTmp cboTmp fraEdit cPivot picSplitCol picSplitMove".split():
+            child = self.g.host.child(name)
+            self.assertIs(child.visible, False)
+            self.assertIs(child.enabled, True)
+            for edge in (child.left, child.top, child.width, child.height):
+                self.assertIsInstance(edge, int)
+            self.assertIn(name, repr(child))
+
+    def test_other_names_are_error_5(self) -> None:
+        self.fails(5, self.g.host.child, "noSuchChild")
+
+    def test_what_is_not_built_yet_is_error_445(self) -> None:
+        child = self.g.host.child("txtTmp")
+        for use in (
+            lambda: child.text,
+            lambda: setattr(child, "text", "a"),
+            lambda: child.sel_start,
+            lambda: child.sel_length,
+            lambda: child.key_down(1),
+            lambda: child.key_press("a"),
+            lambda: child.key_up(1),
+            lambda: child.items,
+            lambda: child.list_index,
+            lambda: child.click_item(0),
+            lambda: child.min,
+            lambda: child.max,
+            lambda: child.value,
+            lambda: child.notify(0),
+        ):
+            self.fails(445, use)
+
+
+class TestRecords(GridTest):
+    def test_property_changes(self) -> None:
+        self.g.Rows = 9
+        self.g.BackColor = 1
+        self.assertEqual(self.g.host.property_changes, ["Rows", "BackColor"])
+        self.g.host.clear_log()
+        self.assertEqual(self.g.host.property_changes, [])
+
+    def test_paint_counters(self) -> None:
+        self.g.BackColor = 1
+        self.g.RefreshCell(0, 0)
+        self.assertEqual((self.g.host.repaints, self.g.host.refreshes), (1, 1))
+        self.g.host.clear_log()
+        self.assertEqual((self.g.host.repaints, self.g.host.refreshes), (0, 0))
+
+    def test_the_clipboard(self) -> None:
+        self.assertEqual(self.g.host.clipboard, "")
+        self.g.host.clipboard = "a\tb\r\n\U0001f600"
+        self.assertEqual(self.g.host.clipboard, "a\tb\r\n\U0001f600")
+        with self.raises(13):
+            self.g.host.clipboard = 3  # type: ignore[assignment]
+
+    def test_pointer_shape_and_boxes(self) -> None:
+        self.assertEqual(self.g.host.pointer_shape, "default")
+        self.assertEqual(self.g.host.message_boxes, [])
+
+
+class TestPicture(GridTest):
+    def test_pixels_and_image_agree(self) -> None:
+        self.g.CellBackColor[0, 0] = 0x00FF8040
+        width, height, pixels = self.g.host.image()
+        self.assertEqual((width, height, len(pixels)), (320, 240, 320 * 240 * 4))
+        x, y = 100, 30
+        place = (y * width + x) * 4
+        self.assertEqual(self.g.host.pixel(x, y), 0x00FF8040)
+        self.assertEqual(pixels[place : place + 4], b"\x40\x80\xff\xff")
+
+    def test_a_file(self) -> None:
+        with tempfile.TemporaryDirectory() as folder:
+            path = Path(folder) / "grid ä.png"
+            self.g.host.save_png(path)
+            self.assertEqual(png_size(path.read_bytes()), (320, 240))
+            self.g.host.save_png(os.fspath(path))
+            self.fails(75, self.g.host.save_png, Path(folder) / "none" / "grid.png")
+
+
+if __name__ == "__main__":
+    unittest.main()

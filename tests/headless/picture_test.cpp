@@ -122,6 +122,17 @@ TEST_F(PictureOfTheControl, HasItsLimits)
     EXPECT_EQ(ErrorOfSize(0, 32767), std::nullopt);
 }
 
+TEST_F(PictureOfTheControl, HasTheLimitThatItIsGiven)
+{
+    HeadlessOptions options { .width = 20, .height = 10, .scale = 2 };
+    options.mostPixels = 800;
+    Make(options);
+    EXPECT_EQ(ErrorOf([&] { host->Resize(21, 10); }), 5);
+    EXPECT_EQ(ErrorOf([&] { host->Resize(10, 20); }), std::nullopt);
+    options.mostPixels = 799;
+    EXPECT_EQ(ErrorOf([&] { HeadlessContainer { options }; }), 5);
+}
+
 TEST_F(PictureOfTheControl, HasScalesFromOneToFour)
 {
     for (const double scale : { 0.0, 0.99, -1.0, 4.01, 1e300, std::nan(""), std::numeric_limits<double>::infinity() })

@@ -15,7 +15,6 @@ constexpr int TwipsAPixel = 15;
 constexpr u32 ClientEdge = 512;
 constexpr u32 StaticEdge = 131072;
 constexpr int LongestSide = 32767;
-constexpr std::int64_t MostPixels = std::int64_t { 1 } << 26;
 
 constexpr std::array<std::string_view, 8> ChildNames {
     "scrV",
@@ -80,6 +79,7 @@ std::string_view NameOf(PointerShape shape)
 HeadlessContainer::HeadlessContainer(const HeadlessOptions& options)
     : size_ { options.width, options.height }
     , scale_(options.scale)
+    , mostPixels_(options.mostPixels)
     , userMode_(!options.design)
     , font_(MakeAmbientFont())
     , settings_(options.settings ? options.settings : std::make_shared<MemorySettings>())
@@ -123,8 +123,8 @@ void HeadlessContainer::CheckSize(Size size) const
     if (size.width < 0 || size.height < 0 || size.width > LongestSide || size.height > LongestSide)
         RaiseInvalid("The sides of a window are 0 to 32767 pixels");
     const Size device = RasterSurface::DeviceSize(size, scale_);
-    if (std::int64_t { device.width } * device.height > MostPixels)
-        RaiseInvalid("A window has no more than 67108864 device pixels");
+    if (std::int64_t { device.width } * device.height > mostPixels_)
+        RaiseInvalid("This window has no more than " + std::to_string(mostPixels_) + " device pixels");
 }
 
 void HeadlessContainer::RequireOpen() const

@@ -10,6 +10,7 @@
 #include "vornix/vornix.h"
 
 #include <array>
+#include <cstdint>
 #include <memory>
 #include <set>
 #include <string>
@@ -40,11 +41,10 @@ class Person;
 class WindowStack;
 
 struct HeadlessOptions {
-    // Of the window, border included; logical pixels. 0 to 32767 each, and no more than 2^26 device pixels in all (a
-    // quarter of a gigabyte; the control keeps a second picture as large). Error 5 for other sizes and scales.
+    // Of the window, border included; logical pixels. 0 to 32767 each; error 5 for others and beyond mostPixels.
     int width = 640;
     int height = 480;
-    // Device pixels a logical pixel, 1 to 4.
+    // Device pixels a logical pixel, 1 to 4; error 5 for others.
     double scale = 1.0;
     // Ambient UserMode false. Without a bag the control is a new one.
     bool design = false;
@@ -55,6 +55,9 @@ struct HeadlessOptions {
     // Where events go behind the log. May be null; must outlive the container.
     VornixEvents* events = nullptr;
     std::shared_ptr<MemorySettings> settings = nullptr;
+    // The most device pixels that the window may have, here and when it is resized: a quarter of a gigabyte. The control
+    // keeps a second picture as large.
+    std::int64_t mostPixels = std::int64_t { 1 } << 26;
 };
 
 // Screen 1920 by 1080 at 15 twips a pixel, ambient font DejaVu Sans 9 points, locale en-US, fixed system colours.
@@ -188,6 +191,7 @@ private:
 
     Size size_;
     double scale_;
+    std::int64_t mostPixels_;
     bool userMode_;
     FontPtr font_;
     SystemColors colors_;

@@ -154,8 +154,7 @@ void vornix_array_release(vornix_array* array)
     ReleaseHandle(array);
 }
 
-std::int32_t vornix_array_set(
-    vornix_array* array, std::size_t column, std::size_t record, const vornix_value* value)
+std::int32_t vornix_array_set(vornix_array* array, std::size_t column, std::size_t record, const vornix_value* value)
 {
     return Guarded([&] {
         Require(array);

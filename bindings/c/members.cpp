@@ -7,13 +7,13 @@
 #include <string>
 #include <vector>
 
-
 namespace vornix::c {
 
 namespace {
 
 // Numbers of the declared types are the same on both sides.
-static_assert(VORNIX_TYPE_NONE == static_cast<int>(ValueType::None) && VORNIX_TYPE_I16 == static_cast<int>(ValueType::I16)
+static_assert(VORNIX_TYPE_NONE == static_cast<int>(ValueType::None)
+    && VORNIX_TYPE_I16 == static_cast<int>(ValueType::I16)
     && VORNIX_TYPE_BOOLEAN == static_cast<int>(ValueType::Boolean)
     && VORNIX_TYPE_HDC == static_cast<int>(ValueType::DeviceHandle)
     && VORNIX_TYPE_ARRAY == static_cast<int>(ValueType::Array) && VORNIX_TYPE_ANY == static_cast<int>(ValueType::Any));
@@ -40,13 +40,11 @@ private:
     DescriptionTable()
     {
         for (const MemberInfo& member : vornix::Members())
-            members_.push_back(
-                { Name(member.name), static_cast<std::int32_t>(member.kind), static_cast<std::int32_t>(member.type),
-                    member.readPending, member.writePending, Name(member.description), Arguments(member.arguments),
-                    member.arguments.size() });
+            members_.push_back({ Name(member.name), static_cast<std::int32_t>(member.kind),
+                static_cast<std::int32_t>(member.type), member.readPending, member.writePending,
+                Name(member.description), Arguments(member.arguments), member.arguments.size() });
         for (const EventInfo& event : vornix::Events())
-            events_.push_back(
-                { Name(event.name), event.number, Arguments(event.arguments), event.arguments.size() });
+            events_.push_back({ Name(event.name), event.number, Arguments(event.arguments), event.arguments.size() });
     }
 
     const char* Name(std::string_view name) { return names_.emplace_back(name).c_str(); }

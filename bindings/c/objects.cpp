@@ -176,7 +176,7 @@ std::int32_t vornix_object_create(void* pointer, void (*release)(void* pointer),
         if (release != nullptr)
             made->object = ObjectPtr(pointer, release);
         else
-            made->object = ObjectPtr(pointer, [](void*) { });
+            made->object = ObjectPtr(pointer, [](void*) {});
         *object = made.release();
     });
 }

@@ -17,10 +17,10 @@ constexpr std::size_t LongestText = std::size_t { 1 } << 30;
 // The numbers of the two sides are the same, so that none has to be translated.
 static_assert(VORNIX_EMPTY == static_cast<int>(VariantType::Empty) && VORNIX_NULL == static_cast<int>(VariantType::Null)
     && VORNIX_I16 == static_cast<int>(VariantType::I16) && VORNIX_I64 == static_cast<int>(VariantType::I64)
-    && VORNIX_SINGLE == static_cast<int>(VariantType::Single) && VORNIX_DECIMAL == static_cast<int>(VariantType::Decimal)
-    && VORNIX_DATE == static_cast<int>(VariantType::Date) && VORNIX_TEXT == static_cast<int>(VariantType::Text)
-    && VORNIX_MISSING == static_cast<int>(VariantType::Missing) && VORNIX_FONT == static_cast<int>(VariantType::Font)
-    && VORNIX_ARRAY == static_cast<int>(VariantType::Array));
+    && VORNIX_SINGLE == static_cast<int>(VariantType::Single)
+    && VORNIX_DECIMAL == static_cast<int>(VariantType::Decimal) && VORNIX_DATE == static_cast<int>(VariantType::Date)
+    && VORNIX_TEXT == static_cast<int>(VariantType::Text) && VORNIX_MISSING == static_cast<int>(VariantType::Missing)
+    && VORNIX_FONT == static_cast<int>(VariantType::Font) && VORNIX_ARRAY == static_cast<int>(VariantType::Array));
 
 template <typename Integer> Integer Narrow(std::int64_t value)
 {

@@ -21,7 +21,6 @@ Variant ToVariant(const vornix_value& value);
 // With a copy of all it needs; to be given back with vornix_value_clear.
 vornix_value ToValue(const Variant& value);
 
-
 // Values that are given back unless the caller takes them: results in the making.
 template <std::size_t Capacity> class ValueList {
 public:

@@ -99,7 +99,8 @@ static void format(vornix_grid* grid)
     let_col(grid, "ColFormat", 1, text(u"#,##0.00"));
     let_col(grid, "ColMode", 2, integer(vxCheckBox));
     vornix_value column = integer(0);
-    check(vornix_invoke(grid, "SpanRows", VORNIX_CALL, &column, 1, NULL), "SpanRows"); /* equal cities become one cell */
+    check(
+        vornix_invoke(grid, "SpanRows", VORNIX_CALL, &column, 1, NULL), "SpanRows"); /* equal cities become one cell */
 }
 
 int main(int argc, char** argv)

@@ -54,27 +54,28 @@ typedef struct vornix_decimal {
 enum {
     VORNIX_EMPTY = 0,
     VORNIX_NULL = 1,
-    VORNIX_I16 = 2,      /* integer */
-    VORNIX_I32 = 3,      /* integer */
-    VORNIX_I64 = 4,      /* integer */
-    VORNIX_SINGLE = 5,   /* number */
-    VORNIX_DOUBLE = 6,   /* number */
+    VORNIX_I16 = 2, /* integer */
+    VORNIX_I32 = 3, /* integer */
+    VORNIX_I64 = 4, /* integer */
+    VORNIX_SINGLE = 5, /* number */
+    VORNIX_DOUBLE = 6, /* number */
     VORNIX_CURRENCY = 7, /* integer: ten-thousandths */
-    VORNIX_DECIMAL = 8,  /* decimal */
-    VORNIX_DATE = 9,     /* number: days since 30 December 1899 */
+    VORNIX_DECIMAL = 8, /* decimal */
+    VORNIX_DATE = 9, /* number: days since 30 December 1899 */
     VORNIX_BOOLEAN = 10, /* integer: -1 or 0; any other that is not 0 is taken for -1 */
-    VORNIX_TEXT = 11,    /* text */
+    VORNIX_TEXT = 11, /* text */
     VORNIX_MISSING = 12, /* an optional argument left out */
-    VORNIX_FONT = 13,    /* font; null is no font */
+    VORNIX_FONT = 13, /* font; null is no font */
     VORNIX_PICTURE = 14, /* picture; null is no picture */
-    VORNIX_OBJECT = 15,  /* object: passes through unseen */
-    VORNIX_ARRAY = 16    /* array */
+    VORNIX_OBJECT = 15, /* object: passes through unseen */
+    VORNIX_ARRAY = 16 /* array */
 };
 
 /* A value with its type. A value of zeros is empty. */
 typedef struct vornix_value {
     uint16_t type;
-    uint16_t owned; /* 1 in values that came out: vornix_value_clear gives back what they hold. 0 in the caller's own. */
+    uint16_t
+        owned; /* 1 in values that came out: vornix_value_clear gives back what they hold. 0 in the caller's own. */
     uint32_t reserved;
     union {
         int64_t integer;
@@ -179,9 +180,9 @@ typedef struct vornix_setting {
 
 typedef struct vornix_grid_options {
     size_t size; /* sizeof(vornix_grid_options) */
-    int32_t width;  /* of the window in logical pixels; 640 where 0 */
+    int32_t width; /* of the window in logical pixels; 640 where 0 */
     int32_t height; /* 480 where 0 */
-    double scale;   /* device pixels a logical pixel, 1 to 4; 1 where 0 */
+    double scale; /* device pixels a logical pixel, 1 to 4; 1 where 0 */
     int32_t design; /* the ambient UserMode is false; without a bag the control is a new one */
     int32_t hidden; /* not shown at the end */
     int32_t has_bag; /* what the control was saved with; at run time none is an empty one */
@@ -249,7 +250,7 @@ VORNIX_API int32_t vornix_array_set_values(
 
 typedef struct vornix_font_info {
     vornix_text name; /* coming out: valid while the font is */
-    double size;      /* points */
+    double size; /* points */
     int32_t bold;
     int32_t italic;
     int32_t underline;
@@ -264,8 +265,8 @@ VORNIX_API void vornix_font_release(vornix_font* font);
 
 typedef struct vornix_picture_info {
     int32_t handle; /* 0 for the empty picture */
-    int32_t type;   /* 0 none, 1 bitmap, 3 icon */
-    int32_t width;  /* HiMetric: hundredths of a millimetre */
+    int32_t type; /* 0 none, 1 bitmap, 3 icon */
+    int32_t width; /* HiMetric: hundredths of a millimetre */
     int32_t height;
     int32_t pixel_width;
     int32_t pixel_height;
@@ -332,8 +333,8 @@ VORNIX_API int32_t vornix_host_key_up(vornix_grid* grid, int16_t* code, int16_t 
  * has the focus. A key is a name ("Left", "F2", "Escape", "Delete", "Back", "Return", "Tab", ...). */
 VORNIX_API int32_t vornix_host_click_at(vornix_grid* grid, float x, float y, int16_t button, int16_t shift);
 VORNIX_API int32_t vornix_host_dbl_click_at(vornix_grid* grid, float x, float y, int16_t button, int16_t shift);
-VORNIX_API int32_t vornix_host_drag(vornix_grid* grid, float x1, float y1, float x2, float y2, int16_t button,
-    int16_t shift, int32_t steps);
+VORNIX_API int32_t vornix_host_drag(
+    vornix_grid* grid, float x1, float y1, float x2, float y2, int16_t button, int16_t shift, int32_t steps);
 VORNIX_API int32_t vornix_host_type(vornix_grid* grid, vornix_text text);
 VORNIX_API int32_t vornix_host_press(vornix_grid* grid, const char* key, int16_t shift);
 VORNIX_API int32_t vornix_host_press_code(vornix_grid* grid, int16_t code, int16_t shift);

@@ -90,6 +90,8 @@ class Grid(GridMembers, GridEvents):
 
     def close(self) -> None:
         """Ends the grid: everything of it raises error 5 from then on. A second time does nothing."""
+        if self._settings is not None and not self._session.has_ended:
+            self.host.settings
         self._session.end()
 
     def __enter__(self) -> "Grid":

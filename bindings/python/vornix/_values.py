@@ -7,6 +7,7 @@ from typing import Any, Callable, Dict, Optional, Tuple
 
 from . import _library
 from ._arrays import Array
+from ._checks import to_float
 from ._dates import from_days, to_days
 from ._errors import OVERFLOW, TYPE_MISMATCH, AutomationError
 from ._library import Value, library, text_of
@@ -147,7 +148,7 @@ def _put_other(slot: Value, value: Any) -> Optional[Array]:
     if hasattr(value, "__index__"):
         _put_int(slot, value.__index__())
     elif hasattr(value, "__float__"):
-        _put_float(slot, float(value))
+        _put_float(slot, to_float(value))
     else:
         raise AutomationError(TYPE_MISMATCH, f"A value of type {type(value).__name__} is none here")
     return None

@@ -274,7 +274,8 @@ class Host:
     @property
     def settings(self) -> Dict[SettingName, str]:
         """The settings store, text by (application, section, key). It is the dict that the grid was
-        made with, brought up to date; writing into it later does not reach the control."""
+        made with, brought up to date, as it is when the grid is closed; writing into it does not
+        reach the control."""
         length = ctypes.c_size_t()
         self._session.call(library.vornix_host_setting_count, ctypes.byref(length))
         stored = dict(self._setting(index) for index in range(length.value))

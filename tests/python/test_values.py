@@ -115,6 +115,21 @@ class TestValues(GridTest):
             self.assertEqual(self.g.Text[0, 0], text)
 
 
+class TestForeignObjects(GridTest):
+    def test_that_of_an_event_ends_with_it(self) -> None:
+        argument = _library.Value(type=_library.OBJECT)
+        argument.pointer = 0x1000
+        event = vornix.events.OLESetData([peek(argument), 1])
+        slot = _library.Value()
+        put(slot, event.Data)
+        self.assertEqual((slot.type, slot.pointer), (_library.OBJECT, 0x1000))
+        event._end()
+        self.fails(5, put, _library.Value(), event.Data)
+
+    def test_none_is_none(self) -> None:
+        self.assertIsNone(peek(_library.Value(type=_library.OBJECT)))
+
+
 class TestDates(unittest.TestCase):
     def test_days_count_from_30_december_1899(self) -> None:
         self.assertEqual(to_days(datetime(1899, 12, 30)), 0.0)

@@ -4,6 +4,7 @@ from typing import Any, Callable, Dict, List, Sequence, Tuple
 
 from ._checks import to_bool, to_i16, to_i32, to_i64, to_single
 from ._errors import INVALID_ARGUMENT, AutomationError
+from ._objects import ForeignObject
 
 _CONVERSIONS: Dict[str, Callable[[Any], Any]] = {
     "i16": to_i16,
@@ -37,6 +38,9 @@ class Event:
     def _end(self) -> List[Tuple[int, Any]]:
         """What was set. From here on nothing can be."""
         self._has_ended = True
+        for value in self._values:
+            if isinstance(value, ForeignObject):
+                value._end_event()
         return list(self._changed.items())
 
     def __repr__(self) -> str:

@@ -1,7 +1,7 @@
 """The grid."""
 
 import ctypes
-from typing import Any, Dict, List, Mapping, NoReturn, Optional
+from typing import Any, Dict, List, Mapping, NoReturn, Optional, TypeVar
 
 from . import _library
 from ._checks import to_i16, to_i32, to_name
@@ -33,6 +33,9 @@ def _make_bag(bag: Mapping[str, Any]) -> "ctypes.Array[_library.BagEntry]":
         if value is None:
             entry.value.type = _library.PICTURE
     return made
+
+
+_G = TypeVar("_G", bound="Grid")
 
 
 class Grid(GridMembers, GridEvents):
@@ -94,7 +97,7 @@ class Grid(GridMembers, GridEvents):
             self.host.settings
         self._session.end()
 
-    def __enter__(self) -> "Grid":
+    def __enter__(self: _G) -> _G:
         return self
 
     def __exit__(self, *exception: object) -> None:

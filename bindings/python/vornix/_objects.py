@@ -295,14 +295,19 @@ class ForeignObject:
     __slots__ = ("_pointer", "_kept", "__weakref__")
 
     def __init__(self, pointer: int, kept: _library.Value) -> None:
-        self._pointer = pointer
+        self._pointer: Optional[int] = pointer
         self._kept = kept
         if kept.owned:
             release = weakref.finalize(self, library.vornix_value_clear, ctypes.byref(kept))
             release.atexit = False
 
+    def _end_event(self) -> None:
+        """The event is over whose argument this was; an object of its own stays."""
+        if not self._kept.owned:
+            self._pointer = None
+
     def __repr__(self) -> str:
-        return f"<vornix object {self._pointer:#x}>"
+        return "<object of the environment>"
 
 
 for _public in (Font, Picture, Surface):

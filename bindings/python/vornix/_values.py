@@ -9,7 +9,7 @@ from . import _library
 from ._arrays import Array
 from ._checks import to_float
 from ._dates import from_days, to_days
-from ._errors import OVERFLOW, TYPE_MISMATCH, AutomationError
+from ._errors import INVALID_ARGUMENT, OVERFLOW, TYPE_MISMATCH, AutomationError
 from ._library import Value, library, text_of
 from ._objects import Font, ForeignObject, Picture, Surface
 
@@ -102,6 +102,8 @@ def _put_surface(slot: Value, value: Surface) -> None:
 
 
 def _put_object(slot: Value, value: ForeignObject) -> None:
+    if value._pointer is None:
+        raise AutomationError(INVALID_ARGUMENT, "The object was that of an event that is over")
     slot.type = _library.OBJECT
     slot.pointer = value._pointer
 
@@ -222,4 +224,6 @@ def take(value: Value) -> Any:
 
 def peek(value: Value) -> Any:
     """What a value holds that stays the library's: an argument of an event."""
+    if value.type in (_library.FONT, _library.PICTURE):
+        raise AutomationError(TYPE_MISMATCH, "No event has fonts or pictures")
     return _TAKE[value.type](value)

@@ -240,7 +240,7 @@ void SelectCollection::UnSelectRange(i32 index)
         return;
     for (int slot = 0; slot < SlotCount(); ++slot) {
         SelectedRange& item = items_[static_cast<std::size_t>(slot)];
-        if (!item.isActive || index < item.left || index > item.right)
+        if (!item.isActive)
             continue;
         if (item.isSingle) {
             if (index != item.left)
@@ -252,11 +252,14 @@ void SelectCollection::UnSelectRange(i32 index)
             if (mode_ == SelectionKind::Cols || mode_ == SelectionKind::Rows)
                 AddRange(index + 1, right); // `item` is no longer valid
         } else if (index == item.left) {
+            // Of a range that was cut down to one line nothing is left: it stays, empty, and answers to this index again.
             item.left = index + 1;
-            item.isSingle = item.isSingle || item.left == item.right;
-        } else {
+            item.isSingle = item.left == item.right;
+        } else if (index == item.right) {
             item.right = index - 1;
-            item.isSingle = item.isSingle || item.left == item.right;
+            item.isSingle = item.left == item.right;
+        } else {
+            continue;
         }
         return;
     }
@@ -324,10 +327,13 @@ void SelectCollection::DeleteItems(i32 position, i32 count)
                 item.right = position - 1;
         } else {
             const i32 left = item.left;
-            item.left = last + 1 - count;
-            item.right -= count;
+            const i32 right = item.right;
             if (position > left)
-                AddRange(left, position - 1);
+                AddRange(left, position - 1); // `item` is no longer valid
+            // The part in front may have gone to this very slot: then it is gone.
+            SelectedRange& rest = items_[static_cast<std::size_t>(slot)];
+            rest.left = last + 1 - count;
+            rest.right = right - count;
         }
     });
 }

@@ -132,6 +132,38 @@ TEST(SelectCollection, TakesALineOutOfTheFirstOfTwoRangesOnly)
     EXPECT_EQ(selection.Count(), 1);
 }
 
+TEST(SelectCollection, KeepsAnEmptyRangeThatAnswersToItsNextLine)
+{
+    SelectCollection selection = Rows(2, 6);
+    selection.UnSelectRange(3);
+    selection.UnSelectRange(2);
+    EXPECT_EQ(LiveRanges(selection), (Ranges { { 3, 2 }, { 4, 6 } })) << "the part in front was not marked single";
+    EXPECT_EQ(selection.Count(), 2);
+    EXPECT_EQ(selection.CountRows(), 3);
+    EXPECT_FALSE(selection.IsRowSelected(2));
+    selection.AddRows(false, 3, 3);
+    selection.UnSelectRange(3);
+    EXPECT_TRUE(selection.IsRowSelected(3)) << "the empty range was the first match";
+    EXPECT_EQ(LiveRanges(selection), (Ranges { { 4, 2 }, { 4, 6 }, { 3, 3 } }));
+    selection.UnSelectRange(2);
+    EXPECT_EQ(LiveRanges(selection), (Ranges { { 4, 1 }, { 4, 6 }, { 3, 3 } }));
+    selection.UnSelectRange(3);
+    EXPECT_FALSE(selection.IsRowSelected(3));
+}
+
+TEST(SelectCollection, LosesThePartBeforeDeletedLinesThatIsWrittenIntoItsOwnSlot)
+{
+    SelectCollection selection = Rows(1, 1);
+    selection.AddRows(false, 3, 3);
+    selection.AddRows(false, 5, 9);
+    selection.UnSelectRange(1);
+    selection.AddRows(false, 0, 0);
+    selection.AddRows(false, 2, 2);
+    selection.DeleteItems(7, 1);
+    EXPECT_EQ(LiveRanges(selection), (Ranges { { 0, 0 }, { 2, 2 }, { 7, 8 } }));
+    EXPECT_EQ(selection.Count(), 5);
+}
+
 TEST(SelectCollection, OverwritesTheRangeBehindAFreedSlot)
 {
     SelectCollection selection = Rows(1, 1);
@@ -288,7 +320,9 @@ public:
         if (count == 0)
             return;
         for (auto& [slot, item] : live) {
-            if (item.single ? index != item.left : index < item.left || index > item.right)
+            const bool isInside = item.left < index && index < item.right;
+            const bool isAtEnd = index == item.left || index == item.right;
+            if (item.single ? index != item.left : !isInside && !isAtEnd)
                 continue;
             if (item.single)
                 Remove(slot);
@@ -354,9 +388,10 @@ public:
             else if (last >= item.right && position <= item.right)
                 item.right = position - 1;
             else if (last < item.right) {
-                const Item old = std::exchange(item, { last + 1 - n, item.right - n, item.single });
+                const Item old = item;
                 if (position > old.left)
                     Add(old.left, position - 1);
+                live[slot] = { last + 1 - n, old.right - n, live[slot].single };
             }
         }
     }

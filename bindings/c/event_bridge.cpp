@@ -1,5 +1,6 @@
 #include "event_bridge.h"
 
+#include "handles.h"
 #include "values.h"
 
 #include <array>
@@ -32,6 +33,15 @@ public:
 private:
     std::size_t count_;
 };
+
+// An object is the event's and ends with it, whoever has retained its handle.
+void EndObjects(const ValueList<MostArguments>& given)
+{
+    for (std::size_t i = 0; i < given.Count(); ++i) {
+        if (given[i].type == VORNIX_OBJECT && given[i].as.object != nullptr)
+            given[i].as.object->object.reset();
+    }
+}
 
 } // namespace
 
@@ -73,6 +83,7 @@ void EventBridge::Raise(const EventInfo& event, std::span<Variant> arguments)
         left.values[i].owned = 0;
     }
     callback_(user_, grid_, event.number, left.values.data(), arguments.size());
+    EndObjects(given);
     for (std::size_t i = 0; i < arguments.size(); ++i) {
         if (event.arguments[i].byReference)
             TakeBack(left.values[i], arguments[i]);

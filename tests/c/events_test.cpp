@@ -187,6 +187,28 @@ TEST(CEvents, DrawCellsThroughTheHost)
     EXPECT_EQ(cells.front(), (std::pair<std::int64_t, std::int64_t> { 2, 1 }));
 }
 
+TEST(CEvents, MayWriteIntoTheArrayThatIsBeingLoaded)
+{
+    Host host;
+    ASSERT_EQ(Let(host.grid.get(), "ColStyle", { Integer(0), Integer(vxCustomDraw) }), 0);
+    vornix_array* array = nullptr;
+    ASSERT_EQ(vornix_array_create(3, 2, &array), 0);
+    const vornix_value loaded = Text(u"loaded");
+    ASSERT_EQ(vornix_array_set(array, 0, 1, &loaded), 0);
+    int writes = 0;
+    host.handler = [&](std::int32_t, vornix_value*, std::size_t) {
+        const vornix_value later = Text(u"later");
+        EXPECT_EQ(vornix_array_set(array, 0, 1, &later), 0);
+        ++writes;
+    };
+    vornix_value argument = Typed(VORNIX_ARRAY);
+    argument.as.array = array;
+    ASSERT_EQ(Call(host.grid.get(), "LoadFromArray", { argument }), 0);
+    vornix_array_release(array);
+    EXPECT_GT(writes, 0) << "cells are drawn by the host";
+    EXPECT_EQ(Get(host.grid.get(), "Text", { Integer(5), Integer(0) }).ToText(), u"loaded");
+}
+
 TEST(CEvents, ComeWhileAGridIsBeingMadeAndCannotCallItYet)
 {
     struct Record {

@@ -1,18 +1,21 @@
 /* The C interface of the grid: everything that other languages do with it goes through these functions.
  *
  * A grid lives in a container without a screen, on the thread that made it; a call from another thread fails with
- * error 5 and changes nothing. Grids on different threads do not disturb each other.
+ * error 5 and changes nothing. Grids on different threads do not disturb each other. Fonts, pictures and objects may be
+ * used by any thread; an array and a surface by one at a time.
  *
  * Functions that can fail return a status: 0, or the number of an automation error (5 invalid argument, 6 overflow,
  * 7 out of memory, 9 subscript out of range, 13 type mismatch, 94 invalid use of null, 438 no such member, 445 not
- * supported, 448 no such named argument, 450 wrong number of arguments). vornix_last_error tells more. A failed call
- * leaves its results as they were. Null for a pointer that must be given is error 5.
+ * supported, 448 no such named argument, 450 wrong number of arguments) or of a file's (53 not found, 75 cannot be read
+ * or written, 481 no picture). vornix_last_error tells more. A failed call leaves its results as they were. Null for a
+ * pointer that must be given is error 5.
  *
- * Texts are UTF-16 with a length and need no zero at their end; names, paths and messages are UTF-8 that ends in one.
+ * Texts are UTF-16 with a length and need no zero at their end, and need not be well formed; one of more than 2^30 units
+ * is error 7. Names, paths and messages are UTF-8 that ends in a zero.
  *
  * Ownership: what a caller passes in stays the caller's and is copied. Values that come out belong to the caller, who
- * gives them back with vornix_value_clear. Fonts, pictures and arrays are counted: every one that comes out is released
- * once. */
+ * gives them back with vornix_value_clear. They are written over what stood in their place, which is not given back.
+ * Fonts, pictures, objects and arrays are counted: every one that comes out is released once. */
 #ifndef VORNIX_C_H
 #define VORNIX_C_H
 
@@ -74,8 +77,7 @@ enum {
 /* A value with its type. A value of zeros is empty. */
 typedef struct vornix_value {
     uint16_t type;
-    uint16_t
-        owned; /* 1 in values that came out: vornix_value_clear gives back what they hold. 0 in the caller's own. */
+    uint16_t owned; /* 1 in values that came out, which vornix_value_clear gives back; 0 in the caller's own */
     uint32_t reserved;
     union {
         int64_t integer;
@@ -93,7 +95,7 @@ typedef struct vornix_value {
 
 /* "0.1.0". */
 VORNIX_API const char* vornix_version(void);
-/* What the latest failed call on this thread says about it; stays until the next one fails. */
+/* What the latest failed call on this thread says about it; stays until the next one fails. Empty before the first. */
 VORNIX_API const char* vornix_last_error(void);
 /* The standard description of an error number. */
 VORNIX_API const char* vornix_error_description(int32_t number);
@@ -160,9 +162,11 @@ VORNIX_API const vornix_event_info* vornix_describe_event(int32_t number);
 
 /* -- Grids -- */
 
-/* An event with its arguments; those by reference may be written, and are read when the callback returns. What it holds
- * is valid until then. A value that cannot be converted to the argument's type leaves it as it was, and the call that
- * was running fails with the conversion's error once it is through. */
+/* An event with its arguments; those by reference may be written, and are read when the callback returns. What they hold
+ * is the library's and valid until then; a font or a picture may be retained. A value that is left in its place with
+ * `owned` 1, because another call gave it, is taken over. One that cannot be converted to the argument's type leaves it
+ * as it was, and the outermost call that is running fails with the conversion's error once it is through, if it has not
+ * failed by itself. A callback may call the grid, close it, and end other grids; it must not throw. */
 typedef void (*vornix_event_callback)(
     void* user, vornix_grid* grid, int32_t number, vornix_value* arguments, size_t count);
 
@@ -180,7 +184,7 @@ typedef struct vornix_setting {
 
 typedef struct vornix_grid_options {
     size_t size; /* sizeof(vornix_grid_options) */
-    int32_t width; /* of the window in logical pixels; 640 where 0 */
+    int32_t width; /* of the window in logical pixels, up to 32767; 640 where 0 */
     int32_t height; /* 480 where 0 */
     double scale; /* device pixels a logical pixel, 1 to 4; 1 where 0 */
     int32_t design; /* the ambient UserMode is false; without a bag the control is a new one */
@@ -194,10 +198,13 @@ typedef struct vornix_grid_options {
     void* user;
 } vornix_grid_options;
 
-/* Options may be null. */
+/* Options may be null. The callback may be called already while the grid is being made; until its control is loaded it
+ * cannot be called from there (error 5). */
 VORNIX_API int32_t vornix_grid_create(const vornix_grid_options* options, vornix_grid** grid);
 /* Ends the grid. Inside one of its own calls (an event) this is error 5, and the grid stays. From another thread the end
- * waits until the grid's own thread calls this library again or ends. Null is nothing. */
+ * waits until the grid's own thread calls a grid again or ends; when that has ended, it is at once. Null is nothing.
+ * A grid that has been ended is error 5 in any later call: its handle stands for no other grid before thousands of
+ * others were ended. */
 VORNIX_API int32_t vornix_grid_destroy(vornix_grid* grid);
 VORNIX_API int32_t vornix_set_event_callback(vornix_grid* grid, vornix_event_callback callback, void* user);
 
@@ -209,12 +216,13 @@ VORNIX_API int32_t vornix_invoke(
 /* The last name_count arguments are given by these names. */
 VORNIX_API int32_t vornix_invoke_named(vornix_grid* grid, const char* name, int32_t kind, vornix_value* arguments,
     size_t count, const char* const* names, size_t name_count, vornix_value* result);
-/* A member that was looked up once. */
+/* A member that was looked up once. Error 438 for what is none. */
 VORNIX_API int32_t vornix_invoke_member(vornix_grid* grid, const vornix_member* member, int32_t kind,
     vornix_value* arguments, size_t count, vornix_value* result);
 
 /* Many texts at once: all code points behind each other, and the number of code points of each. Half of a surrogate
- * pair that stands alone is a code point of its own. */
+ * pair that stands alone is a code point of its own. What is written into the block is given back with
+ * vornix_text_block_clear, once. */
 typedef struct vornix_text_block {
     const uint32_t* code_points;
     size_t code_point_count;
@@ -230,6 +238,9 @@ VORNIX_API int32_t vornix_read_texts(
 
 /* -- Arrays: records of columns, for LoadFromArray -- */
 
+/* All elements are empty. A grid that reads an array keeps it as it was, whatever is written meanwhile. A writing that
+ * fails changes nothing. Errors 5 for a count that is not that of the records, 9 for a place that there is not, 13 for
+ * another type, and those of the values. */
 VORNIX_API int32_t vornix_array_create(size_t columns, size_t records, vornix_array** array);
 VORNIX_API void vornix_array_retain(vornix_array* array);
 VORNIX_API void vornix_array_release(vornix_array* array);
@@ -258,6 +269,7 @@ typedef struct vornix_font_info {
     int32_t charset;
 } vornix_font_info;
 
+/* Errors 5 without a size above 0 or for a character set outside 0 to 255, 6 for a size above 32767. */
 VORNIX_API int32_t vornix_font_create(const vornix_font_info* info, vornix_font** font);
 VORNIX_API int32_t vornix_font_describe(const vornix_font* font, vornix_font_info* info);
 VORNIX_API void vornix_font_retain(vornix_font* font);
@@ -272,10 +284,12 @@ typedef struct vornix_picture_info {
     int32_t pixel_height;
 } vornix_picture_info;
 
-/* rgba: width * height * 4 bytes, straight alpha, rows from the top. */
+/* rgba: width * height * 4 bytes, straight alpha, rows from the top; error 5 for another length. An icon when any of it
+ * is transparent, otherwise a bitmap; the empty picture when there are no pixels. */
 VORNIX_API int32_t vornix_picture_from_rgba(
     int32_t width, int32_t height, const uint8_t* rgba, size_t length, vornix_picture** picture);
-/* A PNG file. Error 53 when there is no such file, 481 when it is no picture. */
+/* A PNG file: an icon or a bitmap like the above. Errors 53 when there is no such file, 75 when it cannot be read, 481
+ * when it is no picture. */
 VORNIX_API int32_t vornix_picture_load(const char* path, vornix_picture** picture);
 VORNIX_API int32_t vornix_picture_describe(const vornix_picture* picture, vornix_picture_info* info);
 VORNIX_API void vornix_picture_retain(vornix_picture* picture);
@@ -291,7 +305,7 @@ VORNIX_API void vornix_object_release(vornix_object* object);
 
 /* -- Surfaces: devices to draw on, for arguments named PictureHdc or PrinterHdc -- */
 
-/* Logical pixels; scale 1 to 4. White at first. */
+/* Logical pixels, 1 to 32767 in each direction; scale 1 to 4. White at first. */
 VORNIX_API int32_t vornix_surface_create(int32_t width, int32_t height, double scale, vornix_surface** surface);
 VORNIX_API void vornix_surface_destroy(vornix_surface* surface);
 VORNIX_API int32_t vornix_surface_hdc(const vornix_surface* surface, intptr_t* hdc);
@@ -306,7 +320,8 @@ VORNIX_API int32_t vornix_surface_save_png(const vornix_surface* surface, const 
 
 VORNIX_API int32_t vornix_host_get_user_mode(vornix_grid* grid, int32_t* user_mode);
 VORNIX_API int32_t vornix_host_set_user_mode(vornix_grid* grid, int32_t user_mode);
-/* The container's lifecycle. close ends in Terminate. */
+/* The container's lifecycle. close ends in Terminate: members and input are error 5 from then on, what was written down
+ * and the picture stay. */
 VORNIX_API int32_t vornix_host_resize(vornix_grid* grid, int32_t width, int32_t height);
 VORNIX_API int32_t vornix_host_show(vornix_grid* grid);
 VORNIX_API int32_t vornix_host_hide(vornix_grid* grid);
@@ -354,7 +369,7 @@ VORNIX_API int32_t vornix_host_child(vornix_grid* grid, const char* name, vornix
  * properties that PropertyChanged reported. */
 VORNIX_API int32_t vornix_host_clear_log(vornix_grid* grid);
 VORNIX_API int32_t vornix_host_log_count(vornix_grid* grid, size_t* count);
-/* At most `capacity` arguments are given (no event has more than 8); clear each. */
+/* At most `capacity` arguments are given (no event has more than 8), `count` says how many there are; clear each. */
 VORNIX_API int32_t vornix_host_log_at(
     vornix_grid* grid, size_t index, int32_t* number, vornix_value* arguments, size_t capacity, size_t* count);
 VORNIX_API int32_t vornix_host_property_change_count(vornix_grid* grid, size_t* count);

@@ -414,6 +414,54 @@ public:
     void RestoreVisualToCell(i16 index, i16 Row, i16 Col);
     void ClearVisualCell();
 
+    // -- Selection --
+    // Rectangles of cells, ranges of columns or ranges of rows: one kind at a time. Selecting another kind drops what was
+    // selected. Ranges are not joined: a line in two of them counts twice, and is unselected only once. Lines that the
+    // table does not have may be selected, too.
+
+    // False for fixed cells, and for cells of selected columns and rows.
+    bool CellSelected(i16 Row, i16 Col) const;
+    // True adds a range of one line, and does nothing for a fixed line; false takes the line out of the first range that
+    // holds it. Always written; repaint.
+    bool ColSelected(i16 Col) const;
+    void SetColSelected(i16 Col, bool Value);
+    bool RowSelected(i16 Row) const;
+    void SetRowSelected(i16 Row, bool Value);
+    // True adds a range; false takes the rows out of all ranges, be it of rows or of columns. Ends in any order; a fixed
+    // row among them does nothing. Repaints.
+    void SetRowsSelected(i16 Row1, i16 Row2, bool Value);
+    // Of what is selected; 0 where that is of another kind. A cell or line that lies in two ranges counts twice.
+    i32 SelectCountCell() const;
+    i32 SelectCountCol() const;
+    i32 SelectCountRow() const;
+    // The first rectangle, its corners as they were given. False, and the arguments unchanged, where none is selected.
+    // Begins the walk below anew.
+    bool GetSelectedCells(i16& Row1, i16& Col1, i16& Row2, i16& Col2);
+    // Selects one rectangle and nothing else; with corners out of order it holds no cell. A fixed corner does nothing.
+    // Repaints, whether Redraw is on or not.
+    void SetSelectedCells(i16 Row1, i16 Col1, i16 Row2, i16 Col2);
+    // A walk over the selected ranges. False, and the arguments unchanged, behind the last one and where lines of
+    // another kind are selected.
+    void StartSelectedItems();
+    bool NextSelectedCols(i16& Col1, i16& Col2);
+    bool NextSelectedRows(i16& Row1, i16& Row2);
+    // The selected line at a place among all of them; 0 where there is none. To be asked for 0 first and upward from
+    // there: a smaller place than the latest gives a line in front of its range.
+    i32 SelectItem(i32 index) const;
+    // Selects the lines that are not selected, of the kind that is; those that were are not any more. False, and nothing
+    // done, without selected columns or rows. Repaints.
+    bool InvertSelect();
+    // Selects nothing. Lays out anew.
+    void DeselectAll();
+    // vxCellsEnum: which headers select. Reports itself.
+    i32 SelectMode() const;
+    void SetSelectMode(i32 Value);
+    // Whether a press on a cell that is not fixed selects its row, or else cells. Report themselves.
+    bool SelectByRowCol() const;
+    void SetSelectByRowCol(bool Value);
+    bool CellSelection() const;
+    void SetCellSelection(bool Value);
+
     // -- Geometry --
 
     // Pixels; 0 while hidden. Negative values count as 0. Written to a hidden line they take effect when it is shown.
@@ -434,9 +482,6 @@ public:
     // vxCellsEnum: which lines the user may size. Writes the flags of all rows and columns; reports itself.
     i32 ResizeMode() const;
     void SetResizeMode(i32 Value);
-    // vxCellsEnum: which headers select. Reports itself.
-    i32 SelectMode() const;
-    void SetSelectMode(i32 Value);
     // vxCellsEnum: whether a filler column and row take the room behind the last ones. Lays out anew, reports itself.
     i32 AdjustLast() const;
     void SetAdjustLast(i32 Value);

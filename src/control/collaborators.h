@@ -13,13 +13,6 @@ public:
     virtual void TakeFocus() { }
 };
 
-class SelectionControl {
-public:
-    virtual ~SelectionControl() = default;
-    // Nothing is selected any more.
-    virtual void Collapse() { }
-};
-
 class ScrollBarControl {
 public:
     virtual ~ScrollBarControl() = default;

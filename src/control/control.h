@@ -7,6 +7,7 @@
 #include "control/grid_interaction.h"
 #include "control/repaint_funnel.h"
 #include "interact/current_cell.h"
+#include "interact/grid_selection.h"
 #include "layout/layout_engine.h"
 #include "layout/scroll_model.h"
 #include "model/grid_store.h"
@@ -28,7 +29,6 @@ struct ShellSettings {
     i32 BorderStyle = vxNoBorder;
     i32 AdjustLast = vxBoth;
     i32 ResizeMode = vxBoth;
-    i32 SelectMode = vxBoth;
     i16 VirtualPageSize = 0;
     i32 VirtualOffset = 0;
 };
@@ -48,10 +48,10 @@ public:
     Spans spans;
     VisualCellStore visualCells;
     CurrentCell current;
+    GridSelection selection;
     ShellSettings settings;
 
     EditSessionControl editor;
-    SelectionControl selection;
     ScrollBarControl bars;
     VirtualModeControl virtualMode;
     RecordSourceControl recordSource;

@@ -84,17 +84,6 @@ void Vornix::SetResizeMode(i32 Value)
     control->Report("ResizeMode");
 }
 
-i32 Vornix::SelectMode() const
-{
-    return Enter()->settings.SelectMode;
-}
-
-void Vornix::SetSelectMode(i32 Value)
-{
-    const auto control = Enter();
-    control->SetSetting(control->settings.SelectMode, Value, "SelectMode");
-}
-
 i32 Vornix::AdjustLast() const
 {
     return Enter()->settings.AdjustLast;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "interact/current_cell.h"
+#include "interact/grid_selection.h"
 #include "model/repainter.h"
 #include "render/interaction_view.h"
 
@@ -9,18 +10,28 @@ namespace vornix {
 
 class GridInteraction : public InteractionView {
 public:
-    GridInteraction(const CurrentCell& current, const EditorControl& editor)
+    GridInteraction(const CurrentCell& current, const EditorControl& editor, GridSelection& selection)
         : current_(current)
         , editor_(editor)
+        , selection_(selection)
     {
     }
 
     bool IsCurrentCell(int row, int col) const override { return current_.IsDisplayedAt(row, col); }
     bool IsEditing() const override { return editor_.IsEditorOpen(); }
+    bool IsSelected(const Cell& cell, int row, int col, bool printing) const override
+    {
+        return selection_.IsShownSelected(cell, row, col, printing);
+    }
+    void PaintRangeChanged(int paintLastRow, int paintLastCol) override
+    {
+        selection_.PaintRangeChanged(paintLastRow, paintLastCol);
+    }
 
 private:
     const CurrentCell& current_;
     const EditorControl& editor_;
+    GridSelection& selection_;
 };
 
 } // namespace vornix

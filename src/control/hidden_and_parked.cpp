@@ -137,6 +137,7 @@ void Control::RestoreColumnOrder()
 
 void Control::MoveColumnLeft(int from, int to)
 {
+    selection.MoveColLeft(from, to);
     ColumnMove(store, spans).MoveLeft(from, to);
     const bool movesCaption = to == store.FixedCols() && layout.Settings.CaptionEnabled && store.FixedRows() >= 1;
     if (movesCaption) {

@@ -51,6 +51,7 @@ void Control::BuildTable()
     store.InitGridStore(container.Colors());
     layout.ResetFor(store);
     current.Clear();
+    selection.Collapse();
     hasTable_ = true;
     CopyCaption();
     layout.MarkMetricsDirty();

@@ -141,7 +141,12 @@ const std::array settingsInOrder {
     Setting { "ResizeMode", vxBoth, [](Control& c, const BagValue& v) { c.settings.ResizeMode = ToInteger(v); } },
     Setting {
         "ResizingRows", false, [](Control& c, const BagValue& v) { c.layout.Settings.ResizingRows = ToTruth(v); } },
-    Setting { "SelectMode", vxBoth, [](Control& c, const BagValue& v) { c.settings.SelectMode = ToInteger(v); } },
+    Setting {
+        "SelectMode", vxBoth, [](Control& c, const BagValue& v) { c.selection.Settings.SelectMode = ToInteger(v); } },
+    Setting { "SelectByRowCol", false,
+        [](Control& c, const BagValue& v) { c.selection.Settings.SelectByRowCol = ToTruth(v); } },
+    Setting { "CellSelection", false,
+        [](Control& c, const BagValue& v) { c.selection.Settings.CellSelection = ToTruth(v); } },
     Setting { "Redraw", true, [](Control& c, const BagValue& v) { c.gate.SetRedraw(ToTruth(v)); } },
     Setting { "GridLineWidth", 1, [](Control& c, const BagValue& v) { c.paint.Settings.GridLineWidth = ToShort(v); } },
     Setting {

@@ -8,64 +8,41 @@ namespace vornix {
 
 namespace {
 
-[[noreturn]] void RaiseMismatch()
-{
-    RaiseError(ErrorNumber::TypeMismatch);
-}
+// A value of the bag, converted as arguments of members are.
+class SettingValue {
+public:
+    SettingValue(BagValue value, const Locale& locale)
+        : value_(std::visit([](auto&& held) { return Variant(std::move(held)); }, std::move(value)))
+        , locale_(locale)
+    {
+    }
 
-i32 ToInteger(const BagValue& value)
-{
-    if (const auto* number = std::get_if<i32>(&value))
-        return *number;
-    if (const auto* truth = std::get_if<bool>(&value))
-        return *truth ? -1 : 0;
-    RaiseMismatch();
-}
+    i32 ToInteger() const { return value_.ToI32(locale_); }
+    i16 ToShort() const { return value_.ToI16(locale_); }
+    bool ToTruth() const { return value_.ToBool(locale_); }
+    OleColor ToColor() const { return value_.ToColor(locale_); }
+    std::u16string ToText() const { return value_.ToText(locale_); }
+    PicturePtr ToPicture() const { return value_.ToPicture(); }
 
-bool ToTruth(const BagValue& value)
-{
-    return ToInteger(value) != 0;
-}
+    i16 ToCount() const
+    {
+        const i16 count = ToShort();
+        if (count < 0)
+            RaiseError(ErrorNumber::SubscriptOutOfRange);
+        return count;
+    }
 
-i16 ToShort(const BagValue& value)
-{
-    return ToI16(ToInteger(value));
-}
+    // None stands for the ambient one.
+    FontPtr ToFont(const Control& control) const
+    {
+        const FontPtr font = value_.ToFont();
+        return font ? font : control.container.AmbientFont();
+    }
 
-i16 ToCount(const BagValue& value)
-{
-    const i16 count = ToShort(value);
-    if (count < 0)
-        RaiseError(ErrorNumber::SubscriptOutOfRange);
-    return count;
-}
-
-OleColor ToColor(const BagValue& value)
-{
-    return static_cast<OleColor>(ToInteger(value));
-}
-
-std::u16string ToText(const BagValue& value)
-{
-    if (const auto* text = std::get_if<std::u16string>(&value))
-        return *text;
-    RaiseMismatch();
-}
-
-FontPtr ToFont(const BagValue& value, const Control& control)
-{
-    const auto* font = std::get_if<FontPtr>(&value);
-    if (!font)
-        RaiseMismatch();
-    return *font ? *font : control.container.AmbientFont();
-}
-
-PicturePtr ToPicture(const BagValue& value)
-{
-    if (const auto* picture = std::get_if<PicturePtr>(&value))
-        return *picture;
-    RaiseMismatch();
-}
+private:
+    Variant value_;
+    const Locale& locale_;
+};
 
 constexpr i32 System(int index)
 {
@@ -75,88 +52,97 @@ constexpr i32 System(int index)
 struct Setting {
     std::string_view name;
     BagValue fallback;
-    void (*store)(Control&, const BagValue&);
+    void (*store)(Control&, const SettingValue&);
 };
 
 // A missing font stands for the ambient one.
 const FontPtr ambientFont;
 
 const std::array settingsInOrder {
-    Setting { "DefaultMode", 0, [](Control& c, const BagValue& v) { c.store.Defaults.DefaultMode = ToInteger(v); } },
+    Setting {
+        "DefaultMode", 0, [](Control& c, const SettingValue& v) { c.store.Defaults.DefaultMode = v.ToInteger(); } },
     Setting { "DefaultBkColor", System(SystemColor::Window),
-        [](Control& c, const BagValue& v) { c.store.Defaults.DefaultBkColor = ToColor(v); } },
+        [](Control& c, const SettingValue& v) { c.store.Defaults.DefaultBkColor = v.ToColor(); } },
     Setting { "DefaultForeColor", System(SystemColor::WindowText),
-        [](Control& c, const BagValue& v) { c.store.Defaults.DefaultForeColor = ToColor(v); } },
+        [](Control& c, const SettingValue& v) { c.store.Defaults.DefaultForeColor = v.ToColor(); } },
     Setting { "DefaultLineColor", System(SystemColor::ButtonFace),
-        [](Control& c, const BagValue& v) { c.store.Defaults.DefaultLineColor = ToColor(v); } },
+        [](Control& c, const SettingValue& v) { c.store.Defaults.DefaultLineColor = v.ToColor(); } },
     Setting { "DefaultBkColorFixed", System(SystemColor::ButtonFace),
-        [](Control& c, const BagValue& v) { c.store.Defaults.DefaultBkColorFixed = ToColor(v); } },
+        [](Control& c, const SettingValue& v) { c.store.Defaults.DefaultBkColorFixed = v.ToColor(); } },
     Setting { "DefaultForeColorFixed", System(SystemColor::ButtonText),
-        [](Control& c, const BagValue& v) { c.store.Defaults.DefaultForeColorFixed = ToColor(v); } },
+        [](Control& c, const SettingValue& v) { c.store.Defaults.DefaultForeColorFixed = v.ToColor(); } },
     Setting { "AltColorEnabled", false,
-        [](Control& c, const BagValue& v) { c.paint.Settings.AltColorEnabled = ToTruth(v); } },
+        [](Control& c, const SettingValue& v) { c.paint.Settings.AltColorEnabled = v.ToTruth(); } },
     Setting { "AltBkColor", System(SystemColor::Window),
-        [](Control& c, const BagValue& v) { c.paint.Settings.AltBkColor = ToColor(v); } },
+        [](Control& c, const SettingValue& v) { c.paint.Settings.AltBkColor = v.ToColor(); } },
     Setting { "AltForeColor", System(SystemColor::WindowText),
-        [](Control& c, const BagValue& v) { c.paint.Settings.AltForeColor = ToColor(v); } },
+        [](Control& c, const SettingValue& v) { c.paint.Settings.AltForeColor = v.ToColor(); } },
     Setting { "BackColorSel", System(SystemColor::Highlight),
-        [](Control& c, const BagValue& v) { c.paint.Settings.BackColorSel = ToColor(v); } },
+        [](Control& c, const SettingValue& v) { c.paint.Settings.BackColorSel = v.ToColor(); } },
     Setting { "ForeColorSel", System(SystemColor::HighlightText),
-        [](Control& c, const BagValue& v) { c.paint.Settings.ForeColorSel = ToColor(v); } },
-    Setting { "DefaultHeight", 21, [](Control& c, const BagValue& v) { c.store.Defaults.DefaultHeight = ToShort(v); } },
-    Setting { "DefaultWidth", 120, [](Control& c, const BagValue& v) { c.store.Defaults.DefaultWidth = ToShort(v); } },
+        [](Control& c, const SettingValue& v) { c.paint.Settings.ForeColorSel = v.ToColor(); } },
+    Setting {
+        "DefaultHeight", 21, [](Control& c, const SettingValue& v) { c.store.Defaults.DefaultHeight = v.ToShort(); } },
+    Setting {
+        "DefaultWidth", 120, [](Control& c, const SettingValue& v) { c.store.Defaults.DefaultWidth = v.ToShort(); } },
     Setting { "DefaultHeightFixed", 21,
-        [](Control& c, const BagValue& v) { c.store.Defaults.DefaultHeightFixed = ToShort(v); } },
+        [](Control& c, const SettingValue& v) { c.store.Defaults.DefaultHeightFixed = v.ToShort(); } },
     Setting { "DefaultWidthFixed", 30,
-        [](Control& c, const BagValue& v) { c.store.Defaults.DefaultWidthFixed = ToShort(v); } },
+        [](Control& c, const SettingValue& v) { c.store.Defaults.DefaultWidthFixed = v.ToShort(); } },
     Setting { "DefaultTextAlign", 0,
-        [](Control& c, const BagValue& v) { c.store.Defaults.DefaultTextAlign = ToInteger(v); } },
+        [](Control& c, const SettingValue& v) { c.store.Defaults.DefaultTextAlign = v.ToInteger(); } },
     Setting { "DefaultTextAlignFixed", 0,
-        [](Control& c, const BagValue& v) { c.store.Defaults.DefaultTextAlignFixed = ToInteger(v); } },
-    Setting { "Cols", 1, [](Control& c, const BagValue& v) { c.store.StoreCols(ToCount(v)); } },
-    Setting { "Rows", 1, [](Control& c, const BagValue& v) { c.store.StoreRows(ToCount(v)); } },
-    Setting { "FixedCols", 0, [](Control& c, const BagValue& v) { c.store.StoreFixedCols(ToCount(v)); } },
-    Setting { "FixedRows", 0, [](Control& c, const BagValue& v) { c.store.StoreFixedRows(ToCount(v)); } },
-    Setting { "BorderStyle", vxNoBorder, [](Control& c, const BagValue& v) { c.settings.BorderStyle = ToInteger(v); } },
+        [](Control& c, const SettingValue& v) { c.store.Defaults.DefaultTextAlignFixed = v.ToInteger(); } },
+    Setting { "Cols", 1, [](Control& c, const SettingValue& v) { c.store.StoreCols(v.ToCount()); } },
+    Setting { "Rows", 1, [](Control& c, const SettingValue& v) { c.store.StoreRows(v.ToCount()); } },
+    Setting { "FixedCols", 0, [](Control& c, const SettingValue& v) { c.store.StoreFixedCols(v.ToCount()); } },
+    Setting { "FixedRows", 0, [](Control& c, const SettingValue& v) { c.store.StoreFixedRows(v.ToCount()); } },
+    Setting {
+        "BorderStyle", vxNoBorder, [](Control& c, const SettingValue& v) { c.settings.BorderStyle = v.ToInteger(); } },
     Setting { "BackColor", System(SystemColor::Window),
-        [](Control& c, const BagValue& v) { c.paint.Settings.BackColor = ToColor(v); } },
-    Setting { "Font", ambientFont, [](Control& c, const BagValue& v) { c.store.Defaults.Font = ToFont(v, c); } },
+        [](Control& c, const SettingValue& v) { c.paint.Settings.BackColor = v.ToColor(); } },
+    Setting { "Font", ambientFont, [](Control& c, const SettingValue& v) { c.store.Defaults.Font = v.ToFont(c); } },
     Setting {
-        "FontFixed", ambientFont, [](Control& c, const BagValue& v) { c.store.Defaults.FontFixed = ToFont(v, c); } },
-    Setting {
-        "PictureBrightness", 0, [](Control& c, const BagValue& v) { c.paint.SetPictureBrightness(ToInteger(v)); } },
-    Setting { "Picture", PicturePtr(), [](Control& c, const BagValue& v) { c.paint.SetPicture(ToPicture(v)); } },
-    Setting {
-        "PictureMode", vxDefault, [](Control& c, const BagValue& v) { c.paint.Settings.PictureMode = ToInteger(v); } },
+        "FontFixed", ambientFont, [](Control& c, const SettingValue& v) { c.store.Defaults.FontFixed = v.ToFont(c); } },
+    Setting { "PictureBrightness", 0,
+        [](Control& c, const SettingValue& v) { c.paint.SetPictureBrightness(v.ToInteger()); } },
+    Setting { "Picture", PicturePtr(), [](Control& c, const SettingValue& v) { c.paint.SetPicture(v.ToPicture()); } },
+    Setting { "PictureMode", vxDefault,
+        [](Control& c, const SettingValue& v) { c.paint.Settings.PictureMode = v.ToInteger(); } },
     Setting { "ScrollHBar", vxScrollSmooth,
-        [](Control& c, const BagValue& v) { c.layout.Settings.ScrollHBar = ToInteger(v); } },
+        [](Control& c, const SettingValue& v) { c.layout.Settings.ScrollHBar = v.ToInteger(); } },
     Setting { "ScrollVBar", vxScrollTrack,
-        [](Control& c, const BagValue& v) { c.layout.Settings.ScrollVBar = ToInteger(v); } },
-    Setting { "GridLines", vxBoth, [](Control& c, const BagValue& v) { c.paint.Settings.GridLines = ToInteger(v); } },
+        [](Control& c, const SettingValue& v) { c.layout.Settings.ScrollVBar = v.ToInteger(); } },
     Setting {
-        "FocusRect", vxFocusLight, [](Control& c, const BagValue& v) { c.paint.Settings.FocusRect = ToInteger(v); } },
-    Setting { "UseMask", vxNoMask, [](Control& c, const BagValue& v) { c.paint.Settings.UseMask = ToInteger(v); } },
-    Setting { "MaskColor", 0, [](Control& c, const BagValue& v) { c.paint.Settings.MaskColor = ToColor(v); } },
-    Setting { "ShowSplit", false, [](Control& c, const BagValue& v) { c.layout.Settings.ShowSplit = ToTruth(v); } },
-    Setting { "ResizeMode", vxBoth, [](Control& c, const BagValue& v) { c.settings.ResizeMode = ToInteger(v); } },
+        "GridLines", vxBoth, [](Control& c, const SettingValue& v) { c.paint.Settings.GridLines = v.ToInteger(); } },
+    Setting { "FocusRect", vxFocusLight,
+        [](Control& c, const SettingValue& v) { c.paint.Settings.FocusRect = v.ToInteger(); } },
     Setting {
-        "ResizingRows", false, [](Control& c, const BagValue& v) { c.layout.Settings.ResizingRows = ToTruth(v); } },
+        "UseMask", vxNoMask, [](Control& c, const SettingValue& v) { c.paint.Settings.UseMask = v.ToInteger(); } },
+    Setting { "MaskColor", 0, [](Control& c, const SettingValue& v) { c.paint.Settings.MaskColor = v.ToColor(); } },
     Setting {
-        "SelectMode", vxBoth, [](Control& c, const BagValue& v) { c.selection.Settings.SelectMode = ToInteger(v); } },
+        "ShowSplit", false, [](Control& c, const SettingValue& v) { c.layout.Settings.ShowSplit = v.ToTruth(); } },
+    Setting { "ResizeMode", vxBoth, [](Control& c, const SettingValue& v) { c.settings.ResizeMode = v.ToInteger(); } },
+    Setting { "ResizingRows", false,
+        [](Control& c, const SettingValue& v) { c.layout.Settings.ResizingRows = v.ToTruth(); } },
+    Setting { "SelectMode", vxBoth,
+        [](Control& c, const SettingValue& v) { c.selection.Settings.SelectMode = v.ToInteger(); } },
     Setting { "SelectByRowCol", false,
-        [](Control& c, const BagValue& v) { c.selection.Settings.SelectByRowCol = ToTruth(v); } },
+        [](Control& c, const SettingValue& v) { c.selection.Settings.SelectByRowCol = v.ToTruth(); } },
     Setting { "CellSelection", false,
-        [](Control& c, const BagValue& v) { c.selection.Settings.CellSelection = ToTruth(v); } },
-    Setting { "Redraw", true, [](Control& c, const BagValue& v) { c.gate.SetRedraw(ToTruth(v)); } },
-    Setting { "GridLineWidth", 1, [](Control& c, const BagValue& v) { c.paint.Settings.GridLineWidth = ToShort(v); } },
+        [](Control& c, const SettingValue& v) { c.selection.Settings.CellSelection = v.ToTruth(); } },
+    Setting { "Redraw", true, [](Control& c, const SettingValue& v) { c.gate.SetRedraw(v.ToTruth()); } },
     Setting {
-        "CaptionEnabled", false, [](Control& c, const BagValue& v) { c.layout.Settings.CaptionEnabled = ToTruth(v); } },
-    Setting { "Caption", std::u16string(), [](Control& c, const BagValue& v) { c.settings.Caption = ToText(v); } },
-    Setting { "VirtualPageSize", 0, [](Control& c, const BagValue& v) { c.settings.VirtualPageSize = ToShort(v); } },
+        "GridLineWidth", 1, [](Control& c, const SettingValue& v) { c.paint.Settings.GridLineWidth = v.ToShort(); } },
+    Setting { "CaptionEnabled", false,
+        [](Control& c, const SettingValue& v) { c.layout.Settings.CaptionEnabled = v.ToTruth(); } },
+    Setting { "Caption", std::u16string(), [](Control& c, const SettingValue& v) { c.settings.Caption = v.ToText(); } },
     Setting {
-        "ScrollBarSize", 17, [](Control& c, const BagValue& v) { c.layout.Settings.ScrollBarSize = ToShort(v); } },
-    Setting { "AdjustLast", vxBoth, [](Control& c, const BagValue& v) { c.settings.AdjustLast = ToInteger(v); } },
-    Setting { "Opacity", 100, [](Control& c, const BagValue& v) { c.paint.Settings.Opacity = ToShort(v); } },
+        "VirtualPageSize", 0, [](Control& c, const SettingValue& v) { c.settings.VirtualPageSize = v.ToShort(); } },
+    Setting {
+        "ScrollBarSize", 17, [](Control& c, const SettingValue& v) { c.layout.Settings.ScrollBarSize = v.ToShort(); } },
+    Setting { "AdjustLast", vxBoth, [](Control& c, const SettingValue& v) { c.settings.AdjustLast = v.ToInteger(); } },
+    Setting { "Opacity", 100, [](Control& c, const SettingValue& v) { c.paint.Settings.Opacity = v.ToShort(); } },
 };
 
 } // namespace
@@ -164,7 +150,7 @@ const std::array settingsInOrder {
 void Control::ReadSettings(const PropertyBag& bag)
 {
     for (const Setting& setting : settingsInOrder)
-        setting.store(*this, bag.ReadProperty(setting.name).value_or(setting.fallback));
+        setting.store(*this, { bag.ReadProperty(setting.name).value_or(setting.fallback), container.GetLocale() });
 }
 
 } // namespace vornix

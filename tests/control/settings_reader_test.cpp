@@ -55,6 +55,8 @@ TEST_F(SettingsReader, AnEmptyBagGivesTheDefaults)
     EXPECT_EQ(Grid().ResizeMode(), 3);
     EXPECT_FALSE(Grid().ResizingRows());
     EXPECT_EQ(Grid().SelectMode(), 3);
+    EXPECT_FALSE(Grid().SelectByRowCol());
+    EXPECT_FALSE(Grid().CellSelection());
     EXPECT_TRUE(Grid().Redraw());
     EXPECT_EQ(Grid().GridLineWidth(), 1);
     EXPECT_FALSE(Grid().CaptionEnabled());
@@ -123,6 +125,21 @@ TEST_F(SettingsReader, TheCaptionLiesInItsCell)
     EXPECT_EQ(Grid().Text(-1, -1), u"");
 }
 
+TEST_F(SettingsReader, WhatAPressSelectsIsRead)
+{
+    bag.WriteProperty("SelectMode", 1);
+    bag.WriteProperty("SelectByRowCol", true);
+    Load();
+    EXPECT_EQ(Grid().SelectMode(), vxRow);
+    EXPECT_TRUE(Grid().SelectByRowCol());
+    EXPECT_FALSE(Grid().CellSelection());
+    bag.values.clear();
+    bag.WriteProperty("CellSelection", true);
+    Load();
+    EXPECT_FALSE(Grid().SelectByRowCol());
+    EXPECT_TRUE(Grid().CellSelection());
+}
+
 TEST_F(SettingsReader, TheBorderIsApplied)
 {
     bag.WriteProperty("BorderStyle", 1);
@@ -149,7 +166,7 @@ TEST_F(SettingsReader, ValuesOfTheWrongTypeOrWidthAreErrors)
         return ErrorOf([&] { Load(); });
     };
     EXPECT_EQ(load("Rows", std::u16string(u"many")), 13);
-    EXPECT_EQ(load("Caption", 3), 13);
+    EXPECT_EQ(load("Caption", FontPtr()), 13);
     EXPECT_EQ(load("Font", 3), 13);
     EXPECT_EQ(load("Picture", true), 13);
     EXPECT_EQ(load("Rows", 40000), 6);
@@ -159,6 +176,20 @@ TEST_F(SettingsReader, ValuesOfTheWrongTypeOrWidthAreErrors)
     bag.WriteProperty("FixedRows", 1);
     EXPECT_EQ(load("Redraw", 0), std::nullopt);
     EXPECT_FALSE(Grid().Redraw());
+}
+
+TEST_F(SettingsReader, ValuesAreConvertedAsArgumentsAre)
+{
+    bag.WriteProperty("Rows", std::u16string(u"7"));
+    bag.WriteProperty("AltColorEnabled", std::u16string(u"True"));
+    bag.WriteProperty("ShowSplit", 1);
+    bag.WriteProperty("FixedRows", 1);
+    bag.WriteProperty("Caption", 3);
+    Load();
+    EXPECT_EQ(Grid().Rows(), 7);
+    EXPECT_TRUE(Grid().AltColorEnabled());
+    EXPECT_TRUE(Grid().ShowSplit());
+    EXPECT_EQ(Grid().Caption(), u"3");
 }
 
 TEST_F(SettingsReader, CountsThatLeaveSixteenBitsTogetherAreOverflow)

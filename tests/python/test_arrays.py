@@ -98,8 +98,8 @@ class TestLoadFromArray(GridTest):
             self.g.LoadFromArray(nothing)
             self.assertEqual((self.g.Rows, self.g.Cols), (4, 3))
 
-    def test_columns_that_differ_in_length_are_error_5(self) -> None:
-        with self.raises(5) as raised:
+    def test_columns_that_differ_in_length_are_error_9(self) -> None:
+        with self.raises(9) as raised:
             self.g.LoadFromArray([["a", "b"], ["c"]])
         assert raised.error is not None
         self.assertIn("Column 1 has 1 records, column 0 has 2", raised.error.description)

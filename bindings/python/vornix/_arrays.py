@@ -12,7 +12,7 @@ from typing import Any, Callable, Dict, FrozenSet, List, Optional, Sequence
 from . import _library
 from ._checks import check
 from ._dates import to_days
-from ._errors import INVALID_ARGUMENT, OVERFLOW, TYPE_MISMATCH, AutomationError
+from ._errors import OVERFLOW, SUBSCRIPT_OUT_OF_RANGE, TYPE_MISMATCH, AutomationError
 from ._library import library
 
 # The length of a text that is null.
@@ -73,7 +73,7 @@ def _to_table(columns: Any) -> List[Sequence[Any]]:
     for place, column in enumerate(table):
         if len(column) != len(table[0]):
             raise AutomationError(
-                INVALID_ARGUMENT,
+                SUBSCRIPT_OUT_OF_RANGE,
                 f"Column {place} has {len(column)} records, column 0 has {len(table[0])}",
             )
     return table

@@ -6,6 +6,7 @@ __all__ = ["AutomationError"]
 
 INVALID_ARGUMENT = 5
 OVERFLOW = 6
+SUBSCRIPT_OUT_OF_RANGE = 9
 TYPE_MISMATCH = 13
 NO_SUCH_MEMBER = 438
 NOT_SUPPORTED = 445
@@ -14,6 +15,7 @@ NOT_SUPPORTED = 445
 _DESCRIPTIONS = {
     INVALID_ARGUMENT: "Invalid procedure call or argument",
     OVERFLOW: "Overflow",
+    SUBSCRIPT_OUT_OF_RANGE: "Subscript out of range",
     TYPE_MISMATCH: "Type mismatch",
     NO_SUCH_MEMBER: "Object doesn't support this property or method",
     NOT_SUPPORTED: "Object doesn't support this action",

@@ -151,6 +151,28 @@ TEST_F(ShuffledColumns, TheTitleKeepsItsCell)
     EXPECT_EQ(control.store.CellAt(0, 2).Text(), u"");
 }
 
+TEST_F(ShuffledColumns, SelectedOnesStaySelected)
+{
+    Shuffle({ 1, 2, 0, 3 });
+    control.selection.Ranges().AddCols(true, 2, 2);
+    control.selection.Ranges().AddCols(false, 3, 3);
+    control.RestoreColumnOrder();
+    EXPECT_TRUE(control.selection.Ranges().IsColSelected(1)) << "a";
+    EXPECT_FALSE(control.selection.Ranges().IsColSelected(2)) << "b";
+    EXPECT_TRUE(control.selection.Ranges().IsColSelected(3)) << "c";
+    EXPECT_EQ(control.selection.Ranges().CountCols(), 2);
+}
+
+TEST_F(ShuffledColumns, SelectedCellsAreNotAnyMoreWhenAColumnMoves)
+{
+    control.selection.Ranges().AddCells(true, 0, 1, 1, 1);
+    control.RestoreColumnOrder();
+    EXPECT_EQ(control.selection.Ranges().CountCells(), 2) << "no column moved";
+    Shuffle({ 1, 0, 2, 3 });
+    control.RestoreColumnOrder();
+    EXPECT_EQ(control.selection.Ranges().CountCells(), 0);
+}
+
 class MovedSpans : public ShuffledColumns {
 protected:
     void Span(int row, int col, i16 rows, i16 cols)

@@ -97,6 +97,11 @@ public:
     void KeyDown(i16& KeyCode, i16& Shift);
     void KeyPress(i16& KeyAscii);
     void KeyUp(i16& KeyCode, i16& Shift);
+    // What the user did with one of the bars, scrV or scrH, as a number of ScrollBar::Notify, and 120 for each notch
+    // that the wheel turns away from the user. Heard at run time while Redraw is on, by bars that show. Scroll the grid
+    // and raise Scroll, ScrollTrackRow or ScrollTrackCol.
+    void ScrollBarNotify(ChildName Bar, i32 Code);
+    void MouseWheel(i32 Delta);
 
     // -- Drawing and the redraw gate --
 
@@ -526,14 +531,18 @@ public:
 
     // -- Scrolling --
 
-    // First scrolling line. Negative values are ignored, large ones go to the last line. Repaints.
+    // First scrolling line. Negative values are ignored; large ones go as far as the bar does, and without a bar the
+    // view stays. Repaints.
     i16 FirstRow() const;
     void SetFirstRow(i16 Value);
     i16 FirstCol() const;
     void SetFirstCol(i16 Value);
-    // Last line that is whole on the screen, from the latest paint.
+    // Last line that is whole on the screen, from the latest paint. Written, the view moves so that the line comes last;
+    // a line that there is not is ignored. Repaints.
     i16 LastRow() const;
+    void SetLastRow(i16 Value);
     i16 LastCol() const;
+    void SetLastCol(i16 Value);
     // vxScrollEnum. Go back to whole columns, lay out anew, report themselves. ScrollVBar refuses vxScrollSmooth and,
     // in virtual mode, takes vxScrollTrack as vxNormalScroll.
     i32 ScrollHBar() const;
@@ -543,6 +552,17 @@ public:
     // Pixels. Writing does nothing.
     i16 ScrollBarSize() const;
     void SetScrollBarSize(i16 Value);
+    // Whether a bar takes input.
+    bool ScrollHEnabled() const;
+    void SetScrollHEnabled(bool Value);
+    bool ScrollVEnabled() const;
+    void SetScrollVEnabled(bool Value);
+    // vxScrollBarStyleEnum; always vxSB3D. Writing does nothing.
+    i32 ScrollBarStyle() const;
+    void SetScrollBarStyle(i32 Value);
+    // Whether a bar shows.
+    bool IsVisibleScrollH() const;
+    bool IsVisibleScrollV() const;
 
     // -- Tables in and out --
 

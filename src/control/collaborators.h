@@ -1,6 +1,7 @@
 // What the shell asks of the parts that come to life with input and data. A part that is not there does nothing.
 #pragma once
 
+#include "interact/scrolling.h"
 #include "model/repainter.h"
 
 namespace vornix {
@@ -13,20 +14,10 @@ public:
     virtual void TakeFocus() { }
 };
 
-class ScrollBarControl {
+class VirtualModeControl : public PageRoller {
 public:
-    virtual ~ScrollBarControl() = default;
-    // Places both bars and takes their range and position from the layout.
-    virtual void Update() { }
-    // Whether the bars answer to the user.
-    virtual void SetHooked(bool /*hooked*/) { }
-    virtual void EnableSmoothScroll() { }
-};
-
-class VirtualModeControl {
-public:
-    virtual ~VirtualModeControl() = default;
     virtual void SetUp() { }
+    void RollPage() override { }
 };
 
 class RecordSourceControl {

@@ -8,6 +8,7 @@
 #include "control/repaint_funnel.h"
 #include "interact/current_cell.h"
 #include "interact/grid_selection.h"
+#include "interact/scrolling.h"
 #include "layout/layout_engine.h"
 #include "layout/scroll_model.h"
 #include "model/grid_store.h"
@@ -52,13 +53,13 @@ public:
     ShellSettings settings;
 
     EditSessionControl editor;
-    ScrollBarControl bars;
     VirtualModeControl virtualMode;
     RecordSourceControl recordSource;
 
     GridInteraction interaction;
     PaintPipeline paint;
     RepaintFunnel funnel;
+    Scrolling scrolling;
     Broadcast broadcast;
 
     // Twips a pixel, as the screen had them when the control was made.

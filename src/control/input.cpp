@@ -43,4 +43,14 @@ void Vornix::KeyUp(i16& KeyCode, i16& Shift)
     Enter()->events.KeyUp(KeyCode, Shift);
 }
 
+void Vornix::ScrollBarNotify(ChildName Bar, i32 Code)
+{
+    Enter()->scrolling.Notify(Bar, Code);
+}
+
+void Vornix::MouseWheel(i32 Delta)
+{
+    Enter()->scrolling.Wheel(Delta);
+}
+
 } // namespace vornix

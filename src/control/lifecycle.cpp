@@ -70,7 +70,7 @@ void Control::HookBars(bool hooked)
     if (barsHooked_ == hooked)
         return;
     barsHooked_ = hooked;
-    bars.SetHooked(hooked);
+    scrolling.SetHooked(hooked);
 }
 
 bool Control::PopulatePage()
@@ -88,7 +88,7 @@ void Control::Load()
         return;
     HookBars(true);
     if (layout.Settings.ScrollHBar == vxScrollSmooth)
-        bars.EnableSmoothScroll();
+        scrolling.HorizontalBar().SetSmoothScroll(true);
     gate.RestoreFromRedraw();
 }
 

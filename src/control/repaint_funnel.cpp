@@ -57,7 +57,7 @@ void RepaintFunnel::RecalcLayout(bool forcePercent)
 
     layout.UpdateClientArea();
     context_.paint.RebuildBackgroundIfStale();
-    context_.bars.Update();
+    context_.scrolling.UpdateScrollBars();
     if (!context_.paint.Repainted())
         RepaintGrid();
 }
@@ -106,16 +106,6 @@ void RepaintFunnel::RefreshCellUnderGate(int row, int col)
         RefreshIfInRange(row, col);
 }
 
-void RepaintFunnel::ApplyScrollAndRepaint()
-{
-    if (context_.editor.IsEditorOpen())
-        context_.editor.CloseEditor();
-    if (!context_.gate.IsOpen() || !ready_)
-        return;
-    context_.bars.Update();
-    RepaintGrid();
-}
-
 void RepaintFunnel::ClientSizeChanged()
 {
     sizeChangePending_ = true;
@@ -143,8 +133,11 @@ void RepaintFunnel::PaintSplitBar()
 {
     bool viewMoved = false;
     Paint([&] { viewMoved = context_.paint.PaintSplitBar(); });
-    if (viewMoved)
-        RepaintUnderGate();
+    if (!viewMoved)
+        return;
+    if (context_.layout.HBarHeight() > 0)
+        context_.scrolling.UpdateHScrollRange();
+    RepaintUnderGate();
 }
 
 } // namespace vornix

@@ -2,7 +2,7 @@
 // of these. Internal indices.
 #pragma once
 
-#include "control/collaborators.h"
+#include "interact/scrolling.h"
 #include "layout/layout_engine.h"
 #include "model/redraw_gate.h"
 #include "model/repainter.h"
@@ -17,7 +17,7 @@ struct RepaintContext {
     PaintPipeline& paint;
     RedrawGate& gate;
     EditorControl& editor;
-    ScrollBarControl& bars;
+    Scrolling& scrolling;
     Container& container;
 };
 
@@ -50,8 +50,6 @@ public:
     void RefreshColUnderGate(int col);
     void RefreshCellUnderGate(int row, int col);
 
-    // After a change of the scroll position.
-    void ApplyScrollAndRepaint();
     // The window has another client size: back store and layout follow.
     void ClientSizeChanged();
     void PaintMessage();

@@ -1,4 +1,4 @@
-// The title, the split, and where the view stands.
+// The title, the split, and what is read of the current cell and of virtual mode.
 #include "automation/checked.h"
 #include "control/control.h"
 
@@ -67,7 +67,7 @@ void Vornix::SetSplitCols(i16 Value)
 {
     const auto control = Enter();
     if (control->layout.SetSplitCols(Value))
-        control->funnel.ApplyScrollAndRepaint();
+        control->scrolling.ApplyScrollAndRepaint();
 }
 
 bool Vornix::ShowSplit() const
@@ -92,107 +92,6 @@ void Vornix::SetShowSplit(bool Value)
     else
         control->funnel.PaintSplitBar();
     control->Report("ShowSplit");
-}
-
-i16 Vornix::FirstRow() const
-{
-    const auto control = Enter();
-    return control->PublicRow(control->scroll.FirstRow());
-}
-
-void Vornix::SetFirstRow(i16 Value)
-{
-    const auto control = Enter();
-    if (Value < 0)
-        return;
-    const GridStore& store = control->store;
-    const int row = std::max<int>(
-        control->InternalRow(std::min<i16>(Value, static_cast<i16>(store.Rows() - 1))), store.FixedRows());
-    if (row == control->scroll.FirstRow())
-        return;
-    control->scroll.SetFirstRow(row);
-    control->funnel.ApplyScrollAndRepaint();
-}
-
-i16 Vornix::FirstCol() const
-{
-    const auto control = Enter();
-    return control->PublicCol(control->scroll.FirstCol());
-}
-
-void Vornix::SetFirstCol(i16 Value)
-{
-    const auto control = Enter();
-    if (Value < 0)
-        return;
-    const i16 lastCol = static_cast<i16>(control->store.Cols() - 1);
-    const int col = control->InternalCol(std::min(Value, lastCol));
-    if (col == control->scroll.FirstCol() && control->layout.SmoothOffset() == 0)
-        return;
-    control->scroll.SetFirstCol(std::max(col, control->layout.FirstScrollCol()));
-    control->layout.SetSmoothOffset(0);
-    control->funnel.ApplyScrollAndRepaint();
-}
-
-i16 Vornix::LastRow() const
-{
-    const auto control = Enter();
-    return control->PublicRow(control->scroll.LastRow());
-}
-
-i16 Vornix::LastCol() const
-{
-    const auto control = Enter();
-    return control->PublicCol(control->scroll.LastCol());
-}
-
-i32 Vornix::ScrollHBar() const
-{
-    return Enter()->layout.Settings.ScrollHBar;
-}
-
-void Vornix::SetScrollHBar(i32 Value)
-{
-    const auto control = Enter();
-    if (Value == control->layout.Settings.ScrollHBar)
-        return;
-    control->layout.Settings.ScrollHBar = Value;
-    control->layout.SetSmoothOffset(0);
-    control->RelayoutForBars();
-    control->Report("ScrollHBar");
-}
-
-i32 Vornix::ScrollVBar() const
-{
-    return Enter()->layout.Settings.ScrollVBar;
-}
-
-void Vornix::SetScrollVBar(i32 Value)
-{
-    const auto control = Enter();
-    if (Value == control->layout.Settings.ScrollVBar || Value == vxScrollSmooth)
-        return;
-    // Dragging must not fetch a page at every step.
-    const bool isVirtual = control->settings.VirtualPageSize >= 1;
-    control->layout.Settings.ScrollVBar = isVirtual && Value == vxScrollTrack ? i32(vxNormalScroll) : Value;
-    control->RelayoutForBars();
-    control->Report("ScrollVBar");
-}
-
-void Control::RelayoutForBars()
-{
-    if (gate.IsOpen() || !IsRunMode())
-        funnel.RecalcLayout(false);
-}
-
-i16 Vornix::ScrollBarSize() const
-{
-    return Enter()->layout.Settings.ScrollBarSize;
-}
-
-void Vornix::SetScrollBarSize(i16 /*Value*/)
-{
-    const auto control = Enter();
 }
 
 i32 Vornix::CurrentRow() const

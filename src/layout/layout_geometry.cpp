@@ -28,17 +28,18 @@ int SpanLength(i16 span)
     return std::max<int>(span, 1);
 }
 
+// No narrowing: the walk ends as soon as the lines pass the client area.
 template <class SizeOf> int FirstForLast(int last, int firstScrolling, int frozen, int client, SizeOf sizeOf)
 {
     if (last < firstScrolling)
         return last;
-    i16 acc = ToI16(frozen);
+    int acc = frozen;
     int best = last;
     for (int line = last; line >= firstScrolling; --line) {
         const int size = sizeOf(line);
-        acc = ToI16(acc + size);
+        acc += size;
         if (acc > client) // a line too large for the area stands alone
-            return ToI16(size + frozen) <= client ? best : line;
+            return size + frozen <= client ? best : line;
         if (size > 0)
             best = line;
     }

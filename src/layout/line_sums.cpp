@@ -58,6 +58,15 @@ i16 LineSums::AddWidths(int start, int first, int last) const
     return Add(start, first, last, WidthsOf(store_));
 }
 
+// No overflow: there are less than 2^15 lines of less than 2^15 pixels.
+i32 LineSums::TotalWidth(int first, int last) const
+{
+    i32 sum = 0;
+    for (int line = first; line <= last; ++line)
+        sum += store_.WidthOf(line);
+    return sum;
+}
+
 i16 LineSums::RoomAfterRows(int room, int first, int last) const
 {
     return RoomAfter(room, first, last, HeightsOf(store_));

@@ -17,6 +17,9 @@ public:
     i16 AddHeights(int start, int first, int last) const;
     i16 AddWidths(int start, int first, int last) const;
 
+    // The widths of lines first..last together, which may be more than 16 bits hold.
+    i32 TotalWidth(int first, int last) const;
+
     // `room` less the sizes of lines first..last, stopping behind the line that makes it negative. Error 6 as above.
     i16 RoomAfterRows(int room, int first, int last) const;
     i16 RoomAfterCols(int room, int first, int last) const;

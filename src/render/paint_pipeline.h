@@ -59,6 +59,9 @@ public:
 
     int PaintLastRow() const { return walk_.PaintLastRow(); }
     int PaintLastCol() const { return walk_.PaintLastCol(); }
+    // Written ahead of the next paint, when the program says which lines come last.
+    void SetPaintLastRow(int row) { walk_.SetPaintLastRow(row); }
+    void SetPaintLastCol(int col) { walk_.SetPaintLastCol(col); }
     // Forgets where the last cell was painted.
     void ResetCache() { walk_.ResetCache(); }
     // The visible rectangle of the cell in progress.

@@ -20,6 +20,9 @@ public:
     // Of the latest walk, as far as the store still has them.
     int PaintLastRow() const { return std::min<int>(paintLastRow_, context_.store.MaxRow()); }
     int PaintLastCol() const { return std::min<int>(paintLastCol_, context_.store.MaxCol()); }
+    // Written ahead of the next walk, when the program says which lines come last.
+    void SetPaintLastRow(int row) { paintLastRow_ = row; }
+    void SetPaintLastCol(int col) { paintLastCol_ = col; }
     // Visible rectangle of the latest cell.
     const Rect& CellRect() const { return cellRect_; }
     // Forgets where the latest cell was.

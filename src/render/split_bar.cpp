@@ -57,7 +57,8 @@ void PaintPipeline::PlaceSplitHandleAtBar()
     const int clientHeight = layout.ClientHeight();
     handle.Move({ 0, clientHeight, width, clientHeight + layout.Settings.ScrollBarSize });
     const int barTop = clientHeight - 1;
-    context_.container.Child(ChildName::scrH).Move({ width, barTop, clientWidth, barTop + layout.HBarHeight() + 1 });
+    const int barLeft = layout.Settings.ShowSplit ? width : 0;
+    context_.container.Child(ChildName::scrH).Move({ barLeft, barTop, clientWidth, barTop + layout.HBarHeight() + 1 });
     layout.SetFrozenColsWidth(layout.FixedColsWidth());
 }
 

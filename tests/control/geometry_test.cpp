@@ -66,6 +66,7 @@ TEST_F(Geometry, SizesOutsideTheStoreAreError9)
 
 TEST_F(Geometry, AFirstLineThatVanishesMovesTheViewOn)
 {
+    Grid().SetRedraw(false); // with everything in sight, the next layout goes back to the first line
     Grid().SetColWidth(0, 0);
     Grid().SetRowHeight(0, 0);
     EXPECT_EQ(Grid().FirstCol(), 1);

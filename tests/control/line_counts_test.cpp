@@ -158,12 +158,16 @@ TEST_F(LineCounts, FixedLinesMoveTheView)
 TEST_F(LineCounts, ShrinkingBringsTheViewBackToTheLastLine)
 {
     Table(50, 20, 1, 1);
+    Grid().SetRedraw(false);
     Grid().SetFirstRow(40);
     Grid().SetFirstCol(15);
     Grid().SetRows(5);
     Grid().SetCols(3);
     EXPECT_EQ(Grid().FirstRow(), 4);
     EXPECT_EQ(Grid().FirstCol(), 2);
+    Grid().SetRedraw(true);
+    EXPECT_EQ(Grid().FirstRow(), 0) << "everything fits";
+    EXPECT_EQ(Grid().FirstCol(), 0);
     Grid().SetRows(0);
     Grid().SetCols(0);
     EXPECT_EQ(Grid().FirstRow(), 0);

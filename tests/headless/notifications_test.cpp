@@ -98,9 +98,8 @@ TEST_F(Notifications, ArriveWhileTheRedrawGateIsClosed)
     EXPECT_EQ(SaidNames(), (Lines { "MouseMove" }));
 }
 
-TEST_F(Notifications, OfTheWheelAndTheTimerAreNotSupported)
+TEST_F(Notifications, OfTheTimerAreNotSupported)
 {
-    EXPECT_EQ(ErrorOf([&] { host->Wheel(120); }), 445);
     EXPECT_EQ(ErrorOf([&] { host->Tick(); }), 445);
     EXPECT_TRUE(host->Log().empty());
     host->Close();

@@ -391,11 +391,13 @@ TEST_F(LayoutGeometry, FirstForLastWithAllLinesHiddenIsTheLastLine)
     EXPECT_EQ(table.layout.FirstColForLast(4), 4);
 }
 
-TEST_F(LayoutGeometry, FirstForLastErrors)
+TEST_F(LayoutGeometry, FirstForLastNeedsNoSumBeyondTheClientArea)
 {
     EXPECT_EQ(ErrorOf([&] { table.layout.FirstColForLast(6); }), ErrorNumber::SubscriptOutOfRange);
     table.Heights({ 10, 12, 20, 30, 40, 32767 });
-    EXPECT_EQ(ErrorOf([&] { table.layout.FirstRowForLast(5); }), ErrorNumber::Overflow);
+    table.LayoutWithoutBars(100, 100);
+    EXPECT_EQ(table.layout.FirstRowForLast(5), 5);
+    EXPECT_EQ(ErrorOf([&] { table.layout.FirstRowForLast(7); }), ErrorNumber::SubscriptOutOfRange);
 }
 
 TEST_F(LayoutGeometry, FixedLinesAreAlwaysVisible)

@@ -59,7 +59,8 @@ TEST_F(BulkFill, ScrollingShowsWhatWasFilledFarDown)
     EXPECT_EQ(host->Pixel(60, 2), 4000u);
     EXPECT_EQ(host->Pixel(60, 23), 4001u);
     Grid().SetFirstRow(4999);
-    EXPECT_EQ(host->Pixel(60, 2), 4999u);
+    EXPECT_EQ(Grid().LastRow(), 4999);
+    EXPECT_EQ(host->Pixel(60, 2), 4978u);
 }
 
 } // namespace

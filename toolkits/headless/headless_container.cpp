@@ -91,11 +91,14 @@ HeadlessContainer::HeadlessContainer(const HeadlessOptions& options)
     MakeWindow(ClientSize());
     if (!window_)
         throw std::bad_alloc();
-    std::array<HeadlessChild*, ChildNames.size()> children {};
-    std::ranges::transform(children_, children.begin(), [](HeadlessChild& child) { return &child; });
-    windows_ = std::make_unique<WindowStack>(*this, children);
+    const auto addressOf = [](HeadlessChild& child) { return &child; };
+    const auto behindBars = std::ranges::transform(bars_, children_.begin(), addressOf).out;
+    std::ranges::transform(otherChildren_, behindBars, addressOf);
+    windows_ = std::make_unique<WindowStack>(*this, children_);
     person_ = std::make_unique<Person>(*this, *windows_);
     grid_ = std::make_unique<Vornix>(*this, log_);
+    for (HeadlessScrollBar& bar : bars_)
+        bar.TellTo(*grid_);
     const MemoryBag emptyBag;
     if (options.design && !options.bag)
         grid_->InitProperties();
@@ -191,7 +194,7 @@ void HeadlessContainer::ClearLog()
 HeadlessChild* HeadlessContainer::FindChild(std::string_view name)
 {
     const auto found = std::find(ChildNames.begin(), ChildNames.end(), name);
-    return found == ChildNames.end() ? nullptr : &children_[static_cast<std::size_t>(found - ChildNames.begin())];
+    return found == ChildNames.end() ? nullptr : children_[static_cast<std::size_t>(found - ChildNames.begin())];
 }
 
 HeadlessChild& HeadlessContainer::Child(std::string_view name)
@@ -274,7 +277,19 @@ void HeadlessContainer::SetTimer(int interval, bool enabled)
 
 ChildWindow& HeadlessContainer::Child(ChildName name)
 {
-    return children_[static_cast<std::size_t>(name)];
+    return *children_[static_cast<std::size_t>(name)];
+}
+
+NativeScrollBar* HeadlessContainer::ScrollBar(ChildName name)
+{
+    switch (name) {
+    case ChildName::scrV:
+        return &VerticalBar();
+    case ChildName::scrH:
+        return &HorizontalBar();
+    default:
+        return nullptr;
+    }
 }
 
 void HeadlessContainer::ShowMessage(std::u16string_view title, std::u16string_view text, MessageIcon icon)

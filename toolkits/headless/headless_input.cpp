@@ -47,11 +47,9 @@ i16 HeadlessContainer::KeyUp(i16 code, i16 shift)
     return code;
 }
 
-void HeadlessContainer::Wheel(i32 /*delta*/)
+void HeadlessContainer::Wheel(i32 delta)
 {
-    RequireOpen();
-    throw AutomationError(
-        ErrorNumber::ActionNotSupported, "Wheel is not supported yet: the control has no scroll bars to turn");
+    grid_->MouseWheel(delta);
 }
 
 void HeadlessContainer::Tick()

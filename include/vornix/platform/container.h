@@ -35,6 +35,30 @@ public:
     virtual Device* Canvas() { return nullptr; }
 };
 
+// Range, page and position of a scroll bar. The thumb is as long as the page.
+struct ScrollBarInfo {
+    i32 min = 0;
+    i32 max = 0;
+    i32 page = 0;
+    i32 position = 0;
+};
+
+// A scroll bar as the platform shows it. It keeps range and position and never moves by itself: what its user does is
+// told to the control (Vornix::ScrollBarNotify), which sets the position that comes of it. With a range that is upside
+// down there is nothing to scroll.
+class NativeScrollBar {
+public:
+    virtual ~NativeScrollBar() = default;
+    virtual void SetInfo(const ScrollBarInfo& info) = 0;
+    virtual void SetRange(i32 min, i32 max) = 0;
+    virtual i32 Position() const = 0;
+    virtual void SetPosition(i32 position) = 0;
+    // Where the user holds the thumb; after the drag, where it was let go.
+    virtual i32 TrackPosition() const = 0;
+    // The native window.
+    virtual std::intptr_t Handle() const { return 0; }
+};
+
 // The children by the names they carry.
 enum class ChildName { scrV, scrH, txtTmp, cboTmp, fraEdit, cPivot, picSplitCol, picSplitMove };
 
@@ -98,6 +122,8 @@ public:
     // The one timer. Interval in milliseconds.
     virtual void SetTimer(int interval, bool enabled) = 0;
     virtual ChildWindow& Child(ChildName name) = 0;
+    // The bar in the child scrV or scrH. Null where the toolkit has no bars: their children then stay hidden.
+    virtual NativeScrollBar* ScrollBar(ChildName /*name*/) { return nullptr; }
 
     // A persisted property changed.
     virtual void PropertyChanged(std::string_view name) = 0;

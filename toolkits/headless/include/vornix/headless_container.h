@@ -4,6 +4,7 @@
 
 #include "vornix/event_log.h"
 #include "vornix/headless_child.h"
+#include "vornix/headless_scroll_bar.h"
 #include "vornix/memory_stores.h"
 #include "vornix/platform/container.h"
 #include "vornix/raster_surface.h"
@@ -95,8 +96,9 @@ public:
     i16 KeyDown(i16 code, i16 shift = 0);
     i16 KeyPress(i16 character);
     i16 KeyUp(i16 code, i16 shift = 0);
-    // Error 445: the control has no scroll bars for the wheel yet, and no watch over the pointer.
+    // 120 for each notch away from the user.
     void Wheel(i32 delta);
+    // Error 445: the control has no watch over the pointer yet.
     void Tick();
 
     // What a person does, in the platform's order. The window on top at a place gets the notifications of the pointer,
@@ -151,6 +153,8 @@ public:
     HeadlessChild* FindChild(std::string_view name);
     // Error 5 for a name that no child has.
     HeadlessChild& Child(std::string_view name);
+    HeadlessScrollBar& HorizontalBar() { return bars_[1]; }
+    HeadlessScrollBar& VerticalBar() { return bars_[0]; }
     MemorySettings& StoredSettings() { return *settings_; }
 
     // The control's picture. Logical pixels; 0xFFFFFFFF outside.
@@ -177,6 +181,7 @@ public:
     bool IsKeyDown(int code) const override;
     void SetTimer(int interval, bool enabled) override;
     ChildWindow& Child(ChildName name) override;
+    NativeScrollBar* ScrollBar(ChildName name) override;
     void PropertyChanged(std::string_view name) override { propertyChanges_.emplace_back(name); }
     SettingsStore& Settings() override { return *settings_; }
     std::u16string ClipboardText() const override { return clipboard_; }
@@ -199,7 +204,10 @@ private:
     EventLog log_;
     std::vector<std::string> propertyChanges_;
     std::vector<MessageBoxRecord> messageBoxes_;
-    std::array<HeadlessChild, 8> children_;
+    std::array<HeadlessScrollBar, 2> bars_ { HeadlessScrollBar(ChildName::scrV), HeadlessScrollBar(ChildName::scrH) };
+    std::array<HeadlessChild, 6> otherChildren_;
+    // By their names in ChildName, the bars first.
+    std::array<HeadlessChild*, 8> children_ {};
     std::u16string clipboard_;
     std::set<int> keysDown_;
     PointerShape pointer_ = PointerShape::Default;

@@ -52,8 +52,8 @@ public:
     std::optional<LineRange> NextRows() { return NextLines(SelectionKind::Rows); }
     // The first rectangle, its corners as they were given. Begins the walk anew.
     std::optional<std::pair<CellIndex, CellIndex>> FirstCells();
-    // The line at a place among the selected ones. 0 begins anew; a place before that of the latest call gives a line in
-    // front of its range.
+    // The line at a place among the selected ones. 0 begins anew; a place before that of the latest call gives a line
+    // in front of its range.
     std::optional<i32> LineAt(i32 place);
 
     // -- The drag --

@@ -252,7 +252,7 @@ void SelectCollection::UnSelectRange(i32 index)
             if (mode_ == SelectionKind::Cols || mode_ == SelectionKind::Rows)
                 AddRange(index + 1, right); // `item` is no longer valid
         } else if (index == item.left) {
-            // Of a range that was cut down to one line nothing is left: it stays, empty, and answers to this index again.
+            // A range that was cut down to one line stays, empty, and answers to its new left end.
             item.left = index + 1;
             item.isSingle = item.left == item.right;
         } else if (index == item.right) {

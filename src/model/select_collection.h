@@ -1,8 +1,8 @@
 // What is selected: rectangles of cells, or ranges of columns, or ranges of rows, by internal indices.
 //
 // Ranges lie in slots. A removed range leaves its slot free, and the next one to be added goes to the lowest slot freed
-// since, the one after that to the slot behind it, live or not: an overwritten range is gone while Count goes on rising.
-// Hosts know the selection by these counts and slots.
+// since, the one after that to the slot behind it, live or not: an overwritten range is gone while Count goes on
+// rising. Hosts know the selection by these counts and slots.
 #pragma once
 
 #include "vornix/types.h"

@@ -572,11 +572,24 @@ public:
     // or without records does nothing.
     void LoadFromArray(const VariantArray& Arr, bool IsNullTest = true);
 
-    // -- Current cell and virtual mode, as far as they are read --
+    // -- Current cell --
 
-    // NoIndex without a current cell.
+    // Public row, in virtual mode the place in the list, and public column; NoIndex without a current cell. Written, the
+    // editor closes without an event, the cell moves, snaps to the parent of its span and comes into view; the selection
+    // stays, and neither CellChange nor ValidateRow is raised. A hidden line gives way to the next visible one in the
+    // direction of the move. Fixed lines and lines that there are not are ignored, but for the mark of the current cell,
+    // which is off until the cell is painted again.
     i32 CurrentRow() const;
+    void SetCurrentRow(i32 Value);
     i16 CurrentCol() const;
+    void SetCurrentCol(i16 Value);
+    // Both at once. Fixed cells are reached, and hidden ones.
+    void CurrentPos(i32 Row, i16 Col);
+    // Whether the pair is exactly the current cell; a cell inside its span is not. Error 6 for an index beyond 16 bits.
+    bool IsCurrent(i16 Row, i16 Col) const;
+
+    // -- Virtual mode, as far as it is read --
+
     // Rows of the page, 0 without virtual mode; place of the page in the list.
     i16 VirtualPageSize() const;
     i32 VirtualOffset() const;

@@ -6,8 +6,11 @@
 #include "control/event_relay.h"
 #include "control/grid_interaction.h"
 #include "control/repaint_funnel.h"
+#include "interact/check_toggle.h"
 #include "interact/current_cell.h"
+#include "interact/current_cell_mover.h"
 #include "interact/grid_selection.h"
+#include "interact/keyboard.h"
 #include "interact/scrolling.h"
 #include "layout/layout_engine.h"
 #include "layout/scroll_model.h"
@@ -55,11 +58,15 @@ public:
     EditSessionControl editor;
     VirtualModeControl virtualMode;
     RecordSourceControl recordSource;
+    HoverControl hover;
 
     GridInteraction interaction;
     PaintPipeline paint;
     RepaintFunnel funnel;
     Scrolling scrolling;
+    CurrentCellMover mover;
+    CheckToggle checks;
+    Keyboard keyboard;
     Broadcast broadcast;
 
     // Twips a pixel, as the screen had them when the control was made.

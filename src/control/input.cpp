@@ -30,7 +30,10 @@ void Vornix::DblClick()
 
 void Vornix::KeyDown(i16& KeyCode, i16& Shift)
 {
-    Enter()->events.KeyDown(KeyCode, Shift);
+    const auto control = Enter();
+    control->events.KeyDown(KeyCode, Shift);
+    if (KeyCode != 0 && !control->IsClosed())
+        control->keyboard.KeyDown(KeyCode, Shift);
 }
 
 void Vornix::KeyPress(i16& KeyAscii)

@@ -94,18 +94,6 @@ void Vornix::SetShowSplit(bool Value)
     control->Report("ShowSplit");
 }
 
-i32 Vornix::CurrentRow() const
-{
-    const auto control = Enter();
-    return control->current.IsValid() ? control->PublicRow(control->current.Row()) : NoIndex;
-}
-
-i16 Vornix::CurrentCol() const
-{
-    const auto control = Enter();
-    return control->current.IsValid() ? control->PublicCol(control->current.Col()) : NoIndex;
-}
-
 i16 Vornix::VirtualPageSize() const
 {
     return Enter()->settings.VirtualPageSize;

@@ -198,8 +198,8 @@ std::map<std::string, Calling> LineCallings()
                     CallOk(grid, "RestoreVisualCell", { Integer(1) });
                     EXPECT_EQ(DescribedGet(grid, "CellBackColor", { Integer(1), Integer(1) }), "i64 5");
                 } } },
-        { "CurrentRow", { "i32 -32767" } },
-        { "CurrentCol", { "i16 -32767" } },
+        { "CurrentPos", { "empty", {}, {}, Reads("CurrentRow", {}, "i32 1") } },
+        { "IsCurrent", { "false" } },
         { "VirtualOffset", { "i32 0" } },
         { "VirtualPageSize", { "i16 0" } },
         { "LastRow", { "i16 3" } },

@@ -75,8 +75,8 @@ TEST_F(LateBinding, WhatIsNotBuiltIsError445BeforeItsArgumentsAreLookedAt)
     EXPECT_EQ(Error("InsertRows", InvokeKind::Call), 445);
     EXPECT_EQ(Error("InsertRows", InvokeKind::Call, { u"x", u"x", u"x" }), 445);
     EXPECT_EQ(Error("insertrows", InvokeKind::Let), 438) << "but not before the kind";
-    EXPECT_EQ(Error("CurrentRow", InvokeKind::Let, {}), 445) << "only the writing";
-    EXPECT_EQ(Get("CurrentRow"), Variant(i32 { NoIndex }));
+    EXPECT_EQ(Error("VirtualPageSize", InvokeKind::Let, {}), 445) << "only the writing";
+    EXPECT_EQ(Get("VirtualPageSize"), Variant(i16 { 0 }));
 }
 
 TEST_F(LateBinding, ConvertsWhatCanBeConverted)

@@ -1,0 +1,63 @@
+// Moves the current cell: what hosts write, and what the steps of keys and mouse have in common. No events but those of
+// painting and of paging are raised; behind each of these the cell is tested again. Internal indices unless said
+// otherwise.
+#pragma once
+
+#include "interact/cell_step.h"
+#include "interact/current_cell.h"
+#include "interact/current_cell_ports.h"
+
+namespace vornix {
+
+struct MoverContext {
+    const GridStore& store;
+    const Spans& spans;
+    const HiddenLines& hidden;
+    const RedrawGate& gate;
+    CurrentCell& current;
+    Scrolling& scrolling;
+    Repainter& repainter;
+    CellEditor& editor;
+    ListPage& page;
+};
+
+class CurrentCellMover {
+public:
+    explicit CurrentCellMover(MoverContext context);
+
+    // A host's moves, by public indices: the row is a place of the list in virtual mode. Values out of range only take
+    // the mark off. Hidden lines are stepped over by the first two, fixed cells are reached by the last.
+    void WriteRow(i32 Row);
+    void WriteCol(int Col);
+    void WritePos(i32 Row, int Col);
+    // As hosts read it; NoIndex without one.
+    i32 PublicRow() const;
+    int PublicCol() const;
+
+    // A real line's cell, fixed or not: no filler.
+    bool IsReal(CellIndex cell) const;
+    bool IsBody(CellIndex cell) const;
+    // A current cell exists, and so do its lines.
+    bool HasCurrent() const { return context_.current.IsValid() && IsReal(Current()); }
+    CellIndex Current() const { return { context_.current.Row(), context_.current.Col() }; }
+    // Takes the cell as it is, and its place in the list. Nothing is painted.
+    void Take(CellIndex cell);
+
+    // Paints the current cell without its mark. Nothing while the gate is closed.
+    void RepaintUnmarked();
+    // False when the view stayed. Otherwise all is painted, while the gate is open.
+    bool BringIntoView();
+    // Brings the current cell into view, or paints it where it is.
+    void Show();
+    void Repaint();
+
+private:
+    void BeginWrite();
+    void EndWrite(CellIndex cell);
+    bool IsInList(i32 Row) const;
+
+    MoverContext context_;
+    CellStep step_;
+};
+
+} // namespace vornix

@@ -1,0 +1,44 @@
+// What the steps around the current cell ask of the editor, of virtual mode and of the pointer. Internal indices.
+#pragma once
+
+#include "interact/scrolling.h"
+
+namespace vornix {
+
+class CellEditor : public EditorControl {
+public:
+    // Opens over a cell that is edited in place and enabled, and brings it into view. False when there is no editor to
+    // open, and nothing was done. Raises BeforeEdit.
+    virtual bool OpenEditor(int row, int col) = 0;
+    // Opens on the current cell or brings it into view, as a host asks for it.
+    virtual void EnterEdit() = 0;
+    // Where the caret stands in the editor's text.
+    virtual void SetSelStart(int place) = 0;
+    // Hides frame and window without an event; a session that was about to begin anew does not.
+    virtual void HideEditor() = 0;
+    // No cell is edited.
+    virtual void ForgetEditCell() = 0;
+};
+
+// The page of rows that stands at a place of a longer list. Off while its size is 0.
+class ListPage : public PageRoller {
+public:
+    virtual int PageSize() const = 0;
+    // The place of its first row in the list, and the length of the list.
+    virtual i32 Offset() const = 0;
+    virtual i32 Length() const = 0;
+    // Brings a place of the list into the page and the current row to it; without a current cell that is not fixed
+    // there is none afterwards. Raises PopulateGrid.
+    virtual void GotoListPosition(i32 position) = 0;
+    // Like RollPage, with the current row staying at its index.
+    virtual void RollPageWithCurrent() = 0;
+};
+
+class PointerHover {
+public:
+    virtual ~PointerHover() = default;
+    // The pointer counts as off the cells until it moves. Raises CellOut.
+    virtual void ExitHover() = 0;
+};
+
+} // namespace vornix

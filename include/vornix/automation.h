@@ -138,7 +138,8 @@ public:
     FontPtr ToFont() const;
     PicturePtr ToPicture() const;
     ObjectPtr ToObject() const;
-    // Error 13 when it is no array.
+    // Error 13 when it is no array; never null.
+    ArrayPtr ToArrayPtr() const;
     const VariantArray& ToArray() const;
 
     // Same type and same value; nothing is converted.

@@ -57,7 +57,7 @@ public:
     virtual void TextChange(i16 /*Row*/, i16 /*Col*/) { }
     virtual void ValidateRow() { }
     virtual void PopulateGrid(i32 /*Offset*/, i16 /*StartRow*/, i16 /*EndRow*/) { }
-    virtual void SearchResult(i16 /*IdSearch*/, i32& /*Pos*/) { }
+    virtual void SearchResult(i16 /*IdSearch*/, i16& /*Pos*/) { }
     virtual void DrawCell(i16 /*Row*/, i16 /*Col*/, Hdc& /*PictureHdc*/, bool& /*bCancel*/) { }
 };
 

@@ -76,7 +76,8 @@ public:
     // value is the last argument. The result is empty where nothing comes back. Errors 438 for a name or a kind that
     // the control does not have, 450 for a wrong number of arguments, 445 for members that are not built yet.
     Variant Invoke(std::string_view name, InvokeKind kind, std::span<Variant> args);
-    // The last arguments by name: names[i] is that of args[args.size() - names.size() + i]. Error 448 for a name that
+    // The last arguments by name: names[i] is that of args[args.size() - names.size() + i]. The value that a property is
+    // written with is called Value. Error 448 for a name that
     // the member does not have, 450 for one that is given twice. By-reference arguments come back where they were given.
     Variant Invoke(
         std::string_view name, InvokeKind kind, std::span<Variant> args, std::span<const std::string_view> names);

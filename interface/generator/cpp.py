@@ -73,6 +73,16 @@ def argument_type(interface: Interface, argument: Argument) -> str:
     return parameter_type(interface, argument.type)
 
 
+def default(argument: Argument) -> str:
+    """The default of an argument that has one."""
+    text = argument.default or ""
+    if text in ("True", "False"):
+        return text.lower()
+    if text.startswith('"'):
+        return f"u{text}"
+    return "NoIndex" if text == "-32767" else text
+
+
 def event_argument_type(interface: Interface, argument: Argument) -> str:
     """The C++ type of an event's argument; objects are what a drag carries."""
     if argument.type == "object":

@@ -10,7 +10,14 @@ VALUE_TYPES = frozenset(
     "i16 i32 f32 bool text color hdc handle font picture object array variant".split()
 )
 
-KINDS = ("property", "readonly", "writeonly", "method")
+# What members raise for reasons of their own.
+ERROR_WORDS = {
+    5: "invalid argument",
+    6: "overflow",
+    9: "subscript out of range",
+    13: "type mismatch",
+    94: "invalid use of null",
+}
 
 
 class IfaceError(Exception):
@@ -43,7 +50,8 @@ class Member:
     sentence: str
     errors: Tuple[int, ...] = ()
     raises: Tuple[str, ...] = ()
-    reports: bool = False
+    # The name of the property whose change writing reports; empty for none.
+    reports: str = ""
     pending_read: bool = False
     pending_write: bool = False
     example: Example = field(default_factory=Example)
@@ -143,7 +151,8 @@ class Interface:
 class _Marks:
     errors: Tuple[int, ...] = ()
     raises: Tuple[str, ...] = ()
-    reports: bool = False
+    # The name that is reported; empty for the member's own.
+    reports: Optional[str] = None
     pending: Optional[str] = None
 
     def over(self, family: "_Marks") -> "_Marks":
@@ -151,7 +160,7 @@ class _Marks:
         return _Marks(
             self.errors or family.errors,
             self.raises or family.raises,
-            self.reports or family.reports,
+            self.reports if self.reports is not None else family.reports,
             self.pending if self.pending is not None else family.pending,
         )
 
@@ -221,11 +230,15 @@ class _Reader:
         self.last_class().families.append(Family(found["name"], found["title"], found["sentence"]))
 
     def add_member(self, found: Dict[str, str]) -> None:
-        marks = self.marks(found["marks"]).over(self.family_marks)
         kind = found["kind"]
         arguments = self.arguments(found["arguments"])
         if kind != "method":
             self.check_property(arguments, found["result"])
+        own = self.marks(found["marks"])
+        marks = own.over(self.family_marks)
+        is_written = kind in ("property", "writeonly")
+        if own.reports is not None and not is_written:
+            self.fail(f"what is not written reports nothing: {found['name']}")
         member = Member(
             kind,
             found["name"],
@@ -234,9 +247,9 @@ class _Reader:
             found["sentence"],
             marks.errors,
             marks.raises,
-            marks.reports,
+            (marks.reports or found["name"]) if is_written and marks.reports is not None else "",
             pending_read=marks.pending == "all" and kind != "writeonly",
-            pending_write=marks.pending in ("all", "write") and kind in ("property", "writeonly"),
+            pending_write=marks.pending in ("all", "write") and is_written,
             line=self.number,
         )
         self.last_family().members.append(member)
@@ -306,11 +319,11 @@ class _Reader:
         for mark in (text or "").split("; "):
             word, _, rest = mark.strip().partition(" ")
             if word == "errors":
-                marks.errors = tuple(int(number) for number in rest.split())
+                marks.errors = self.error_numbers(rest)
             elif word == "raises":
                 marks.raises = tuple(rest.split())
             elif word == "reports":
-                marks.reports = True
+                marks.reports = rest
             elif word == "pending" and rest in ("", "write"):
                 marks.pending = rest or "all"
             elif word == "built":
@@ -319,6 +332,12 @@ class _Reader:
                 self.fail(f"unknown mark: {mark}")
         return marks
 
+    def error_numbers(self, text: str) -> Tuple[int, ...]:
+        for number in text.split():
+            if not number.isdigit() or int(number) not in ERROR_WORDS:
+                self.fail(f"not an error that a member raises: {number}")
+        return tuple(int(number) for number in text.split())
+
     def check(self) -> None:
         """What no single line can show: types that exist, names and numbers that are there once."""
         types = VALUE_TYPES | self.interface.enum_names
@@ -326,8 +345,12 @@ class _Reader:
             self.check_once([(member.name.lower(), member) for member in each.members])
             self.check_once([(event.name.lower(), event) for event in each.events])
             self.check_once([(str(event.number), event) for event in each.events])
+            events = {event.name for event in each.events}
             for member in each.members:
                 self.check_types(types, member, [member.result] if member.result else [])
+                for name in member.raises:
+                    if name not in events:
+                        self.fail(f"{member.name}: no event {name}", member.line)
             for event in each.events:
                 self.check_types(types, event, [])
         values = [name for enum in self.interface.enums for name, _ in enum.values]

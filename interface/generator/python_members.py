@@ -10,8 +10,8 @@
 import textwrap
 from typing import Dict, Iterable, List
 
-from iface import Argument, Event, Interface, Member
-from reference_pages import ERROR_WORDS, TYPE_WORDS
+from iface import ERROR_WORDS, Argument, Event, Interface, Member
+from reference_pages import TYPE_WORDS
 
 CONTROL = "Vornix"
 
@@ -102,7 +102,7 @@ def notes(member: Member) -> List[str]:
     if member.raises:
         words.append(f"Raises the event {', '.join(member.raises)}.")
     if member.reports:
-        words.append("Reports a change with PropertyChanged.")
+        words.append(f'Written, it reports PropertyChanged for "{member.reports}".')
     if member.kind == "readonly":
         words.append("Read only.")
     elif member.kind == "writeonly":

@@ -2,7 +2,8 @@
 
 from typing import Dict, List
 
-from iface import Argument, ControlClass, Event, Family, Interface, Member
+import cpp
+from iface import ERROR_WORDS, Argument, ControlClass, Event, Family, Interface, Member
 
 # What a member is declared as, in the words of each language.
 TYPE_WORDS = {
@@ -21,40 +22,8 @@ TYPE_WORDS = {
     "variant": "any value",
 }
 
-CPP_TYPES = {
-    "i16": "i16",
-    "i32": "i32",
-    "f32": "float",
-    "bool": "bool",
-    "text": "std::u16string",
-    "color": "OleColor",
-    "hdc": "Hdc",
-    "handle": "std::intptr_t",
-    "font": "FontPtr",
-    "picture": "PicturePtr",
-    "object": "ObjectPtr",
-    "array": "VariantArray",
-    "variant": "Variant",
-}
-# What is passed by value in C++ as something else than it comes back.
-CPP_PARAMETERS = {
-    "text": "std::u16string_view",
-    "font": "const FontPtr&",
-    "picture": "const PicturePtr&",
-    "object": "const ObjectPtr&",
-    "array": "const VariantArray&",
-    "variant": "const Variant&",
-}
-
 # What the object of a class is called in the spellings.
 VARIABLES = {"Vornix": "g", "vxTextBox": "box", "vxScrollBar": "bar"}
-
-ERROR_WORDS = {
-    5: "invalid argument",
-    6: "overflow",
-    9: "subscript out of range",
-    94: "invalid use of null",
-}
 
 EXAMPLE_START = """\
 >>> import vornix
@@ -87,7 +56,13 @@ Any call can fail with
 | 450 | too few or too many arguments |
 
 The entries name the numbers that a member raises for reasons of its own: 6 for an index whose sum with the fixed lines
-leaves 16 bits, 9 for an index outside the table.
+leaves 16 bits, 9 for an index outside the table. Whatever lays out anew raises 6 when fixed sizes add up to more than 16
+bits of pixels.
+
+## Events
+
+The entries name the events that a member raises for reasons of its own. Beyond that, whatever repaints raises DrawCell
+for the cells that ask for it, and whatever lays out anew closes an editor, with AfterEdit.
 
 ## Examples
 
@@ -111,29 +86,19 @@ def type_words(interface: Interface, name: str) -> str:
     return TYPE_WORDS[name]
 
 
-def cpp_type(interface: Interface, name: str) -> str:
-    return "i32" if name in interface.enum_names else CPP_TYPES[name]
-
-
 def cpp_argument(interface: Interface, argument: Argument) -> str:
-    if argument.by_ref:
-        return f"{cpp_type(interface, argument.type)}& {argument.name}"
-    kind = CPP_PARAMETERS.get(argument.type) or cpp_type(interface, argument.type)
-    default = ""
-    if argument.default is not None:
-        words = {"False": "false", "True": "true", "-32767": "NoIndex"}
-        default = " = " + words.get(argument.default, argument.default)
-    return f"{kind} {argument.name}{default}"
+    default = f" = {cpp.default(argument)}" if argument.default is not None else ""
+    return f"{cpp.argument_type(interface, argument)} {argument.name}{default}"
 
 
 def cpp_spellings(interface: Interface, member: Member) -> List[str]:
     arguments = [cpp_argument(interface, argument) for argument in member.arguments]
-    result = cpp_type(interface, member.result) if member.result else "void"
+    result = cpp.value_type(interface, member.result) if member.result else "void"
     lines = []
     if member.is_method or member.is_readable:
         lines.append(f"{result} {signature(member.name, arguments)}")
-    if member.is_writable:
-        value = CPP_PARAMETERS.get(member.result or "") or result
+    if member.is_writable and member.result:
+        value = cpp.parameter_type(interface, member.result)
         lines.append(f"void {signature('Set' + member.name, arguments + [f'{value} Value'])}")
     return lines
 
@@ -188,7 +153,7 @@ def notes(member: Member) -> List[str]:
     if member.raises:
         lines.append("Raises: " + ", ".join(f"[{name}](events.md#{name.lower()})" for name in member.raises) + ".")
     if member.reports:
-        lines.append(f'Written, it reports PropertyChanged for "{member.name}".')
+        lines.append(f'Written, it reports PropertyChanged for "{member.reports}".')
     if member.is_pending:
         lines.append("**Not built yet**: every call is error 445.")
     elif member.pending_write:
@@ -208,10 +173,10 @@ def member_entry(interface: Interface, member: Member, variable: str) -> List[st
 
 
 def event_entry(interface: Interface, event: Event) -> List[str]:
-    arguments = [cpp_argument(interface, argument) for argument in event.arguments]
     lines = [f"## {event.name}", "", f"Event {event.number}. {event.sentence}", ""]
-    lines += ["```cpp", f"void {signature(event.name, arguments)}", "```", ""]
-    return lines + argument_table(interface, list(event.arguments))
+    lines += ["```cpp", f"void {event.name}({cpp.event_parameters(interface, event)})", "```", ""]
+    lines += argument_table(interface, list(event.arguments))
+    return lines + (["**Not built yet**: it is never raised.", ""] if event.pending else [])
 
 
 def family_page(interface: Interface, family: Family, variable: str) -> str:

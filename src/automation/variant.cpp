@@ -341,9 +341,7 @@ DecimalValue Variant::ToDecimal(const Locale& locale) const
 
 OleColor Variant::ToColor(const Locale& locale) const
 {
-    const bool isWide = type_ == VariantType::I64 || type_ == VariantType::Double || type_ == VariantType::Currency
-        || type_ == VariantType::Decimal;
-    const std::int64_t value = isWide ? ToI64(locale) : ToI32(locale);
+    const std::int64_t value = ToI64(locale);
     if (value > std::numeric_limits<u32>::max())
         RaiseError(ErrorNumber::Overflow);
     return value < 0 ? static_cast<OleColor>(vornix::ToI32(value)) : static_cast<OleColor>(value);
@@ -364,12 +362,17 @@ ObjectPtr Variant::ToObject() const
     return PointerOf<ObjectPtr>(value_, type_, VariantType::Object);
 }
 
-const VariantArray& Variant::ToArray() const
+ArrayPtr Variant::ToArrayPtr() const
 {
     const ArrayPtr* array = std::get_if<ArrayPtr>(&value_);
     if (array == nullptr || *array == nullptr)
         RaiseError(ErrorNumber::TypeMismatch);
-    return **array;
+    return *array;
+}
+
+const VariantArray& Variant::ToArray() const
+{
+    return *ToArrayPtr();
 }
 
 } // namespace vornix

@@ -62,7 +62,7 @@ void ArgumentList::Order(std::span<const std::string_view> names)
 
 void ArgumentList::Place(std::size_t place, Variant& value)
 {
-    if (origins_[place] != nullptr)
+    if (origins_[place] != nullptr && !ordered_[place].IsMissing())
         RaiseError(ErrorNumber::WrongArgumentCount);
     origins_[place] = &value;
     ordered_[place] = value;

@@ -112,18 +112,19 @@ private:
     Value value_;
 };
 
-// Arrays and values of any type are taken as they were given.
+// Arrays and values of any type are taken as they were given, and held while the member runs: a host may write over the
+// given one meanwhile.
 template <> class Passed<const VariantArray&> {
 public:
     Passed(Variant& given, const Locale& /*locale*/)
-        : array_(given.ToArray())
+        : array_(given.ToArrayPtr())
     {
     }
-    const VariantArray& Get() { return array_; }
+    const VariantArray& Get() { return *array_; }
     void GiveBack() { }
 
 private:
-    const VariantArray& array_;
+    ArrayPtr array_;
 };
 
 template <> class Passed<const Variant&> {
@@ -136,7 +137,7 @@ public:
     void GiveBack() { }
 
 private:
-    const Variant& given_;
+    Variant given_;
 };
 
 template <auto member> class Thunk {

@@ -1,11 +1,13 @@
 #include "vornix/variant_events.h"
 
+#include "automation/checked.h"
+
 namespace vornix {
 
 template <typename Conversion> void VariantEvents::KeepingFailure(const Conversion& conversion)
 {
     try {
-        conversion();
+        OrOutOfMemory(conversion);
     } catch (const AutomationError& error) {
         if (!failure_)
             failure_ = error;

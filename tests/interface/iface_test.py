@@ -42,9 +42,11 @@ class Reading(unittest.TestCase):
         self.assertIsNone(found.result)
 
     def test_marks(self) -> None:
-        found = member("method Do() [errors 6 9; raises CellChange Click; reports]: Does.")
+        events = "\nevent 1 CellChange(): S.\nevent 2 Click(): S."
+        found = member("property Do() -> i16 [errors 6 9; raises CellChange Click; reports]: Does." + events)
         self.assertEqual((found.errors, found.raises), ((6, 9), ("CellChange", "Click")))
-        self.assertTrue(found.reports)
+        self.assertEqual(found.reports, "Do")
+        self.assertEqual(member("property Do() -> i16 [reports do]: Does.").reports, "do")
 
     def test_marks_of_the_family(self) -> None:
         text = 'class Vornix: A.\nfamily f "F" [pending; errors 6]: S.\n'

@@ -503,7 +503,7 @@ public:
     std::u16string Caption() const;
     void SetCaption(std::u16string_view Value);
     // Columns that stand still at the left. Ignored unless ShowSplit is on and the value is from 0 to below the last
-    // column's internal index. Repaints.
+    // column's internal index. Repaints, reports itself.
     i16 SplitCols() const;
     void SetSplitCols(i16 Value);
     // Reports itself.

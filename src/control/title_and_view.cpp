@@ -66,8 +66,10 @@ i16 Vornix::SplitCols() const
 void Vornix::SetSplitCols(i16 Value)
 {
     const auto control = Enter();
-    if (control->layout.SetSplitCols(Value))
-        control->scrolling.ApplyScrollAndRepaint();
+    if (!control->layout.SetSplitCols(Value))
+        return;
+    control->scrolling.ApplyScrollAndRepaint();
+    control->Report("SplitCols");
 }
 
 bool Vornix::ShowSplit() const

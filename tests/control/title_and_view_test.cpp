@@ -135,6 +135,7 @@ TEST_F(Split, KeepsColumnsStandingAtTheLeft)
     Grid().SetSplitCols(1);
     EXPECT_EQ(Grid().SplitCols(), 1);
     EXPECT_EQ(Grid().FirstCol(), 1);
+    EXPECT_EQ(host->PropertyChanges(), std::vector<std::string> { "SplitCols" });
     Grid().SetFirstCol(8);
     EXPECT_EQ(host->Pixel(90, 31), 0x00FFFFu);
     Grid().SetFirstCol(0);

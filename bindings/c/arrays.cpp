@@ -57,6 +57,14 @@ template <typename Make> void SetColumn(vornix_array& array, std::size_t column,
     WritableTable(array).columns[column] = std::move(values);
 }
 
+// Tables within tables would be of no use to a grid, and have no end to their depth.
+Variant ToElement(const vornix_value& value)
+{
+    if (value.type == VORNIX_ARRAY)
+        Raise(ErrorNumber::TypeMismatch, "An array cannot be an element of an array");
+    return ToVariant(value);
+}
+
 void AppendCodePoint(std::u16string& text, std::uint32_t codePoint)
 {
     if (codePoint > 0x10FFFF)
@@ -71,6 +79,8 @@ void AppendCodePoint(std::u16string& text, std::uint32_t codePoint)
 
 std::u16string ToUtf16(std::span<const std::uint32_t> codePoints)
 {
+    if (codePoints.size() > LongestText)
+        throw std::bad_alloc();
     std::u16string text;
     text.reserve(codePoints.size());
     for (const std::uint32_t codePoint : codePoints)
@@ -137,7 +147,9 @@ std::int32_t vornix_array_create(std::size_t columns, std::size_t records, vorni
         CheckSize(columns, records);
         auto made = std::make_unique<vornix_array>();
         made->table = std::make_shared<VariantArray>();
-        made->table->columns.resize(columns, std::vector<Variant>(records));
+        made->table->columns.resize(columns);
+        for (std::vector<Variant>& column : made->table->columns)
+            column.resize(records);
         made->records = records;
         *array = made.release();
     });
@@ -162,7 +174,7 @@ std::int32_t vornix_array_set(vornix_array* array, std::size_t column, std::size
         CheckColumn(*array, column);
         if (record >= array->records)
             Raise(ErrorNumber::SubscriptOutOfRange);
-        Variant element = ToVariant(*value);
+        Variant element = ToElement(*value);
         WritableTable(*array).columns[column][record] = std::move(element);
     });
 }
@@ -215,6 +227,6 @@ std::int32_t vornix_array_set_values(
     return Guarded([&] {
         Require(array);
         CheckWholeColumn(*array, column, count, values);
-        SetColumn(*array, column, [&](std::size_t record) { return ToVariant(values[record]); });
+        SetColumn(*array, column, [&](std::size_t record) { return ToElement(values[record]); });
     });
 }

@@ -28,7 +28,7 @@ public:
     LeftValues(const LeftValues&) = delete;
     LeftValues& operator=(const LeftValues&) = delete;
 
-    Values values;
+    Values values {};
 
 private:
     std::size_t count_;

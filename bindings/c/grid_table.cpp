@@ -56,12 +56,12 @@ std::unique_ptr<Grid> GridTable::RemoveOrAbandon(vornix_grid* handle)
     const bool isOwn = owner == Owner::Current();
     if (isOwn && handle->grid->IsInCall())
         Raise(ErrorNumber::InvalidArgument, "A grid cannot be destroyed inside one of its own calls");
-    if (isOwn || owner->HasEnded())
-        return Remove(handle);
     for (const vornix_grid* const abandoned : owner->Abandoned()) {
         if (abandoned == handle)
             Raise(ErrorNumber::InvalidArgument, "The grid has been destroyed");
     }
+    if (isOwn || owner->HasEnded())
+        return Remove(handle);
     owner->Abandon(handle);
     return nullptr;
 }

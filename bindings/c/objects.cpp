@@ -8,6 +8,7 @@
 
 #include <cmath>
 #include <filesystem>
+#include <fstream>
 #include <span>
 #include <string>
 
@@ -61,7 +62,7 @@ PicturePtr LoadPicture(const char* path)
     const std::filesystem::file_status status = std::filesystem::status(path, error);
     if (status.type() == std::filesystem::file_type::not_found)
         Raise(FileError::NotFound, (std::string(path) + ": no such file").c_str());
-    if (error || status.type() == std::filesystem::file_type::directory)
+    if (error || status.type() == std::filesystem::file_type::directory || !std::ifstream(path).is_open())
         Raise(FileError::AccessFailed, (std::string(path) + ": cannot be read").c_str());
     try {
         return LoadPng(path);
@@ -69,6 +70,21 @@ PicturePtr LoadPicture(const char* path)
         Raise(FileError::InvalidPicture, failure.what());
     }
 }
+
+// What a caller gave, and gets back at the end.
+struct Held {
+    void* pointer = nullptr;
+    void (*release)(void* pointer) = nullptr;
+
+    Held() = default;
+    ~Held()
+    {
+        if (release != nullptr)
+            release(pointer);
+    }
+    Held(const Held&) = delete;
+    Held& operator=(const Held&) = delete;
+};
 
 } // namespace
 
@@ -173,10 +189,11 @@ std::int32_t vornix_object_create(void* pointer, void (*release)(void* pointer),
         Require(pointer);
         Require(object);
         auto made = std::make_unique<vornix_object>();
-        if (release != nullptr)
-            made->object = ObjectPtr(pointer, release);
-        else
-            made->object = ObjectPtr(pointer, [](void*) {});
+        // Nothing is released to the caller until all is made: a failure leaves the pointer his.
+        auto holder = std::make_shared<Held>();
+        made->object = ObjectPtr(holder, pointer);
+        holder->pointer = pointer;
+        holder->release = release;
         *object = made.release();
     });
 }

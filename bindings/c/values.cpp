@@ -12,8 +12,6 @@ namespace vornix::c {
 
 namespace {
 
-constexpr std::size_t LongestText = std::size_t { 1 } << 30;
-
 // The numbers of the two sides are the same, so that none has to be translated.
 static_assert(VORNIX_EMPTY == static_cast<int>(VariantType::Empty) && VORNIX_NULL == static_cast<int>(VariantType::Null)
     && VORNIX_I16 == static_cast<int>(VariantType::I16) && VORNIX_I64 == static_cast<int>(VariantType::I64)

@@ -11,6 +11,9 @@
 
 namespace vornix::c {
 
+// In UTF-16 units.
+inline constexpr std::size_t LongestText = std::size_t { 1 } << 30;
+
 // A copy of what the caller passed. Errors 5 for a null pointer behind a length, 7 for a text that is too long.
 std::u16string ToText(const vornix_text& text);
 // The text seen from outside, valid as long as it is.

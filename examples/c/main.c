@@ -40,15 +40,15 @@ static vornix_value text(const char16_t* value)
     return (vornix_value) { .type = VORNIX_TEXT, .as.text = { (const uint16_t*)value, length } };
 }
 
-/* Properties without arguments, of a column, and of a cell. */
+/* Properties without arguments, of a column or a row, and of a cell. */
 static void let(vornix_grid* grid, const char* name, vornix_value value)
 {
     check(vornix_invoke(grid, name, VORNIX_LET, &value, 1, NULL), name);
 }
 
-static void let_col(vornix_grid* grid, const char* name, int col, vornix_value value)
+static void let_line(vornix_grid* grid, const char* name, int line, vornix_value value)
 {
-    vornix_value arguments[] = { integer(col), value };
+    vornix_value arguments[] = { integer(line), value };
     check(vornix_invoke(grid, name, VORNIX_LET, arguments, COUNT(arguments), NULL), name);
 }
 
@@ -64,6 +64,7 @@ static void on_event(void* user, vornix_grid* grid, int32_t event, vornix_value*
     (void)count;
     if (event != VORNIX_EVENT_MouseDown)
         return;
+    /* The event's arguments, in their order: Button, Shift, x, y. */
     vornix_value cell[] = { number(arguments[2].as.number), number(arguments[3].as.number), integer(0), integer(0) };
     vornix_value found;
     check(vornix_invoke(grid, "GetCellAtPos", VORNIX_CALL, cell, COUNT(cell), &found), "GetCellAtPos");
@@ -71,7 +72,7 @@ static void on_event(void* user, vornix_grid* grid, int32_t event, vornix_value*
         return;
     /* The last two are by reference: the row and the column came back in their places. */
     printf("pressed row %d, column %d\n", (int)cell[2].as.integer, (int)cell[3].as.integer);
-    let_col(grid, "RowBackColor", (int)cell[2].as.integer, integer(0x00C0FFFF));
+    let_line(grid, "RowBackColor", (int)cell[2].as.integer, integer(0x00C0FFFF));
     ++*(int*)user;
 }
 
@@ -95,12 +96,24 @@ static void fill(vornix_grid* grid)
 
 static void format(vornix_grid* grid)
 {
-    let_col(grid, "ColTextAlign", 1, integer(vxTxtRight | vxTxtVCenter | vxSingleLine));
-    let_col(grid, "ColFormat", 1, text(u"#,##0.00"));
-    let_col(grid, "ColMode", 2, integer(vxCheckBox));
+    let_line(grid, "ColTextAlign", 1, integer(vxTxtRight | vxTxtVCenter | vxSingleLine));
+    let_line(grid, "ColFormat", 1, text(u"#,##0.00"));
+    let_line(grid, "ColMode", 2, integer(vxCheckBox));
     vornix_value column = integer(0);
     check(
         vornix_invoke(grid, "SpanRows", VORNIX_CALL, &column, 1, NULL), "SpanRows"); /* equal cities become one cell */
+}
+
+/* What comes out belongs to the caller, who gives it back when it is done with. */
+static void print_text(vornix_grid* grid, int row, int col)
+{
+    vornix_value arguments[] = { integer(row), integer(col) };
+    vornix_value read;
+    check(vornix_invoke(grid, "Text", VORNIX_GET, arguments, COUNT(arguments), &read), "Text");
+    for (size_t i = 0; i < read.as.text.length; ++i)
+        putchar(read.as.text.data[i] < 128 ? read.as.text.data[i] : '?');
+    putchar('\n');
+    vornix_value_clear(&read);
 }
 
 int main(int argc, char** argv)
@@ -113,6 +126,7 @@ int main(int argc, char** argv)
     fill(grid);
     format(grid);
 
+    print_text(grid, 0, 1);
     check(vornix_host_click_at(grid, 150, 50, 1, 0), "vornix_host_click_at");
     const char* const path = argc > 1 ? argv[1] : "table.png";
     check(vornix_host_save_png(grid, path), path);

@@ -297,7 +297,7 @@ TEST(CGrid, TakesWhatAPersonDoes)
     EXPECT_EQ(vornix_host_press(grid.get(), "Left", 0), 0);
     EXPECT_EQ(vornix_host_press(grid.get(), "Nonsense", 0), 5);
     EXPECT_EQ(vornix_host_press_code(grid.get(), 113, 0), 0);
-    EXPECT_EQ(vornix_host_wheel(grid.get(), 120), 445);
+    EXPECT_EQ(vornix_host_wheel(grid.get(), 120), 0);
     EXPECT_EQ(vornix_host_tick(grid.get()), 445);
     for (const auto lifecycle :
         { vornix_host_hide, vornix_host_show, vornix_host_paint, vornix_host_enter_focus, vornix_host_exit_focus })

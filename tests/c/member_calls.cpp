@@ -208,8 +208,15 @@ Values RightArguments(const Member& member)
 
 Writing WritingOf(const Member& member)
 {
-    const auto showSplit
-        = [](vornix_grid* grid) { EXPECT_EQ(Let(grid, "ShowSplit", { Boolean(true) }), 0) << vornix_last_error(); };
+    // Without a bar the view stays at its start, and nothing is split off.
+    const auto scrolls = [](vornix_grid* grid) {
+        LetOk(grid, "Rows", { Integer(200) });
+        LetOk(grid, "Cols", { Integer(20) });
+    };
+    const auto splits = [=](vornix_grid* grid) {
+        scrolls(grid);
+        LetOk(grid, "ShowSplit", { Boolean(true) });
+    };
     const std::map<std::string, Writing> special {
         // Off is what the default is not.
         { "Redraw", { Boolean(false) } },
@@ -224,14 +231,17 @@ Writing WritingOf(const Member& member)
         { "CommonTextAlign", { Integer(vxTxtVCenter), "i32 " + std::to_string(vxTxtVCenter | vxNoPrefix) } },
         // Writing does nothing.
         { "ScrollBarSize", { Integer(5), "i16 17" } },
+        { "ScrollBarStyle", { Integer(vxSBFlat), "i32 0" } },
         // Only while a split is shown, and below the last column.
-        { "SplitCols", { Integer(1), "", showSplit } },
+        { "SplitCols", { Integer(1), "", splits } },
         { "ColWidth", { Integer(55) } },
         { "RowHeight", { Integer(33) } },
         { "Rows", { Integer(6) } },
         { "Cols", { Integer(5) } },
-        { "FirstRow", { Integer(1) } },
-        { "FirstCol", { Integer(1) } },
+        { "FirstRow", { Integer(1), "", scrolls } },
+        { "FirstCol", { Integer(1), "", scrolls } },
+        { "LastRow", { Integer(150), "", scrolls } },
+        { "LastCol", { Integer(15), "", scrolls } },
         { "Caption", { Text(u"title") } },
     };
     const auto found = special.find(member.info.name);

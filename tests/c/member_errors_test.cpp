@@ -178,6 +178,14 @@ const std::set<std::string> TakeAnyIndex {
     "IsVisibleRow",
     "IsVisibleCol",
     "IsParent",
+    // Lines that are not there may be selected, and fixed ones are refused in silence.
+    "CellSelected",
+    "ColSelected",
+    "RowSelected",
+    "RowsSelected",
+    "SetSelectedCells",
+    "CurrentPos",
+    "IsCurrent",
     // The sum of the lines before the cell, as far as there are any.
     "GetPositionCell",
     // Does nothing.

@@ -54,6 +54,8 @@ Result ReadBack(vornix_grid* grid, const Member& member)
         { "CellsForeColor", "CellForeColor" },
         { "CellsFont", "CellFontBold" },
     };
+    if (member.Name() == "RowsSelected")
+        return Get(grid, "RowSelected", { Integer(1) });
     const auto found = readers.find(member.info.name);
     if (found == readers.end()) {
         ADD_FAILURE() << member.info.name << " is read back nowhere";
@@ -208,6 +210,33 @@ std::map<std::string, Calling> LineCallings()
     };
 }
 
+std::map<std::string, Calling> SelectionCallings()
+{
+    const auto cells = Calls("SetSelectedCells", { Integer(0), Integer(1), Integer(2), Integer(2) });
+    const auto cols = Writes("ColSelected", { Integer(1), Boolean(true) });
+    const auto rows = Writes("RowsSelected", { Integer(1), Integer(2), Boolean(true) });
+    return {
+        { "CellSelected", { "true", {}, cells } },
+        { "SelectCountCell", { "i32 6", {}, cells } },
+        { "SelectCountCol", { "i32 1", {}, cols } },
+        { "SelectCountRow", { "i32 2", {}, rows } },
+        { "GetSelectedCells", { "true", { "i16 0", "i16 1", "i16 2", "i16 2" }, cells } },
+        { "SetSelectedCells", { "empty", {}, {}, Reads("CellSelected", { Integer(1), Integer(1) }, "true") } },
+        { "StartSelectedItems",
+            { "empty", {},
+                [=](vornix_grid* grid) {
+                    rows(grid);
+                    EXPECT_EQ(DescribedGet(grid, "NextSelectedRows", { Integer(0), Integer(0) }), "true");
+                },
+                Reads("NextSelectedRows", { Integer(0), Integer(0) }, "true") } },
+        { "NextSelectedCols", { "true", { "i16 1", "i16 1" }, cols } },
+        { "NextSelectedRows", { "true", { "i16 1", "i16 2" }, rows } },
+        { "SelectItem", { "i32 2", {}, rows } },
+        { "InvertSelect", { "true", {}, rows, Reads("RowSelected", { Integer(1) }, "false") } },
+        { "DeselectAll", { "empty", {}, rows, Reads("SelectCountRow", {}, "i32 0") } },
+    };
+}
+
 // Of columns 60 wide and rows 20 high.
 std::map<std::string, Calling> PlaceCallings()
 {
@@ -225,6 +254,10 @@ std::map<std::string, Calling> PlaceCallings()
         { "GetSizeCells", { "empty", { "i16 120", "i16 40" }, sized } },
         { "getWidthHeightCell", { "empty", { "i16 0", "i16 0" } } },
         { "IsVisibleCell", { "true" } },
+        { "IsVisibleScrollH", { "false" } },
+        { "IsVisibleScrollV", { "false" } },
+        { "CurrentPos", { "empty", {}, {}, Reads("CurrentRow", {}, "i32 1") } },
+        { "IsCurrent", { "true", {}, Calls("CurrentPos", { Integer(1), Integer(1) }) } },
         { "IsVisibleRow", { "true" } },
         { "IsVisibleCol", { "true" } },
         { "GetScaleWidth", { "single 640.000000" } },
@@ -259,7 +292,7 @@ std::map<std::string, Calling> LookCallings()
 std::map<std::string, Calling> AllCallings()
 {
     std::map<std::string, Calling> all;
-    for (auto&& part : { SpanCallings(), LineCallings(), PlaceCallings(), LookCallings() })
+    for (auto&& part : { SpanCallings(), LineCallings(), SelectionCallings(), PlaceCallings(), LookCallings() })
         all.insert(part.begin(), part.end());
     return all;
 }

@@ -2,6 +2,7 @@
 
 import doctest
 import os
+import subprocess
 import sys
 import tempfile
 import unittest
@@ -68,6 +69,20 @@ class ExamplesOfPages(unittest.TestCase):
                 self.assertTrue(Path("people.png").is_file())
             finally:
                 os.chdir(here)
+
+    def test_the_program_of_the_page_about_c_builds_and_runs(self) -> None:
+        text = (ROOT / "docs" / "c.md").read_text(encoding="utf-8")
+        program = text.split("```c\n")[1].split("```")[0]
+        library = Path(os.environ["C_LIBRARY"])
+        with tempfile.TemporaryDirectory() as folder:
+            (Path(folder) / "first.c").write_text(program, encoding="utf-8")
+            flags = ["-std=c11", "-Wall", "-Wextra", "-Werror", "first.c", str(library)]
+            flags += [f"-I{include}" for include in os.environ["C_INCLUDES"].split(":")]
+            flags.append(f"-Wl,-rpath,{library.parent}")
+            subprocess.run(["cc", *flags], cwd=folder, check=True)
+            ran = subprocess.run(["./a.out"], cwd=folder, check=True, capture_output=True, text=True)
+            self.assertEqual(ran.stdout, "6 characters\n")
+            self.assertTrue((Path(folder) / "table.png").is_file())
 
 
 if __name__ == "__main__":

@@ -184,7 +184,7 @@ typedef struct vornix_setting {
 
 typedef struct vornix_grid_options {
     size_t size; /* sizeof(vornix_grid_options) */
-    int32_t width; /* of the window in logical pixels, up to 32767; 640 where 0 */
+    int32_t width; /* of the window in logical pixels, up to 32767, at most 2^26 pixels in all; 640 where 0 */
     int32_t height; /* 480 where 0 */
     double scale; /* device pixels a logical pixel, 1 to 4; 1 where 0 */
     int32_t design; /* the ambient UserMode is false; without a bag the control is a new one */
@@ -213,7 +213,7 @@ VORNIX_API int32_t vornix_set_event_callback(vornix_grid* grid, vornix_event_cal
  * last argument. The result may be null where it is not wanted. */
 VORNIX_API int32_t vornix_invoke(
     vornix_grid* grid, const char* name, int32_t kind, vornix_value* arguments, size_t count, vornix_value* result);
-/* The last name_count arguments are given by these names. */
+/* The last name_count arguments are given by these names; the value that a property is written with is called Value. */
 VORNIX_API int32_t vornix_invoke_named(vornix_grid* grid, const char* name, int32_t kind, vornix_value* arguments,
     size_t count, const char* const* names, size_t name_count, vornix_value* result);
 /* A member that was looked up once. Error 438 for what is none. */
@@ -305,7 +305,8 @@ VORNIX_API void vornix_object_release(vornix_object* object);
 
 /* -- Surfaces: devices to draw on, for arguments named PictureHdc or PrinterHdc -- */
 
-/* Logical pixels, 1 to 32767 in each direction; scale 1 to 4. White at first. */
+/* Logical pixels, 1 to 32767 in each direction; scale 1 to 4. White at first. Error 7 for more pixels than there is memory
+ * for. */
 VORNIX_API int32_t vornix_surface_create(int32_t width, int32_t height, double scale, vornix_surface** surface);
 VORNIX_API void vornix_surface_destroy(vornix_surface* surface);
 VORNIX_API int32_t vornix_surface_hdc(const vornix_surface* surface, intptr_t* hdc);

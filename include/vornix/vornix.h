@@ -95,6 +95,8 @@ public:
     // Come after the release.
     void Click();
     void DblClick();
+    // A code that the handlers do not set to 0 is then the grid's: arrows, Home, End and Page keys, Space and F2. They may
+    // raise ValidateRow, CellChange, Scroll and TextChange.
     void KeyDown(i16& KeyCode, i16& Shift);
     void KeyPress(i16& KeyAscii);
     void KeyUp(i16& KeyCode, i16& Shift);

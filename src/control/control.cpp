@@ -31,8 +31,8 @@ Control::Control(Container& windowContainer, VornixEvents& host)
     , scrolling({ store, layout, scroll, hidden, spans, gate, paint, funnel, editor, virtualMode, container, events })
     , mover({ store, spans, hidden, gate, current, scrolling, funnel, editor, virtualMode })
     , checks(store, gate, funnel, container, events)
-    , keyboard({ store, spans, hidden, scroll, layout, gate, current, selection, scrolling, funnel, mover, checks, editor,
-          virtualMode, hover, container, events })
+    , keyboard({ store, spans, hidden, scroll, layout, gate, current, selection, scrolling, funnel, mover, checks,
+          editor, virtualMode, hover, container, events })
     , broadcast(store, funnel)
     , twipsPerPixel(container.TwipsPerPixel())
 {

@@ -1,4 +1,5 @@
 #include "headless/person_fixture.h"
+#include "virtual_keys.h"
 
 #include <limits>
 
@@ -52,6 +53,27 @@ TEST_F(Keyboard, WhatNoKeyGivesIsSentAsACharacter)
         << "16 bits, signed";
     host->Type(u"\U0001F600");
     EXPECT_EQ(host->Count("KeyPress"), 2) << "both halves of a pair";
+}
+
+TEST_F(Keyboard, ALineBreakOfTwoCharactersIsOneReturn)
+{
+    host->Type(u"\r\n");
+    EXPECT_EQ(Said(), (Lines { "KeyDown KeyCode=13 Shift=0", "KeyPress KeyAscii=13", "KeyUp KeyCode=13 Shift=0" }));
+    host->Type(u"\r\n\r\n");
+    EXPECT_EQ(host->Count("KeyPress"), 2);
+    host->ClearLog();
+    host->Type(u"\n\r\r\n\n");
+    EXPECT_EQ(host->Count("KeyPress"), 4);
+}
+
+TEST_F(Keyboard, AKeyNamedByItsCharacterGivesTheCharacter)
+{
+    host->Press("+");
+    EXPECT_EQ(Said(), (Lines { "KeyDown KeyCode=187 Shift=1", "KeyPress KeyAscii=43", "KeyUp KeyCode=187 Shift=1" }));
+    host->Press(" ");
+    EXPECT_EQ(Said(), (Lines { "KeyDown KeyCode=32 Shift=0", "KeyPress KeyAscii=32", "KeyUp KeyCode=32 Shift=0" }));
+    host->Press("+", CtrlDown);
+    EXPECT_EQ(Said(), (Lines { "KeyDown KeyCode=187 Shift=3", "KeyUp KeyCode=187 Shift=3" }));
 }
 
 TEST_F(Keyboard, ALineFeedIsTheReturnKey)

@@ -33,6 +33,54 @@ protected:
     Lines held;
 };
 
+TEST_F(Pointer, AHiddenControlIsReachedByNothingThatAPersonDoes)
+{
+    ShowChild(ChildName::picSplitCol, { 0, 0, 20, 20 });
+    const auto doEverything = [&] {
+        host->ClickAt(40, 30);
+        host->ClickAt(10, 10);
+        host->DblClickAt(40, 30);
+        host->Drag(40, 30, 60, 50);
+        host->Type(u"a");
+        host->Press("Left");
+        host->Press(i16 { 65 });
+    };
+    host->Hide();
+    host->ClearLog();
+    doEverything();
+    EXPECT_EQ(SaidNames(), Lines {});
+    EXPECT_FALSE(host->HasFocus());
+    EXPECT_EQ(ErrorOf([&] { host->Press("NoSuchKey"); }), 5);
+
+    host->Show();
+    host->ClearLog();
+    doEverything();
+    EXPECT_EQ(host->Count("Click"), 3);
+    EXPECT_EQ(host->Count("KeyPress"), 2);
+    EXPECT_TRUE(host->HasFocus());
+}
+
+TEST_F(Pointer, AControlThatAHandlerHidesGetsNothingMore)
+{
+    handlers.OnMouseDown = [this](i16, i16, float, float) { host->Hide(); };
+    host->ClickAt(40, 30);
+    EXPECT_EQ(SaidNames(), (Lines { "MouseMove", "MouseDown" }));
+    host->Show();
+    handlers.OnMouseDown = nullptr;
+    host->ClearLog();
+    host->ClickAt(40, 30);
+    EXPECT_EQ(SaidNames(), (Lines { "MouseMove", "MouseDown", "MouseUp", "Click" }));
+}
+
+TEST_F(Pointer, AHiddenControlHearsSingleNotifications)
+{
+    host->Hide();
+    host->ClearLog();
+    host->MouseDown(40, 30);
+    host->KeyDown(65);
+    EXPECT_EQ(SaidNames(), (Lines { "MouseDown", "KeyDown" }));
+}
+
 TEST_F(Pointer, AClickMovesPressesReleasesAndClicks)
 {
     host->ClickAt(40, 30);

@@ -104,10 +104,35 @@ TEST(VirtualKeys, OfSignsGoByTheLowerOne)
         EXPECT_EQ(CodeOfKey(signs.substr(i, 1)), codes[i]) << signs[i];
 }
 
+TEST(VirtualKeys, OfCharactersTakeShiftForUpperSignsAndNotForLetters)
+{
+    const std::string plain = "0123456789;=,-./`[\\]'";
+    const std::string upper = ")!@#$%^&*(:+<_>?~{|}\"";
+    for (std::size_t i = 0; i < plain.size(); ++i) {
+        const KeyChord lower = ChordOfKey(plain.substr(i, 1));
+        EXPECT_EQ(lower.shift, 0) << plain[i];
+        const KeyChord chord = ChordOfKey(upper.substr(i, 1));
+        EXPECT_EQ(chord.code, lower.code) << upper[i];
+        EXPECT_EQ(chord.shift, ShiftDown) << upper[i];
+    }
+    for (const char* name : { "a", "A", " ", "Left", "Shift" })
+        EXPECT_EQ(ChordOfKey(name).shift, 0) << name;
+    EXPECT_EQ(CodeOfKey(" "), 32);
+}
+
+TEST(VirtualKeys, HaveShortAndOldNamesToo)
+{
+    const std::pair<const char*, const char*> pairs[]
+        = { { "PgUp", "PageUp" }, { "Prior", "PageUp" }, { "PgDn", "PageDown" }, { "Next", "PageDown" },
+              { "Ins", "Insert" }, { "Del", "Delete" }, { "Esc", "Escape" }, { "BackSpace", "Back" } };
+    for (const auto& [name, full] : pairs)
+        EXPECT_EQ(CodeOfKey(name), CodeOfKey(full)) << name;
+}
+
 TEST(VirtualKeys, UnknownNamesAreAnErrorThatListsTheKnownOnes)
 {
-    for (const char* name : { "", "Lef", "Leftt", "F0", "F25", "F01", "F1x", "Numpad", "Numpad10", "ab", "!", ":", " ",
-             "\xC3\xA9", " Left" }) {
+    for (const char* name :
+        { "", "Lef", "Leftt", "F0", "F25", "F01", "F1x", "Numpad", "Numpad10", "ab", "\x01", "\xC3\xA9", " Left" }) {
         try {
             CodeOfKey(name);
             FAIL() << name;

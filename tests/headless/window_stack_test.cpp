@@ -38,6 +38,8 @@ private:
 // The control's own events are in the log; what the children get is in `said`.
 class Windows : public PersonTest {
 protected:
+    Windows() { stack.SetShown(true); }
+
     RecordingChild& At(ChildName name) { return children[static_cast<std::size_t>(name)]; }
     RecordingChild& Show(ChildName name, const Rect& place)
     {

@@ -107,7 +107,7 @@ HeadlessContainer::HeadlessContainer(const HeadlessOptions& options)
     isLoaded_ = true;
     grid_->Resize();
     if (options.show)
-        grid_->Show();
+        Show();
 }
 
 HeadlessContainer::~HeadlessContainer() = default;
@@ -136,9 +136,17 @@ void HeadlessContainer::RequireOpen() const
         RaiseInvalid("The control is closed");
 }
 
+void HeadlessContainer::Show()
+{
+    RequireOpen();
+    windows_->SetShown(true);
+    grid_->Show();
+}
+
 void HeadlessContainer::Hide()
 {
     RequireOpen();
+    windows_->SetShown(false);
     grid_->Hide();
 }
 

@@ -86,7 +86,7 @@ void HeadlessContainer::Type(std::u16string_view text)
 void HeadlessContainer::Press(std::string_view key, i16 shift)
 {
     RequireOpen();
-    person_->Press(CodeOfKey(key), shift);
+    person_->Press(key, shift);
 }
 
 void HeadlessContainer::Press(i16 code, i16 shift)

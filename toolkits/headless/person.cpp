@@ -80,7 +80,7 @@ private:
 
 template <typename Notification> void Person::Tell(InputWindow* window, const Notification& notification)
 {
-    if (window && !host_.Grid().IsTerminated())
+    if (window && windows_.IsShown() && !host_.Grid().IsTerminated())
         notification(*window);
 }
 
@@ -196,15 +196,26 @@ void Person::Drag(PointerPlace from, PointerPlace to, i16 button, i16 shift, i32
 // Nobody types into a window without the focus.
 void Person::RequireFocus()
 {
-    if (!windows_.HasFocus())
+    if (windows_.IsShown() && !windows_.HasFocus())
         windows_.FocusControl();
 }
 
 void Person::Type(std::u16string_view text)
 {
     RequireFocus();
-    for (const char16_t character : text)
-        Strike(StrokeFor(character));
+    char16_t before = 0;
+    for (const char16_t character : text) {
+        if (before != u'\r' || character != u'\n')
+            Strike(StrokeFor(character));
+        before = character;
+    }
+}
+
+void Person::Press(std::string_view key, i16 shift)
+{
+    CheckShift(shift);
+    const KeyChord chord = ChordOfKey(key);
+    Press(chord.code, static_cast<i16>(shift | chord.shift));
 }
 
 void Person::Press(i16 code, i16 shift)

@@ -5,7 +5,8 @@
 // as DblClick, with a MouseUp and no Click behind it. A click follows a release inside the window of the press, whatever
 // lies above it by then. A key is KeyDown, KeyPress and KeyUp, each to the window that has the focus at that moment.
 //
-// When the control is closed on the way, the rest is not delivered. All begin with error 5 on a closed control.
+// When the control is closed or hidden on the way, the rest is not delivered, nor is anything to a hidden one, which
+// does not get the focus either. A line break of two characters is typed with one Return. All begin with error 5 on a closed control.
 #pragma once
 
 #include "virtual_keys.h"
@@ -34,6 +35,7 @@ public:
     void DblClickAt(PointerPlace place, i16 button, i16 shift);
     void Drag(PointerPlace from, PointerPlace to, i16 button, i16 shift, i32 steps);
     void Type(std::u16string_view text);
+    void Press(std::string_view key, i16 shift);
     void Press(i16 code, i16 shift);
 
     // Whether a key or button is held down now.

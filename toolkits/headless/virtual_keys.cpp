@@ -48,7 +48,11 @@ constexpr NamedKey NamedKeys[] = {
     { "Esc", EscapeKey },
     { "Space", SpaceKey },
     { "PageUp", 33 },
+    { "PgUp", 33 },
+    { "Prior", 33 },
     { "PageDown", 34 },
+    { "PgDn", 34 },
+    { "Next", 34 },
     { "End", 35 },
     { "Home", 36 },
     { "Left", 37 },
@@ -137,13 +141,20 @@ std::optional<int> NumberedName(std::string_view name, std::string_view prefix, 
     return std::nullopt;
 }
 
-std::optional<i16> CodeOfSign(char sign)
+std::optional<KeyChord> ChordOfSign(char sign)
 {
     const char lower = Lower(sign);
     if (lower >= 'a' && lower <= 'z')
-        return static_cast<i16>(lower - 'a' + 'A');
-    const auto* const found = std::ranges::find(SignKeys, sign, &SignKey::plain);
-    return found == std::end(SignKeys) ? std::nullopt : std::optional(found->code);
+        return KeyChord { static_cast<i16>(lower - 'a' + 'A'), 0 };
+    if (sign == SpaceKey)
+        return KeyChord { SpaceKey, 0 };
+    for (const SignKey& key : SignKeys) {
+        if (sign == key.plain)
+            return KeyChord { key.code, 0 };
+        if (sign == key.shifted)
+            return KeyChord { key.code, ShiftDown };
+    }
+    return std::nullopt;
 }
 
 std::string NamesInOrder()
@@ -155,7 +166,7 @@ std::string NamesInOrder()
             names.append(key.name).append(", ");
         previous = key.code;
     }
-    return names + "F1 to F24, Numpad0 to Numpad9, letters, digits and ; = , - . / ` [ \\ ] '";
+    return names + "F1 to F24, Numpad0 to Numpad9, and every letter, digit and sign of the keyboard";
 }
 
 std::optional<i16> PlainCharacter(i16 code, bool shifted)
@@ -221,18 +232,23 @@ KeyStroke StrokeFor(char16_t character)
 
 i16 CodeOfKey(std::string_view name)
 {
+    return ChordOfKey(name).code;
+}
+
+KeyChord ChordOfKey(std::string_view name)
+{
     if (name.size() == 1) {
-        if (const auto code = CodeOfSign(name[0]))
-            return *code;
+        if (const auto chord = ChordOfSign(name[0]))
+            return *chord;
     }
     for (const NamedKey& key : NamedKeys) {
         if (SameName(name, key.name))
-            return key.code;
+            return { key.code, 0 };
     }
     if (const auto number = NumberedName(name, "F", 1, FunctionKeys))
-        return static_cast<i16>(F1Key + *number - 1);
+        return { static_cast<i16>(F1Key + *number - 1), 0 };
     if (const auto number = NumberedName(name, "Numpad", 0, 9))
-        return static_cast<i16>(FirstNumpadDigit + *number);
+        return { static_cast<i16>(FirstNumpadDigit + *number), 0 };
     throw AutomationError(
         ErrorNumber::InvalidArgument, "No key is named \"" + std::string(name) + "\". Keys are " + NamesInOrder());
 }

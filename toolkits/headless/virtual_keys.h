@@ -32,8 +32,18 @@ KeyStroke StrokeFor(char16_t character);
 // Escape and Space themselves, and other keys nothing.
 KeyStroke StrokeOf(i16 code, i16 shift);
 
-// The code of a key by its name, in any case: a letter or digit, "Left", "F2", "Numpad5", ... Error 5, with the names
-// that there are, for any other.
+// A key, and what is held with it.
+struct KeyChord {
+    i16 code = 0;
+    i16 shift = 0;
+};
+
+// A key by its name, in any case: "Left", "F2", "Numpad5", ... A letter, a digit or another sign of the keyboard names the
+// key that it is on, with Shift for an upper sign; letters in any case go without. Error 5, with the names that there
+// are, for any other.
+KeyChord ChordOfKey(std::string_view name);
+
+// The code alone.
 i16 CodeOfKey(std::string_view name);
 
 // The flag in shift that the key itself sets while it is down; 0 for keys that set none.

@@ -67,7 +67,7 @@ WindowStack::WindowStack(HeadlessContainer& host, std::span<HeadlessChild* const
 
 InputWindow* WindowStack::TopAt(float x, float y)
 {
-    if (!Contains(control_.Area(), x, y))
+    if (!isShown_ || !Contains(control_.Area(), x, y))
         return nullptr;
     if (HeadlessChild* const child = TopChildAt(x, y, nullptr))
         return child;

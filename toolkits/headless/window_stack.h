@@ -37,8 +37,12 @@ public:
     WindowStack(HeadlessContainer& host, std::span<HeadlessChild* const> children);
 
     InputWindow& TheControl() { return control_; }
-    // Null outside the client area. What cannot be used lets through what lies below.
+    // Null outside the client area, and where the control is hidden. What cannot be used lets through what lies below.
     InputWindow* TopAt(float x, float y);
+
+    // Whether the control is seen at all; the children are not without it.
+    bool IsShown() const { return isShown_; }
+    void SetShown(bool shown) { isShown_ = shown; }
 
     // Null while the focus is elsewhere than in the control. A child that cannot be used any more has lost it to the
     // control.
@@ -62,6 +66,7 @@ private:
     ControlWindow control_;
     // From the bottom up; those in a frame count among themselves.
     std::vector<HeadlessChild*> order_;
+    bool isShown_ = false;
     bool hasFocus_ = false;
     HeadlessChild* focusedChild_ = nullptr;
 };

@@ -76,7 +76,7 @@ public:
     void SetUserMode(bool userMode) { userMode_ = userMode; }
     // The limits are those of the options.
     void Resize(int width, int height);
-    void Show() { grid_->Show(); }
+    void Show();
     void Hide();
     void Paint() { grid_->Paint(); }
     void EnterFocus();
@@ -107,8 +107,8 @@ public:
     // the control gives it the focus first (EnterFocus when the focus was elsewhere). Buttons and keys are held, for
     // IsKeyDown, from their press to their release. Children take notifications and do nothing with them.
     //
-    // A control that a handler closes gets no further notification; one that is closed from the start is error 5, as
-    // are buttons, sums of keys and numbers of steps that there are not, and places that are not finite.
+    // A control that a handler closes or hides gets no further notification, and a hidden one none at all, nor the
+    // focus; one that is closed from the start is error 5, as are buttons, sums of keys and numbers of steps that there are not, and places that are not finite.
 
     // MouseMove, MouseDown, MouseUp, Click.
     void ClickAt(float x, float y, i16 button = 1, i16 shift = 0);
@@ -119,11 +119,11 @@ public:
     // place, MouseUp, and Click if that lies in the window of the press.
     void Drag(float x1, float y1, float x2, float y2, i16 button = 1, i16 shift = 0, i32 steps = 8);
     // KeyDown, KeyPress unless the handlers set the code of KeyDown to 0, and KeyUp for each unit of the text, by the
-    // keys of a US keyboard: capitals and upper signs with Shift, a line feed as Return, what has no key with the code
-    // 231. They go to what has the focus at the moment; when that is not in the control, the control gets it first.
+    // keys of a US keyboard: capitals and upper signs with Shift, a line feed as Return (one for CR LF), what has no
+    // key with the code 231. They go to what has the focus at the moment; when that is not in the control, the control gets it first.
     void Type(std::u16string_view text);
     // The same for one key, by its name in any case ("a", "Left", "F2", "Escape", "Delete", "Back", "Return", "Tab",
-    // "Numpad5", ...) or its code, 1 to 254. KeyPress comes for keys that give a character: letters, digits, signs,
+    // "Numpad5", ...), by the sign that it gives ("+", which takes Shift), or by its code, 1 to 254. KeyPress comes for keys that give a character: letters, digits, signs,
     // Back, Tab, Return, Escape and Space; with Ctrl, letters give 1 to 26; with Alt nothing does. Error 5 for a name
     // that no key has; its description lists those there are.
     void Press(std::string_view key, i16 shift = 0);

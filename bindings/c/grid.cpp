@@ -1,5 +1,6 @@
 #include "grid.h"
 
+#include "caller_settings.h"
 #include "grid_table.h"
 #include "handles.h"
 #include "values.h"
@@ -74,6 +75,14 @@ void Call::Finish()
 
 namespace {
 
+// An integer, or a colour without a sign: either is a pattern of 32 bits.
+i32 ToPattern(std::int64_t integer)
+{
+    if (integer < std::numeric_limits<i32>::min() || integer > std::numeric_limits<std::uint32_t>::max())
+        Raise(ErrorNumber::Overflow);
+    return static_cast<i32>(static_cast<std::uint32_t>(integer));
+}
+
 BagValue ToBagValue(const vornix_value& value)
 {
     switch (value.type) {
@@ -82,7 +91,7 @@ BagValue ToBagValue(const vornix_value& value)
     case VORNIX_I16:
     case VORNIX_I32:
     case VORNIX_I64:
-        return ToVariant({ VORNIX_I64, 0, 0, { value.as.integer } }).ToI32();
+        return ToPattern(value.as.integer);
     case VORNIX_TEXT:
         return ToText(value.as.text);
     case VORNIX_FONT:
@@ -110,7 +119,9 @@ std::shared_ptr<MemorySettings> ToSettings(const vornix_grid_options& options)
 {
     if (options.setting_count > 0)
         Require(options.settings);
-    auto settings = std::make_shared<MemorySettings>();
+    std::shared_ptr<MemorySettings> settings = options.get_setting == nullptr && options.save_setting == nullptr
+        ? std::make_shared<MemorySettings>()
+        : std::make_shared<CallerSettings>(options.get_setting, options.save_setting, options.settings_user);
     for (const vornix_setting& setting : std::span(options.settings, options.setting_count))
         settings->SaveSetting(
             ToText(setting.application), ToText(setting.section), ToText(setting.key), ToText(setting.value));

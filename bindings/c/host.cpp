@@ -158,3 +158,12 @@ std::int32_t vornix_host_save_setting(vornix_grid* grid, const vornix_setting* s
             ToText(setting->application), ToText(setting->section), ToText(setting->key), ToText(setting->value));
     });
 }
+
+std::int32_t vornix_host_get_setting(vornix_grid* grid, vornix_setting* setting)
+{
+    return GridCall(grid, [&](Call& call) {
+        Require(setting);
+        setting->value = ViewOf(call->Keep(call->Container().StoredSettings().GetSetting(
+            ToText(setting->application), ToText(setting->section), ToText(setting->key), ToText(setting->value))));
+    });
+}

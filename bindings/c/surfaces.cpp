@@ -2,6 +2,7 @@
 #include "png_file.h"
 #include "status.h"
 
+#include "automation/colors.h"
 #include "vornix/platform/system_colors.h"
 #include "vornix/raster_surface.h"
 #include "vornix/vornix_c.h"
@@ -21,7 +22,6 @@ namespace {
 
 constexpr std::int32_t LargestSide = 32767;
 constexpr ColorRef White = 0xFFFFFF;
-constexpr std::uint32_t ColorBits = 0xFFFFFF;
 
 void Fill(vornix_surface& surface, ColorRef color)
 {
@@ -76,7 +76,7 @@ std::int32_t vornix_surface_fill(vornix_surface* surface, std::uint32_t color)
 {
     return Guarded([&] {
         Require(surface);
-        Fill(*surface, color & ColorBits);
+        Fill(*surface, OleTranslateColor(color, surface->colors));
     });
 }
 

@@ -113,7 +113,7 @@ std::u16string ToText(const vornix_text& text)
     return copy;
 }
 
-vornix_text ViewOf(const std::u16string& text)
+vornix_text ViewOf(std::u16string_view text)
 {
     return { reinterpret_cast<const std::uint16_t*>(text.data()), text.size() };
 }

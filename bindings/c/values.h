@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace vornix::c {
@@ -17,7 +18,7 @@ inline constexpr std::size_t LongestText = std::size_t { 1 } << 30;
 // A copy of what the caller passed. Errors 5 for a null pointer behind a length, 7 for a text that is too long.
 std::u16string ToText(const vornix_text& text);
 // The text seen from outside, valid as long as it is.
-vornix_text ViewOf(const std::u16string& text);
+vornix_text ViewOf(std::u16string_view text);
 
 // Error 13 for an unknown type, 6 for an integer or a number that its type does not hold.
 Variant ToVariant(const vornix_value& value);

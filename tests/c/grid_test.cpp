@@ -2,6 +2,8 @@
 #include "c_grid.h"
 
 #include <limits>
+#include <map>
+#include <string>
 
 using namespace vornix::test;
 
@@ -114,6 +116,104 @@ TEST(CGrid, KeepsItsSettings)
     ASSERT_EQ(vornix_host_setting_at(grid.get(), 1, &out), 0);
     EXPECT_EQ(ToString(out.key), u"other");
     EXPECT_EQ(vornix_host_setting_at(grid.get(), 2, &out), 9);
+}
+
+// Settings as a caller keeps them.
+struct KeptSettings {
+    std::map<std::u16string, std::u16string> texts;
+    std::u16string read;
+
+    static std::u16string NameOf(const vornix_setting& setting)
+    {
+        return ToString(setting.application) + u'/' + ToString(setting.section) + u'/' + ToString(setting.key);
+    }
+    static std::int32_t Read(void* user, vornix_setting* setting)
+    {
+        auto& kept = *static_cast<KeptSettings*>(user);
+        const auto found = kept.texts.find(NameOf(*setting));
+        if (found == kept.texts.end())
+            return 0;
+        kept.read = found->second;
+        setting->value = View(kept.read);
+        return 1;
+    }
+    static void Write(void* user, const vornix_setting* setting)
+    {
+        static_cast<KeptSettings*>(user)->texts[NameOf(*setting)] = ToString(setting->value);
+    }
+    vornix_grid_options GivenTo()
+    {
+        vornix_grid_options options = Options();
+        options.get_setting = Read;
+        options.save_setting = Write;
+        options.settings_user = this;
+        return options;
+    }
+};
+
+// What the control reads, "none" where there is none.
+std::u16string ReadSetting(vornix_grid* grid, std::u16string_view key)
+{
+    vornix_setting setting { View(u"app"), View(u"section"), View(key), View(u"none") };
+    EXPECT_EQ(vornix_host_get_setting(grid, &setting), 0);
+    return ToString(setting.value);
+}
+
+TEST(CGrid, ReadsAndWritesTheSettingsThatItsCallerKeeps)
+{
+    KeptSettings kept;
+    const GridPtr grid = MakeGrid(kept.GivenTo());
+    const GridPtr other = MakeGrid(kept.GivenTo());
+    EXPECT_EQ(ReadSetting(grid.get(), u"key"), u"none");
+    kept.texts[u"app/section/key"] = u"from the caller";
+    EXPECT_EQ(ReadSetting(grid.get(), u"key"), u"from the caller");
+    const vornix_setting setting { View(u"app"), View(u"section"), View(u"key"), View(u"from the grid") };
+    ASSERT_EQ(vornix_host_save_setting(grid.get(), &setting), 0);
+    EXPECT_EQ(kept.texts.at(u"app/section/key"), u"from the grid");
+    EXPECT_EQ(ReadSetting(other.get(), u"key"), u"from the grid");
+    kept.texts[u"app/section/key"] = u"";
+    EXPECT_EQ(ReadSetting(grid.get(), u"key"), u"");
+    std::size_t count = 1;
+    ASSERT_EQ(vornix_host_setting_count(grid.get(), &count), 0);
+    EXPECT_EQ(count, 0u);
+}
+
+TEST(CGrid, ReadsTheSettingsThatItKeepsItself)
+{
+    const vornix_setting given { View(u"app"), View(u"section"), View(u"key"), View(u"value") };
+    vornix_grid_options options = Options();
+    options.settings = &given;
+    options.setting_count = 1;
+    const GridPtr grid = MakeGrid(options);
+    EXPECT_EQ(ReadSetting(grid.get(), u"key"), u"value");
+    EXPECT_EQ(ReadSetting(grid.get(), u"other"), u"none");
+    EXPECT_EQ(vornix_host_get_setting(grid.get(), nullptr), 5);
+}
+
+TEST(CGrid, TakesColorsOfItsBagWithAndWithoutASign)
+{
+    const auto colorOf = [](std::int64_t given) {
+        const vornix_bag_entry entry { "BackColor", Integer(given, VORNIX_I64) };
+        vornix_grid_options options = Options();
+        options.has_bag = 1;
+        options.bag = &entry;
+        options.bag_count = 1;
+        const GridPtr grid = MakeGrid(options);
+        return static_cast<std::uint32_t>(Get(grid.get(), "BackColor").ToInteger());
+    };
+    EXPECT_EQ(colorOf(0x8000000F), 0x8000000Fu);
+    EXPECT_EQ(colorOf(static_cast<std::int32_t>(0x8000000F)), 0x8000000Fu);
+    EXPECT_EQ(colorOf(0xFFFFFFFF), 0xFFFFFFFFu);
+    for (const std::int64_t beyond : { std::int64_t { 1 } << 32, -(std::int64_t { 1 } << 31) - 1 }) {
+        const vornix_bag_entry entry { "BackColor", Integer(beyond, VORNIX_I64) };
+        vornix_grid_options options = Options();
+        options.has_bag = 1;
+        options.bag = &entry;
+        options.bag_count = 1;
+        vornix_grid* grid = nullptr;
+        EXPECT_EQ(vornix_grid_create(&options, &grid), 6);
+        EXPECT_EQ(grid, nullptr);
+    }
 }
 
 TEST(CGrid, IsErrorFiveAfterItsClose)

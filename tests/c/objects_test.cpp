@@ -291,6 +291,23 @@ TEST(CSurfaces, AreWhiteUntilTheyAreFilled)
     vornix_surface_destroy(nullptr);
 }
 
+TEST(CSurfaces, AreFilledWithSystemColors)
+{
+    vornix_surface* surface = nullptr;
+    ASSERT_EQ(vornix_surface_create(2, 2, 1, &surface), 0);
+    const auto filled = [&](std::uint32_t given) {
+        std::uint32_t color = 0;
+        EXPECT_EQ(vornix_surface_fill(surface, given), 0);
+        EXPECT_EQ(vornix_surface_pixel(surface, 1, 1, &color), 0);
+        return color;
+    };
+    EXPECT_EQ(filled(0x8000000D), 0xD77800u);
+    EXPECT_EQ(filled(0x8000000F), 0xF0F0F0u);
+    EXPECT_EQ(filled(0x7F102030), 0x102030u);
+    EXPECT_EQ(filled(0x800000FF), 0u);
+    vornix_surface_destroy(surface);
+}
+
 TEST(CSurfaces, HaveASizeAndAScaleWithinLimits)
 {
     vornix_surface* surface = nullptr;

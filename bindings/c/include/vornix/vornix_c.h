@@ -172,7 +172,7 @@ typedef void (*vornix_event_callback)(
 
 typedef struct vornix_bag_entry {
     const char* name;
-    vornix_value value; /* boolean, integer, text, font or picture */
+    vornix_value value; /* boolean, integer (-2^31 to 2^32 - 1, a pattern of 32 bits), text, font or picture */
 } vornix_bag_entry;
 
 typedef struct vornix_setting {
@@ -181,6 +181,11 @@ typedef struct vornix_setting {
     vornix_text key;
     vornix_text value;
 } vornix_setting;
+
+/* The user's settings where the caller keeps them. The first gives 0 where there is no such setting, otherwise it writes
+ * the value, whose text must stay until the next call of a function of the caller's. They must not throw. */
+typedef int32_t (*vornix_get_setting)(void* user, vornix_setting* setting);
+typedef void (*vornix_save_setting)(void* user, const vornix_setting* setting);
 
 typedef struct vornix_grid_options {
     size_t size; /* sizeof(vornix_grid_options) */
@@ -196,6 +201,9 @@ typedef struct vornix_grid_options {
     size_t setting_count;
     vornix_event_callback callback; /* null for none; may be set later */
     void* user;
+    vornix_get_setting get_setting; /* null for both: the grid keeps the settings by itself */
+    vornix_save_setting save_setting;
+    void* settings_user;
 } vornix_grid_options;
 
 /* Options may be null. The callback may be called already while the grid is being made; until its control is loaded it
@@ -310,7 +318,7 @@ VORNIX_API void vornix_object_release(vornix_object* object);
 VORNIX_API int32_t vornix_surface_create(int32_t width, int32_t height, double scale, vornix_surface** surface);
 VORNIX_API void vornix_surface_destroy(vornix_surface* surface);
 VORNIX_API int32_t vornix_surface_hdc(const vornix_surface* surface, intptr_t* hdc);
-/* A COLORREF, 0x00BBGGRR. */
+/* 0x00BBGGRR, or 0x80000000 and the index of a system colour of the container without a screen. */
 VORNIX_API int32_t vornix_surface_fill(vornix_surface* surface, uint32_t color);
 /* 0xFFFFFFFF outside. */
 VORNIX_API int32_t vornix_surface_pixel(const vornix_surface* surface, int32_t x, int32_t y, uint32_t* color);
@@ -388,9 +396,13 @@ VORNIX_API int32_t vornix_host_get_clipboard(vornix_grid* grid, vornix_text* tex
 VORNIX_API int32_t vornix_host_set_clipboard(vornix_grid* grid, vornix_text text);
 /* "default", "size_we" or "size_ns". */
 VORNIX_API int32_t vornix_host_pointer_shape(vornix_grid* grid, const char** shape);
+/* The settings that the grid keeps by itself. */
 VORNIX_API int32_t vornix_host_setting_count(vornix_grid* grid, size_t* count);
 VORNIX_API int32_t vornix_host_setting_at(vornix_grid* grid, size_t index, vornix_setting* setting);
+/* As the control saves and reads a setting. The value that is read replaces the one that is given, which is read where
+ * there is no such setting. */
 VORNIX_API int32_t vornix_host_save_setting(vornix_grid* grid, const vornix_setting* setting);
+VORNIX_API int32_t vornix_host_get_setting(vornix_grid* grid, vornix_setting* setting);
 
 /* The control's own surface. Pixels are logical; 0xFFFFFFFF outside. */
 VORNIX_API int32_t vornix_host_pixel(vornix_grid* grid, int32_t x, int32_t y, uint32_t* color);

@@ -3,9 +3,10 @@
 import random
 import unittest
 from array import array
+from collections import deque
 from datetime import date, datetime
 from decimal import Decimal
-from typing import Any, List
+from typing import Any, Iterator, List
 
 import vornix
 from support import GridTest
@@ -86,6 +87,42 @@ class TestLoadFromArray(GridTest):
         loaded = self.load((("a", "b"), array("d", [1, 2]), range(2), Numbers([7, 8])))
         self.assertEqual(loaded, [["a", "b"], ["1", "2"], ["0", "1"], ["7", "8"]])
 
+    def test_anything_that_gives_values_is_a_column(self) -> None:
+        def generator() -> Iterator[str]:
+            yield from "xy"
+
+        columns: List[Any] = [
+            map(str, (1, 2)),
+            generator(),
+            {7: "a", 8: "b"}.keys(),
+            frozenset({5}) | {5, 6},
+            deque([1, None]),
+            (number / 2 for number in (1, 2)),
+        ]
+        loaded = self.load(columns)
+        self.assertEqual(loaded[:3], [["1", "2"], ["x", "y"], ["7", "8"]])
+        self.assertEqual(sorted(loaded[3]), ["5", "6"])
+        self.assertEqual(loaded[4:], [["1", ""], ["0.5", "1"]])
+
+    def test_columns_may_come_one_by_one(self) -> None:
+        self.assertEqual(self.load(zip(("a", 1), ("b", 2))), [["a", "b"], ["1", "2"]])
+        self.assertEqual(self.load(map(list, ["ab", "cd"])), [["a", "b"], ["c", "d"]])
+        before = self.g.Rows
+        self.g.LoadFromArray(map(str, (1, 2)))  # type: ignore[arg-type]
+        self.g.LoadFromArray(iter([]))  # type: ignore[arg-type]
+        self.assertEqual(self.g.Rows, before)
+
+    def test_an_exception_while_a_column_is_read_comes_out(self) -> None:
+        with self.assertRaises(ZeroDivisionError):
+            self.g.LoadFromArray([(1 // number for number in (1, 0))])  # type: ignore[list-item]
+        self.assertEqual(self.g.Rows, 4)
+
+    def test_the_last_moment(self) -> None:
+        loaded = self.load([[datetime.max, datetime(9999, 12, 31, 23, 59, 59), datetime.max]])
+        self.assertEqual(loaded, [["12/31/9999 11:59:59 PM"] * 3])
+        self.g.Text[0, 0] = datetime.max  # type: ignore[assignment]
+        self.assertEqual(self.g.Text[0, 0], loaded[0][0])
+
     def test_null_leaves_the_cell_alone(self) -> None:
         self.assertEqual(self.load([["a", None]]), [["a", ""]])
 
@@ -106,8 +143,12 @@ class TestLoadFromArray(GridTest):
         self.assertEqual(self.g.Rows, 4)
 
     def test_what_is_no_table_is_error_13(self) -> None:
-        for value in (3, "text", None, {"a": 1}, [["a"], "b"], [["a"], None]):
+        for value in (3, "text", None, {"a": 1}, [["a"], "b"], [["a"], None], b"a"):
             self.fails(13, self.g.LoadFromArray, value)
+        for column in ({"a": 1}, {}, b"a", bytearray(b"a")):
+            self.fails(13, self.g.LoadFromArray, [column])
+            self.fails(13, self.g.LoadFromArray, [["a"], column])
+        self.assertEqual((self.g.Rows, self.g.Cols), (4, 3))
 
     def test_what_is_no_value_is_error_13(self) -> None:
         self.fails(13, self.g.LoadFromArray, [[object()]])

@@ -1,5 +1,7 @@
 """Events and their handlers."""
 
+import copy
+import pickle
 import unittest
 from typing import Any, List
 
@@ -85,6 +87,21 @@ class TestEvents(GridTest):
         self.g.on("KeyDown", second)
         self.assertEqual(self.press(), 2)
         self.assertEqual(self.seen, [("first", 65), ("second", 1)])
+
+    def test_names_are_in_any_case(self) -> None:
+        self.g.on("keydown", self.seen.append)  # type: ignore[call-overload]
+        self.press()
+        self.g.off("KEYDOWN", self.seen.append)  # type: ignore[arg-type]
+        self.press()
+        self.assertEqual(len(self.seen), 1)
+        self.fails(438, self.g.on, 3, print)
+
+    def test_events_cannot_be_copied_or_pickled(self) -> None:
+        self.g.on("KeyDown", self.seen.append)
+        self.press()
+        for use in (copy.copy, copy.deepcopy, pickle.dumps):
+            with self.assertRaises(TypeError):
+                use(self.seen[0])  # type: ignore[operator]
 
     def test_off_takes_a_handler_away(self) -> None:
         self.g.on("KeyDown", self.seen.append)
@@ -219,6 +236,52 @@ class TestExceptions(GridTest):
         self.assertEqual(len(seen), 2)
         self.g.Rows = 3
 
+    def test_calls_of_later_handlers_are_not_disturbed(self) -> None:
+        seen = []
+
+        def first(e: object) -> None:
+            raise LookupError("of the first handler")
+
+        def inner(e: object) -> None:
+            raise OSError("of the inner call")
+
+        def second(e: object) -> None:
+            self.g.Text[0, 0] = "written"
+            seen.append((self.g.Text[0, 0], self.g.Rows, repr(self.g)))
+            try:
+                self.g.host.key_up(66)
+            except OSError:
+                seen.append("its own")
+
+        self.g.on("KeyDown", first)
+        self.g.on("KeyDown", second)
+        self.g.on("KeyUp", inner)
+        with self.assertRaisesRegex(LookupError, "of the first handler"):
+            self.g.host.key_down(65)
+        self.assertEqual(seen, [("written", 4, "<vornix.Grid Rows=4 Cols=3>"), "its own"])
+        self.assertEqual(self.g.Text[0, 0], "written")
+
+    def test_an_inner_exception_that_goes_on_is_not_the_first(self) -> None:
+        def first(e: object) -> None:
+            raise LookupError
+
+        def inner(e: object) -> None:
+            raise OSError
+
+        self.g.on("KeyDown", first)
+        self.g.on("KeyDown", lambda e: self.g.host.key_up(66))
+        self.g.on("KeyUp", inner)
+        with self.assertRaises(LookupError):
+            self.g.host.key_down(65)
+        self.assertEqual(self.g.Rows, 4)
+
+    def test_an_error_that_waits_survives_the_repr(self) -> None:
+        session = self.g._session
+        session.keep_error(LookupError("waiting"))
+        self.assertEqual(repr(self.g), "<vornix.Grid Rows=4 Cols=3>")
+        with self.assertRaisesRegex(LookupError, "waiting"):
+            self.g.Rows
+
     def test_what_was_set_before_counts(self) -> None:
         def handler(e: vornix.events.KeyDown) -> None:
             e.KeyCode = 7
@@ -275,6 +338,21 @@ class TestDrawing(GridTest):
         self.g.on("DrawCell", draw)
         self.g.CellStyle[0, 0] = vornix.vxCustomDraw
         self.assertIn((0, 0, True), drawn)
+
+    def test_a_surface_is_a_device(self) -> None:
+        surface = vornix.Surface(20, 20)
+        found = [
+            (event, place)
+            for event in vornix.events.EVENTS
+            for place, kind in event._references.items()
+            if kind == "hdc"
+        ]
+        self.assertTrue(found)
+        for event, place in found:
+            made = event([0] * len(event._names))
+            made._set(place, surface)
+            self.assertEqual(getattr(made, event._names[place]), surface.hdc)
+            self.fails(13, made._set, place, "x")
 
 
 if __name__ == "__main__":

@@ -1,14 +1,18 @@
 """The container without a screen."""
 
+import ctypes
 import os
 import struct
 import tempfile
 import unittest
 import zlib
+from enum import IntEnum
 from pathlib import Path
-from typing import Tuple
+from typing import Any, Dict, List, Tuple
 
 import vornix
+from vornix import _library
+from vornix._library import library, make_text, text_of
 from support import GridTest
 
 
@@ -27,6 +31,20 @@ class TestForm(GridTest):
         self.assertIs(self.g.host.user_mode, False)
         with vornix.Grid(100, 100, design=True) as designed:
             self.assertIs(designed.host.user_mode, False)
+
+    def test_truth_as_a_text(self) -> None:
+        self.g.host.user_mode = "False"  # type: ignore[assignment]
+        self.assertIs(self.g.host.user_mode, False)
+        self.g.host.user_mode = "true"  # type: ignore[assignment]
+        self.assertIs(self.g.host.user_mode, True)
+        with self.raises(13):
+            self.g.host.user_mode = "perhaps"  # type: ignore[assignment]
+        with vornix.Grid(9, 9, design="False", show="False") as g:  # type: ignore[arg-type]
+            self.assertIs(g.host.user_mode, True)
+            g.host.click_at(5, 5)
+            self.assertEqual(g.host.log, [])
+        self.fails(13, vornix.Grid, 9, 9, show="perhaps")
+        self.fails(13, vornix.Grid, 9, 9, design="perhaps")
 
     def test_a_resize(self) -> None:
         self.g.host.resize(200, 100)
@@ -55,6 +73,8 @@ class TestForm(GridTest):
     def test_a_scale(self) -> None:
         with vornix.Grid(100, 50, scale=1.5) as g:
             self.assertEqual(g.host.image()[:2], (150, 75))
+        self.fails(13, vornix.Grid, 100, 50, scale="x")
+        self.fails(5, vornix.Grid, 100, 50, scale=5)
 
 
 class TestBag(GridTest):
@@ -66,6 +86,19 @@ class TestBag(GridTest):
             self.assertEqual((g.Cols, g.Rows, g.Redraw), (5, 7, False))
             self.assertEqual(g.Font, font)
             self.assertEqual(g.Picture, picture)
+
+    def test_colors_with_and_without_a_sign(self) -> None:
+        for given in (0x8000000F, 0x8000000F - 2**32, 0x00C0FFFF, 0xFFFFFFFF):
+            with vornix.Grid(100, 100, bag={"BackColor": given}) as g:
+                self.assertEqual(g.BackColor, given & 0xFFFFFFFF)
+                with vornix.Grid(100, 100, bag={"BackColor": g.BackColor}) as again:
+                    self.assertEqual(again.BackColor, g.BackColor)
+        self.fails(6, vornix.Grid, 100, 100, bag={"BackColor": 2**32})
+        self.fails(6, vornix.Grid, 100, 100, bag={"BackColor": -(2**31) - 1})
+
+    def test_what_is_no_bag(self) -> None:
+        for bag in ([("Rows", 3)], "Rows", 3, [], {3: 4}):
+            self.fails(13, vornix.Grid, 100, 100, bag=bag)
 
     def test_no_picture(self) -> None:
         with vornix.Grid(100, 100, bag={"Picture": None}) as g:
@@ -94,8 +127,55 @@ class TestSettings(unittest.TestCase):
         with vornix.Grid(100, 100, settings=store) as g:
             self.assertEqual(g.host.settings, kept)
             self.assertIs(g.host.settings, store)
+        self.assertEqual(store, kept)
         with vornix.Grid(100, 100) as g:
             self.assertEqual(g.host.settings, {})
+            self.assertIs(g.host.settings, g.host.settings)
+
+    @staticmethod
+    def control_saves(g: vornix.Grid, name: Tuple[str, str, str], text: str) -> None:
+        """As the control saves a setting."""
+        setting = _library.Setting(*map(make_text, (*name, text)))
+        g._session.call(library.vornix_host_save_setting, ctypes.byref(setting))
+
+    @staticmethod
+    def control_reads(g: vornix.Grid, name: Tuple[str, str, str]) -> str:
+        """As the control reads a setting: "none" where there is none."""
+        setting = _library.Setting(*map(make_text, (*name, "none")))
+        g._session.call(library.vornix_host_get_setting, ctypes.byref(setting))
+        return text_of(setting.value)
+
+    def test_the_control_reads_and_writes_the_dict_itself(self) -> None:
+        store: Dict[Tuple[str, str, str], str] = {("a", "b", "old"): "x"}
+        name = ("a", "\0", "\U0001f600")
+        with vornix.Grid(100, 100, settings=store) as g, vornix.Grid(9, 9, settings=store) as other:
+            self.assertEqual(self.control_reads(g, name), "none")
+            self.control_saves(g, name, "by the control")
+            self.assertEqual(store[name], "by the control")
+            self.assertEqual(self.control_reads(other, name), "by the control")
+            store[name] = "\ud800"
+            self.assertEqual(self.control_reads(g, name), "\ud800")
+            g.host.settings[name] = ""
+            self.assertEqual(self.control_reads(other, name), "")
+            del store[name]
+            self.assertEqual(self.control_reads(g, name), "none")
+        self.assertEqual(store, {("a", "b", "old"): "x"})
+
+    def test_a_setting_that_is_no_text_is_an_error_of_the_call(self) -> None:
+        store: Dict[Any, Any] = {}
+        with vornix.Grid(100, 100, settings=store) as g:
+            store["a", "b", "c"] = 3
+            with self.assertRaises(vornix.AutomationError) as caught:
+                self.control_reads(g, ("a", "b", "c"))
+            self.assertEqual(caught.exception.number, 13)
+            self.assertEqual(g.Rows, 1)
+
+    def test_what_is_no_store(self) -> None:
+        wrong: List[Any] = [[], "text", 3, {"a": "b"}, {("a", "b"): "c"}, {("a", "b", "c"): 3}]
+        for settings in [*wrong, {("a", "b", 3): "c"}]:
+            with self.assertRaises(vornix.AutomationError) as caught:
+                vornix.Grid(100, 100, settings=settings)
+            self.assertEqual(caught.exception.number, 13)
 
 
 class TestPointer(GridTest):
@@ -135,13 +215,67 @@ class TestPointer(GridTest):
         self.assertEqual(sum(move["Button"] == 1 for move in moves), 4)
 
     def test_what_the_control_does_not_answer_yet_is_error_445(self) -> None:
-        self.fails(445, self.g.host.wheel, 120)
         self.fails(445, self.g.host.tick)
 
     def test_numbers_that_do_not_fit(self) -> None:
         self.fails(6, self.g.host.mouse_down, 1, 1, 40000)
         self.fails(13, self.g.host.mouse_down, "x", 1)
         self.fails(6, self.g.host.wheel, 2**31)
+
+    def test_places_are_finite_and_of_32_bits(self) -> None:
+        host = self.g.host
+        for use in (host.mouse_down, host.mouse_move, host.mouse_up, host.click_at):
+            for wrong in (float("nan"), float("inf"), float("-inf")):
+                self.fails(5, use, wrong, 1)
+                self.fails(5, use, 1, wrong)
+            self.fails(6, use, 1e40, 1)
+        self.fails(5, host.drag, 1, 1, float("nan"), 1)
+        self.fails(6, host.drag, 1, 1, 1, -1e40)
+        self.assertEqual(host.log, [])
+
+    def test_numbers_as_texts(self) -> None:
+        self.g.host.mouse_down("5", " 6.5 ", "1")  # type: ignore[arg-type]
+        expected = {"Button": 1, "Shift": 0, "x": 5.0, "y": 6.5}
+        self.assertIn(("MouseDown", expected), self.g.host.log)
+        for wrong in ("1_0", "nan", "inf", "", "0x5", "1e", ".", "\u0661", "5 5", "True"):
+            self.fails(13, self.g.host.mouse_down, wrong, 1)
+            self.fails(13, self.g.host.key_down, wrong)
+
+    def test_integers_of_other_types(self) -> None:
+        class Code(IntEnum):
+            A = 65
+
+        class Odd(int):
+            def __le__(self, other: object) -> bool:
+                raise OSError
+
+            __lt__ = __ge__ = __gt__ = __le__
+
+        self.assertEqual(self.g.host.key_down(Code.A), 65)
+        self.assertEqual(self.g.host.key_down(Odd(66)), 66)
+        self.g.Rows = Odd(7)
+        self.assertEqual(self.g.Rows, 7)
+
+    def test_a_hidden_control_hears_nothing_of_a_person(self) -> None:
+        def do_everything(g: vornix.Grid) -> None:
+            g.host.clear_log()
+            g.host.click_at(60, 40)
+            g.host.dbl_click_at(60, 40)
+            g.host.drag(60, 40, 80, 60)
+            g.host.type("a")
+            g.host.press("Left")
+
+        self.g.host.hide()
+        do_everything(self.g)
+        self.assertEqual(self.g.host.log, [])
+        self.g.host.show()
+        do_everything(self.g)
+        self.assertGreater(len(self.g.host.log), 10)
+        with vornix.Grid(100, 100, show=False) as g:
+            do_everything(g)
+            self.assertEqual(g.host.log, [])
+            g.host.mouse_down(5, 5)
+            self.assertIn("MouseDown", [name for name, _ in g.host.log])
 
 
 class TestKeyboard(GridTest):
@@ -164,6 +298,32 @@ class TestKeyboard(GridTest):
         self.fails(5, self.g.host.key_press, "ab")
         self.fails(6, self.g.host.key_press, "\U0001f600")
 
+    def test_characters_of_the_upper_half_are_negative(self) -> None:
+        self.assertEqual(self.g.host.key_press("\u7fff"), 0x7FFF)
+        self.assertEqual(self.g.host.key_press("\u8000"), -0x8000)
+        self.assertEqual(self.g.host.key_press("\uffff"), -1)
+        self.g.host.clear_log()
+        self.g.host.type("\ufffd")
+        self.assertIn(("KeyPress", {"KeyAscii": -3}), self.g.host.log)
+
+    def test_a_line_break_of_two_characters_is_one_return(self) -> None:
+        self.g.host.type("a\r\nb")
+        codes = [entry[1]["KeyAscii"] for entry in self.g.host.log if entry[0] == "KeyPress"]
+        self.assertEqual(codes, [97, 13, 98])
+
+    def test_keys_by_their_characters(self) -> None:
+        for name, code in (("+", 43), (" ", 32), ("?", 63), ("a", 97), ("A", 97), ("7", 55)):
+            self.g.host.clear_log()
+            self.g.host.press(name)
+            self.assertIn(("KeyPress", {"KeyAscii": code}), self.g.host.log)
+
+    def test_other_names_of_keys(self) -> None:
+        names = {"PgUp": 33, "Prior": 33, "PgDn": 34, "Next": 34, "Ins": 45, "Del": 46}
+        for name, code in {**names, "Esc": 27, "BackSpace": 8, "pgup": 33}.items():
+            self.g.host.clear_log()
+            self.g.host.press(name)
+            self.assertEqual(self.g.host.log[0], ("KeyDown", {"KeyCode": code, "Shift": 0}))
+
     def test_what_a_person_types(self) -> None:
         self.g.host.type("ab")
         names = [name for name, _ in self.g.host.log]
@@ -178,10 +338,14 @@ class TestKeyboard(GridTest):
 
 
 class TestChildren(GridTest):
+    def bars(self) -> List[Tuple[str, bool]]:
+        return [("scrV", self.g.IsVisibleScrollV()), ("scrH", self.g.IsVisibleScrollH())]
+
     def test_every_child_has_a_place(self) -> None:
+        shown = [name for name, is_shown in self.bars() if is_shown]
         for name in "scrV scrH txtTmp cboTmp fraEdit cPivot picSplitCol picSplitMove".split():
             child = self.g.host.child(name)
-            self.assertIs(child.visible, False)
+            self.assertIs(child.visible, name in shown)
             self.assertIs(child.enabled, True)
             for edge in (child.left, child.top, child.width, child.height):
                 self.assertIsInstance(edge, int)
@@ -189,6 +353,11 @@ class TestChildren(GridTest):
 
     def test_other_names_are_error_5(self) -> None:
         self.fails(5, self.g.host.child, "noSuchChild")
+        self.fails(13, self.g.host.child, 3)
+
+    def test_names_are_in_any_case(self) -> None:
+        self.assertIn("'picSplitCol'", repr(self.g.host.child("PICSPLITCOL")))
+        self.assertEqual(self.g.host.child("scrv").left, self.g.host.child("scrV").left)
 
     def test_what_is_not_built_yet_is_error_445(self) -> None:
         child = self.g.host.child("txtTmp")

@@ -123,6 +123,16 @@ class TestThreads(GridTest):
 
     def test_the_repr_on_another_thread(self) -> None:
         self.assertEqual(in_thread(lambda: repr(self.g)), "<vornix.Grid of another thread>")
+        host = self.g.host
+        child = host.child("scrV")
+        whose = " of another thread's grid>"
+        self.assertEqual(in_thread(lambda: repr(host)), "<vornix.host.Host" + whose)
+        self.assertEqual(in_thread(lambda: repr(child)), "<vornix.host.Child 'scrV'" + whose)
+        self.assertIn("x", repr(child))
+        self.g.close()
+        for thing in (self.g, host, child):
+            self.assertIn("closed", repr(thing))
+            self.assertIn("closed", in_thread(lambda: repr(thing)))
 
     def test_two_threads_with_a_grid_each(self) -> None:
         def work() -> int:
@@ -190,7 +200,8 @@ class TestCollection(unittest.TestCase):
 
 class TestCopies(GridTest):
     def test_grids_cannot_be_copied_or_pickled(self) -> None:
-        for thing in (self.g, self.g.host, vornix.Surface(2, 2)):
+        things = [self.g, self.g.host, self.g.host.child("scrV"), self.g._session]
+        for thing in (*things, vornix.Surface(2, 2)):
             for use in (copy.copy, copy.deepcopy, pickle.dumps):
                 with self.assertRaises(TypeError):
                     use(thing)  # type: ignore[operator]

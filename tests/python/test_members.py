@@ -171,6 +171,22 @@ class TestInvoke(GridTest):
         self.g.invoke("hiderow", 1, rows=2)
         self.assertTrue(self.g.RowHide[2])
 
+    def test_a_property_is_written_by_names(self) -> None:
+        self.assertIsNone(self.g.invoke("Text", Col=1, Row=2, Value="by names", kind="let"))
+        self.assertEqual(self.g.Text[2, 1], "by names")
+        self.g.invoke("text", 2, col=1, VALUE="one name", kind="let")
+        self.assertEqual(self.g.Text[2, 1], "one name")
+        self.g.invoke("Text", "value last", Row=2, Col=1, kind="let")
+        self.assertEqual(self.g.Text[2, 1], "value last")
+        self.g.invoke("Text", 2, "value last", Col=1, kind="let")
+        self.assertEqual(self.g.Text[2, 1], "value last")
+        self.g.invoke("Rows", Value=6, kind="let")
+        self.assertEqual(self.g.Rows, 6)
+        self.assertEqual(self.g.invoke("Text", Row=2, Col=1, kind="get"), "value last")
+        self.fails(450, self.g.invoke, "Text", Row=2, Value="a", kind="let")
+        self.fails(448, self.g.invoke, "Text", Row=2, Column=1, Value="a", kind="let")
+        self.fails(450, self.g.invoke, "Text", Row=2, Col=1, Value="a", kind="get")
+
     def test_by_reference_arguments_come_back(self) -> None:
         self.assertEqual(self.g.invoke("GetCellAtPos", 5, 5), (True, -1, -1))
         self.assertEqual(self.g.invoke("getwidthheightcell", 1, 1, iHeight=8), (0, 8))

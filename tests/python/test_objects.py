@@ -5,10 +5,12 @@ import gc
 import pickle
 import tempfile
 import unittest
+from array import array
 from pathlib import Path
 
 import vornix
 from support import GridTest
+from vornix._errors import MissingMember, error_of
 
 RED = b"\xff\x00\x00\xff"
 
@@ -56,6 +58,26 @@ class TestFont(GridTest):
         self.assertNotEqual(font, "A")
         for other in (copy.copy(font), copy.deepcopy(font), pickle.loads(pickle.dumps(font))):
             self.assertEqual(other, font)
+
+    def test_truth_and_numbers_as_texts(self) -> None:
+        font = vornix.Font(
+            Name="A",
+            Size="12",  # type: ignore[arg-type]
+            Bold="False",  # type: ignore[arg-type]
+            Italic="true",  # type: ignore[arg-type]
+            Underline=-1,  # type: ignore[arg-type]
+            Strikethrough="0",  # type: ignore[arg-type]
+        )
+        self.assertEqual(font, vornix.Font("A", 12, Italic=True, Underline=True))
+
+    def test_values_of_other_types(self) -> None:
+        for wrong in (5, None, b"A"):
+            self.fails(13, vornix.Font, Name=wrong)
+        self.fails(13, vornix.Font, Size="x")
+        self.fails(13, vornix.Font, Bold="perhaps")
+        self.fails(13, vornix.Font, Bold=[])
+        self.fails(13, vornix.Font, Charset="x")
+        self.fails(5, vornix.Font, Size=float("nan"))
 
     def test_the_repr_makes_it_again(self) -> None:
         for font in (vornix.Font(), vornix.Font("B", 10.5, Underline=True, Charset=0)):
@@ -108,6 +130,14 @@ class TestPicture(GridTest):
             self.fails(5, vornix.Picture.from_rgba, *size, data)
         self.fails(6, vornix.Picture.from_rgba, 2**31, 1, RED)
 
+    def test_pixels_come_in_buffers(self) -> None:
+        for data in (bytearray(RED), memoryview(RED), array("B", RED)):
+            picture = vornix.Picture.from_rgba(1, 1, data)  # type: ignore[arg-type]
+            self.assertIn("1 x 1 pixels", repr(picture))
+        for wrong in (4, "abcd", list(RED), None):
+            self.fails(13, vornix.Picture.from_rgba, 1, 1, wrong)
+        self.fails(13, vornix.Picture.from_rgba, "x", 1, RED)
+
     def test_it_is_drawn(self) -> None:
         self.g.CellPicture[0, 0] = vornix.Picture.from_rgba(8, 8, RED * 64)
         self.g.CellPictureAlignment[0, 0] = vornix.vxPicLeft | vornix.vxPicTop
@@ -135,6 +165,17 @@ class TestSurface(GridTest):
         self.assertGreater(surface.hdc, 0)
         self.assertIn("4 x 3", repr(surface))
 
+    def test_system_colors(self) -> None:
+        surface = vornix.Surface(1, 1)
+        for given, color in (
+            (0x8000000D, 0x00D77800),
+            (0x8000000D - 2**32, 0x00D77800),
+            (0x8000000F, 0x00F0F0F0),
+            (0x80000005, 0x00FFFFFF),
+        ):
+            surface.fill(given)
+            self.assertEqual(surface.pixel(0, 0), color)
+
     def test_surfaces_have_numbers_of_their_own(self) -> None:
         first, second = vornix.Surface(1, 1), vornix.Surface(1, 1)
         self.assertNotEqual(first.hdc, second.hdc)
@@ -145,6 +186,8 @@ class TestSurface(GridTest):
             self.fails(5, vornix.Surface, *size)
         self.fails(6, vornix.Surface, 2**31, 1)
         self.fails(5, vornix.Surface, 1, 1, scale=0.5)
+        self.fails(13, vornix.Surface, 1, 1, scale="x")
+        self.fails(13, vornix.Surface, "x", 1)
 
     def test_a_file_that_cannot_be_written(self) -> None:
         self.fails(75, vornix.Surface(1, 1).save_png, "/nowhere/at/all.png")
@@ -158,6 +201,21 @@ class TestAutomationError(unittest.TestCase):
         self.assertEqual(error.number, 9)
         self.assertTrue(error.description)
         self.assertEqual(str(error), f"{error.description} (error 9)")
+
+    def test_what_is_not_there_is_no_attribute_either(self) -> None:
+        with vornix.Grid(50, 50) as g:
+            with self.assertRaises(AttributeError) as caught:
+                g.invoke("NoSuchMember")
+            assert isinstance(caught.exception, vornix.AutomationError)
+            self.assertEqual(caught.exception.number, 438)
+            copied = pickle.loads(pickle.dumps(caught.exception))
+            self.assertEqual((type(copied), str(copied)), (MissingMember, str(caught.exception)))
+            self.assertIsInstance(error_of(445), MissingMember)
+            self.assertNotIsInstance(error_of(5), AttributeError)
+            self.assertTrue(hasattr(g, "Rows"))
+        with self.assertRaises(vornix.AutomationError) as closed:
+            hasattr(g, "Rows")
+        self.assertEqual(closed.exception.number, 5)
 
     def test_it_can_be_pickled(self) -> None:
         error = pickle.loads(pickle.dumps(vornix.AutomationError(6, "too much")))

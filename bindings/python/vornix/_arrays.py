@@ -7,7 +7,7 @@ import ctypes
 from array import array
 from datetime import date, datetime
 from itertools import accumulate
-from typing import Any, Callable, Dict, FrozenSet, List, Optional, Sequence
+from typing import Any, Callable, Dict, FrozenSet, Iterable, List, Mapping, Optional, Sequence
 
 from . import _library
 from ._checks import check
@@ -44,10 +44,15 @@ class Array:
             library.vornix_array_release(self.pointer)
 
 
-def _is_column(value: Any) -> bool:
-    if isinstance(value, (str, bytes, bytearray, dict, set, frozenset)):
+def is_iterable(value: Any) -> bool:
+    """Whether a value is taken for the list of what it gives: neither texts nor mappings are."""
+    if isinstance(value, (str, bytes, bytearray, Mapping)):
         return False
-    return hasattr(value, "tolist") or (hasattr(value, "__len__") and hasattr(value, "__iter__"))
+    return isinstance(value, Iterable) or (hasattr(value, "tolist") and hasattr(value, "__len__"))
+
+
+def _is_no_value(value: Any) -> bool:
+    return is_iterable(value) or isinstance(value, (bytes, bytearray, Mapping))
 
 
 def _to_list(value: Any) -> Sequence[Any]:
@@ -58,15 +63,15 @@ def _to_list(value: Any) -> Sequence[Any]:
 
 
 def _to_table(columns: Any) -> List[Sequence[Any]]:
-    if not _is_column(columns):
+    if not is_iterable(columns):
         kind = type(columns).__name__
         raise AutomationError(TYPE_MISMATCH, f"A list of columns is needed, not a {kind}")
     outer = columns if isinstance(columns, (list, tuple)) else list(columns)
-    if not any(map(_is_column, outer)):
+    if not any(map(_is_no_value, outer)):
         # One dimension only: there are no records in it.
         return [[] for _ in outer]
     for place, column in enumerate(outer):
-        if not _is_column(column):
+        if not is_iterable(column):
             kind = type(column).__name__
             raise AutomationError(TYPE_MISMATCH, f"Column {place} is not a list but a {kind}")
     table = [_to_list(column) for column in outer]

@@ -2,28 +2,37 @@
 
 import math
 import os
+import re
 from typing import Any, Union
 
-from ._errors import OVERFLOW, TYPE_MISMATCH, AutomationError
+from ._errors import INVALID_ARGUMENT, OVERFLOW, TYPE_MISMATCH, AutomationError, error_of
 from ._library import last_error
+
+# Texts that are read as numbers: those that the interface and Python read alike.
+_NUMBER = re.compile(r"\s*[+-]?(\d+\.?\d*|\.\d+)(e[+-]?\d+)?\s*", re.ASCII | re.IGNORECASE)
+
+_LARGEST_SINGLE = 3.4028235677973366e38
 
 
 def check(status: int) -> None:
     """Raises the error of a status."""
     if status:
-        raise AutomationError(status, last_error())
+        raise error_of(status, last_error())
+
+
+def to_index(value: Any) -> int:
+    """The integer that a value with __index__ stands for."""
+    try:
+        return int(value.__index__())
+    except TypeError:
+        raise AutomationError(TYPE_MISMATCH, f"{value!r} is not a number") from None
 
 
 def _to_integer(value: Any) -> int:
     """An integer of what stands for one: floats are rounded to even, texts are read."""
-    try:
-        if hasattr(value, "__index__"):
-            return int(value.__index__())
-        if isinstance(value, str):
-            value = float(value)
-        number = float(value)
-    except (TypeError, ValueError, OverflowError):
-        raise AutomationError(TYPE_MISMATCH, f"{value!r} is not a number") from None
+    if hasattr(value, "__index__"):
+        return to_index(value)
+    number = to_float(value)
     if not math.isfinite(number):
         raise AutomationError(OVERFLOW, f"{number} is not an integer")
     return round(number)
@@ -53,6 +62,8 @@ def to_i64(value: Any) -> int:
 
 def to_float(value: Any) -> float:
     """A float; texts are read."""
+    if isinstance(value, str) and not _NUMBER.fullmatch(value):
+        raise AutomationError(TYPE_MISMATCH, f"{value!r} is not a number")
     try:
         return float(value)
     except (TypeError, ValueError):
@@ -64,8 +75,16 @@ def to_float(value: Any) -> float:
 def to_single(value: Any) -> float:
     """A float of 32 bits, held in one of 64."""
     number = to_float(value)
-    if math.isfinite(number) and abs(number) > 3.4028235677973366e38:
+    if math.isfinite(number) and abs(number) > _LARGEST_SINGLE:
         raise AutomationError(OVERFLOW, f"{number} does not fit a float of 32 bits")
+    return number
+
+
+def to_place(value: Any) -> float:
+    """One number of a place of the pointer: finite, and of 32 bits."""
+    number = to_single(value)
+    if not math.isfinite(number):
+        raise AutomationError(INVALID_ARGUMENT, f"{number} is no place of the pointer")
     return number
 
 

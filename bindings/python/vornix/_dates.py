@@ -13,6 +13,11 @@ _FIRST_DAY = datetime(1899, 12, 30)
 _MICROSECONDS_A_DAY = 86_400_000_000
 _ONE_DAY = timedelta(days=1)
 
+# No date of the interface lies behind this day, not even when it is rounded to a second.
+_LAST_DAY = (datetime.max - _FIRST_DAY).days
+_LAST_SECOND = _LAST_DAY + 86_399 / 86_400
+_HALF_A_SECOND = 0.5 / 86_400
+
 
 def to_days(value: date) -> float:
     """The days of a date or a datetime."""
@@ -22,7 +27,10 @@ def to_days(value: date) -> float:
         raise AutomationError(TYPE_MISMATCH, "A date here has no time zone")
     since = value - _FIRST_DAY
     fraction = (since - timedelta(days=since.days)) / _ONE_DAY
-    return since.days - fraction if since.days < 0 else since.days + fraction
+    if since.days < 0:
+        return since.days - fraction
+    days = since.days + fraction
+    return days if days < _LAST_SECOND + _HALF_A_SECOND else _LAST_SECOND
 
 
 def from_days(days: float) -> datetime:
@@ -43,4 +51,6 @@ def from_days(days: float) -> datetime:
     try:
         return _FIRST_DAY + timedelta(days=whole, microseconds=microseconds)
     except OverflowError:
+        if whole == _LAST_DAY:
+            return datetime.max
         raise AutomationError(OVERFLOW, f"{days} is not a date of datetime") from None

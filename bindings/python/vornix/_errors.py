@@ -48,3 +48,13 @@ class AutomationError(Exception):
 
 
 AutomationError.__module__ = "vornix"
+
+
+class MissingMember(AutomationError, AttributeError):
+    """Errors 438 and 445: what the control does not have, or not yet; hasattr tells so."""
+
+
+def error_of(number: int, description: Optional[str] = None) -> AutomationError:
+    """The exception of an error number."""
+    kind = MissingMember if number in (NO_SUCH_MEMBER, NOT_SUPPORTED) else AutomationError
+    return kind(number, description)

@@ -4,18 +4,25 @@ from typing import Any, Callable, Dict, List, Sequence, Tuple
 
 from ._checks import to_bool, to_i16, to_i32, to_i64, to_single
 from ._errors import INVALID_ARGUMENT, AutomationError
-from ._objects import ForeignObject
+from ._identity import Unique
+from ._objects import ForeignObject, Surface
+
+
+def _to_hdc(value: Any) -> int:
+    """The number of a device, which a surface stands for as well."""
+    return to_i64(value.hdc if isinstance(value, Surface) else value)
+
 
 _CONVERSIONS: Dict[str, Callable[[Any], Any]] = {
     "i16": to_i16,
     "i32": to_i32,
     "f32": to_single,
     "bool": to_bool,
-    "hdc": to_i64,
+    "hdc": _to_hdc,
 }
 
 
-class Event:
+class Event(Unique):
     """An event with its arguments as attributes. Those by reference can be set by a handler."""
 
     __slots__ = ("_values", "_changed", "_has_ended")

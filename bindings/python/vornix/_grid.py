@@ -1,17 +1,18 @@
 """The grid."""
 
 import ctypes
-from typing import Any, Dict, List, Mapping, NoReturn, Optional, TypeVar
+from typing import Any, List, Mapping, MutableMapping, Optional, TypeVar
 
 from . import _library
-from ._checks import to_i16, to_i32, to_name
+from ._checks import to_bool, to_float, to_i16, to_i32, to_name, to_text
 from ._errors import INVALID_ARGUMENT, NOT_SUPPORTED, TYPE_MISMATCH, AutomationError
+from ._identity import Unique
 from ._members import GridMembers
 from ._objects import Font, Picture
-from ._session import CALL, GET, LET, Session
+from ._session import CALL, GET, LET, Session, Settings
 from ._values import put
 from .events import EVENTS, GridEvents
-from .host import Host, SettingName, make_settings
+from .host import Host
 
 __all__ = ["Grid", "ScrollBar", "TextBox"]
 
@@ -23,6 +24,8 @@ _BAG_KINDS = (bool, int, str, Font, Picture, type(None))
 
 def _make_bag(bag: Mapping[str, Any]) -> "ctypes.Array[_library.BagEntry]":
     """What a control was saved with; None is no picture."""
+    if not isinstance(bag, Mapping):
+        raise AutomationError(TYPE_MISMATCH, f"A bag is a dict, not a {type(bag).__name__}")
     made = (_library.BagEntry * len(bag))()
     for entry, (name, value) in zip(made, bag.items()):
         if not isinstance(value, _BAG_KINDS):
@@ -35,16 +38,31 @@ def _make_bag(bag: Mapping[str, Any]) -> "ctypes.Array[_library.BagEntry]":
     return made
 
 
+def _check_settings(settings: Any) -> None:
+    """Raises error 13 for what is no dict of settings."""
+    if not isinstance(settings, MutableMapping):
+        kind = type(settings).__name__
+        raise AutomationError(TYPE_MISMATCH, f"The settings are a dict, not a {kind}")
+    for name, text in settings.items():
+        if not isinstance(name, tuple) or len(name) != 3:
+            raise AutomationError(
+                TYPE_MISMATCH, f"{name!r} is not application, section and key of a setting"
+            )
+        for part in (*name, text):
+            to_text(part)
+
+
 _G = TypeVar("_G", bound="Grid")
 
 
-class Grid(GridMembers, GridEvents):
+class Grid(GridMembers, GridEvents, Unique):
     """A grid in a container without a screen, which is its `host`.
 
     width, height: of its window in pixels, border included.
     design: the form is being designed; without a bag the control is a new one.
     bag: what a control was saved with, values by name.
-    settings: the user's settings, text by (application, section, key).
+    settings: the user's settings, a dict of text by (application, section, key). It is the store
+        itself: the control reads from it and writes into it. Grids that are given one share it.
     show: whether the control is shown at the end.
     scale: device pixels for each pixel, 1 to 4.
 
@@ -52,7 +70,7 @@ class Grid(GridMembers, GridEvents):
     outward. A grid belongs to the thread that made it.
     """
 
-    __slots__ = ("_settings", "__weakref__")
+    __slots__ = ("__weakref__",)
 
     def __init__(
         self,
@@ -61,40 +79,36 @@ class Grid(GridMembers, GridEvents):
         *,
         design: bool = False,
         bag: Optional[Mapping[str, Any]] = None,
-        settings: Optional[Dict[SettingName, str]] = None,
+        settings: Optional[Settings] = None,
         show: bool = True,
         scale: float = 1.0,
     ) -> None:
         size = to_i32(width), to_i32(height)
         if min(size) < 1:
             raise AutomationError(INVALID_ARGUMENT, f"A window cannot be {width} x {height}")
-        entries = _make_bag(bag or {})
-        stored = make_settings(settings or {})
+        entries = _make_bag({} if bag is None else bag)
+        store: Settings = {} if settings is None else settings
+        _check_settings(store)
         options = _library.GridOptions(
             size=ctypes.sizeof(_library.GridOptions),
             width=size[0],
             height=size[1],
-            scale=float(scale),
-            design=bool(design),
-            hidden=not show,
+            scale=to_float(scale),
+            design=to_bool(design),
+            hidden=not to_bool(show),
             has_bag=bag is not None,
             bag=entries,
             bag_count=len(entries),
-            settings=stored,
-            setting_count=len(stored),
         )
-        self._settings = settings
-        self._session = Session(options, EVENTS)
+        self._session = Session(options, EVENTS, store)
 
     @property
     def host(self) -> Host:
         """The container: what a form and a person do to the grid, and what it says and shows."""
-        return Host(self._session, self._settings)
+        return Host(self._session)
 
     def close(self) -> None:
         """Ends the grid: everything of it raises error 5 from then on. A second time does nothing."""
-        if self._settings is not None and not self._session.has_ended:
-            self.host.settings
         self._session.end()
 
     def __enter__(self: _G) -> _G:
@@ -128,32 +142,20 @@ class Grid(GridMembers, GridEvents):
         """Calls a member by a name that is found out at run time, in any case.
 
         kind: "call" calls a method or reads a property, "get" reads a property, "let" writes one,
-        the value being the last argument. Arguments may be given by name. What comes back is what
-        the member's own spelling gives. Errors 438, 448, 450 for what the grid does not have.
+        the value being the last argument, or the one that is named Value. Arguments may be given by
+        name. What comes back is what the member's own spelling gives. Errors 438, 448, 450 for what the grid does not have.
         """
         if kind not in _KINDS:
             raise ValueError(f"kind must be one of {', '.join(_KINDS)}, not {kind!r}")
         return self._session.invoke_by_name(name, _KINDS[kind], arguments, named)
 
-    def __copy__(self) -> NoReturn:
-        raise TypeError("a Grid cannot be copied")
-
-    def __deepcopy__(self, memo: Any) -> NoReturn:
-        raise TypeError("a Grid cannot be copied")
-
-    def __reduce_ex__(self, protocol: Any) -> NoReturn:
-        raise TypeError("a Grid cannot be pickled")
-
     def __repr__(self) -> str:
-        session = self._session
-        if session.has_ended:
-            return "<vornix.Grid closed>"
-        if not session.is_here:
+        if not self._session.is_here and not self._session.has_ended:
             return "<vornix.Grid of another thread>"
-        try:
-            return f"<vornix.Grid Rows={self.Rows} Cols={self.Cols}>"
-        except AutomationError:
+        size = self._session.size()
+        if size is None:
             return "<vornix.Grid closed>"
+        return f"<vornix.Grid Rows={size[0]} Cols={size[1]}>"
 
 
 class TextBox:

@@ -99,6 +99,8 @@ class Setting(Structure):
     _fields_ = [("application", Text), ("section", Text), ("key", Text), ("value", Text)]
 
 
+SettingReader = CFUNCTYPE(c_int32, c_void_p, POINTER(Setting))
+SettingWriter = CFUNCTYPE(None, c_void_p, POINTER(Setting))
 EventCallback = CFUNCTYPE(None, c_void_p, c_void_p, c_int32, POINTER(Value), c_size_t)
 
 
@@ -117,6 +119,9 @@ class GridOptions(Structure):
         ("setting_count", c_size_t),
         ("callback", c_void_p),
         ("user", c_void_p),
+        ("get_setting", c_void_p),
+        ("save_setting", c_void_p),
+        ("settings_user", c_void_p),
     ]
 
 
@@ -246,6 +251,7 @@ _STATUS_FUNCTIONS = {
     "vornix_host_setting_count": [_handle, _size_out],
     "vornix_host_setting_at": [_handle, c_size_t, POINTER(Setting)],
     "vornix_host_save_setting": [_handle, POINTER(Setting)],
+    "vornix_host_get_setting": [_handle, POINTER(Setting)],
     "vornix_host_pixel": [_handle, c_int32, c_int32, POINTER(c_uint32)],
     "vornix_host_image_size": [_handle, _i32_out, _i32_out],
     "vornix_host_image": [_handle, c_void_p, c_size_t],

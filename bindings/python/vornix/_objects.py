@@ -6,8 +6,9 @@ import weakref
 from typing import Any, Optional, Tuple, Union
 
 from . import _library
-from ._checks import check, path_bytes, to_color, to_i32
-from ._errors import INVALID_ARGUMENT, AutomationError
+from ._checks import check, path_bytes, to_bool, to_color, to_float, to_i32, to_text
+from ._errors import INVALID_ARGUMENT, TYPE_MISMATCH, AutomationError
+from ._identity import Unique
 from ._library import library, make_text, text_of
 
 __all__ = ["Font", "Picture", "Surface"]
@@ -40,12 +41,12 @@ class Font:
         Strikethrough: bool = False,
         Charset: int = 1,
     ) -> None:
-        self._name = str(Name)
-        self._size = float(Size)
-        self._bold = bool(Bold)
-        self._italic = bool(Italic)
-        self._underline = bool(Underline)
-        self._strikethrough = bool(Strikethrough)
+        self._name = to_text(Name)
+        self._size = to_float(Size)
+        self._bold = to_bool(Bold)
+        self._italic = to_bool(Italic)
+        self._underline = to_bool(Underline)
+        self._strikethrough = to_bool(Strikethrough)
         self._charset = to_i32(Charset)
         self._pointer: Optional[int] = None
         self._native()
@@ -176,7 +177,11 @@ class Picture:
         cls, width: int, height: int, data: "Union[bytes, bytearray, memoryview]"
     ) -> "Picture":
         """A picture of pixels: red, green, blue and opacity, a byte each, rows from the top."""
-        pixels = bytes(data)
+        try:
+            pixels = memoryview(data).tobytes()
+        except TypeError:
+            kind = type(data).__name__
+            raise AutomationError(TYPE_MISMATCH, f"Pixels are bytes, not a {kind}") from None
         size = to_i32(width), to_i32(height)
         if min(size) < 1 or len(pixels) != size[0] * size[1] * 4:
             raise AutomationError(
@@ -243,7 +248,7 @@ class Picture:
         return f"<vornix.Picture {self.Handle}: {kind} of {width} x {height} pixels>"
 
 
-class Surface:
+class Surface(Unique):
     """A device to draw on, white at first: what arguments named PictureHdc or PrinterHdc take.
 
     width, height: in logical pixels; scale: device pixels for each of them, 1 to 4.
@@ -255,7 +260,7 @@ class Surface:
         self._width, self._height = to_i32(width), to_i32(height)
         pointer = ctypes.c_void_p()
         create = library.vornix_surface_create
-        check(create(self._width, self._height, float(scale), ctypes.byref(pointer)))
+        check(create(self._width, self._height, to_float(scale), ctypes.byref(pointer)))
         assert pointer.value is not None
         self._pointer = pointer.value
         weakref.finalize(self, library.vornix_surface_destroy, self._pointer).atexit = False
@@ -268,7 +273,8 @@ class Surface:
         return number.value
 
     def fill(self, color: int) -> None:
-        """Fills all of it with a colour, 0x00BBGGRR."""
+        """Fills all of it with a colour: 0x00BBGGRR, or 0x80000000 and the index of one of the
+        container's system colours."""
         check(library.vornix_surface_fill(self._pointer, to_color(color)))
 
     def pixel(self, x: int, y: int) -> int:
@@ -282,14 +288,11 @@ class Surface:
         """Writes a PNG file. Error 75 where it cannot be written."""
         check(library.vornix_surface_save_png(self._pointer, path_bytes(path)))
 
-    def __reduce_ex__(self, protocol: Any) -> Any:
-        raise TypeError("a Surface cannot be copied or pickled")
-
     def __repr__(self) -> str:
         return f"<vornix.Surface of {self._width} x {self._height} pixels>"
 
 
-class ForeignObject:
+class ForeignObject(Unique):
     """An object of the environment that passes through unseen."""
 
     __slots__ = ("_pointer", "_kept", "__weakref__")

@@ -7,16 +7,20 @@ import ctypes
 import threading
 import weakref
 from itertools import count
-from typing import Any, Callable, Dict, List, Mapping, Optional, Sequence, Tuple
+from typing import Any, Callable, Dict, List, Mapping, MutableMapping, Optional, Sequence, Tuple
 
 from . import _library
 from ._arrays import Array, texts_of
-from ._checks import check, to_name
-from ._errors import INVALID_ARGUMENT, NO_SUCH_MEMBER, AutomationError
-from ._library import CALL, GET, LET, TYPE_COLOR, Value, library
+from ._checks import check, to_name, to_text
+from ._errors import INVALID_ARGUMENT, NO_SUCH_MEMBER, AutomationError, error_of
+from ._identity import Unique
+from ._library import CALL, GET, LET, TYPE_COLOR, Value, library, make_text, text_of
 from ._values import peek, put, take
 
 Handler = Callable[[Any], object]
+# Application, section and key.
+SettingName = Tuple[str, str, str]
+Settings = MutableMapping[SettingName, str]
 
 # The arguments that an event has at most.
 _LONGEST_EVENT = 8
@@ -44,7 +48,7 @@ class _Members(Dict[str, Member]):
     def __missing__(self, name: str) -> Member:
         pointer = library.vornix_find_member(to_name(name))
         if not pointer:
-            raise AutomationError(NO_SUCH_MEMBER, f"The grid has no member {name!r}")
+            raise error_of(NO_SUCH_MEMBER, f"The grid has no member {name!r}")
         member = self[name] = Member(pointer)
         return member
 
@@ -69,11 +73,35 @@ def _on_event(user: int, grid: int, number: int, arguments: Any, length: int) ->
         session.keep_error(error)
 
 
+def _get_setting(user: int, setting: Any) -> int:
+    """Every reading of a setting by a grid comes in here: 0 where there is no such setting."""
+    session = _live.get(user)
+    try:
+        return 0 if session is None else session.read_setting(setting[0])
+    except BaseException as error:
+        if session is not None:
+            session.keep_error(error)
+        return 0
+
+
+def _save_setting(user: int, setting: Any) -> None:
+    """And every writing here."""
+    session = _live.get(user)
+    try:
+        if session is not None:
+            session.write_setting(setting[0])
+    except BaseException as error:
+        if session is not None:
+            session.keep_error(error)
+
+
+_setting_reader = _library.SettingReader(_get_setting)
+_setting_writer = _library.SettingWriter(_save_setting)
 _callback = _library.EventCallback(_on_event)
 _callback_address = ctypes.cast(_callback, ctypes.c_void_p)
 
 
-class Session:
+class Session(Unique):
     """One grid."""
 
     __slots__ = (
@@ -84,23 +112,36 @@ class Session:
         "_error",
         "_handlers",
         "_events",
+        "_settings",
+        "_setting",
         "_end",
         "__weakref__",
     )
 
-    def __init__(self, options: _library.GridOptions, events: Sequence[Any]) -> None:
-        pointer = ctypes.c_void_p()
-        check(library.vornix_grid_create(ctypes.byref(options), ctypes.byref(pointer)))
-        assert pointer.value is not None
-        self._pointer = pointer.value
+    def __init__(
+        self, options: _library.GridOptions, events: Sequence[Any], settings: Settings
+    ) -> None:
         self._thread = threading.get_ident()
         self._ended = False
         self._error: Optional[BaseException] = None
         self._events = events
         self._handlers: Dict[int, Tuple[Handler, ...]] = {}
+        self._settings = settings
+        self._setting: Optional[_library.Text] = None
         self._number = next(_numbers)
-        self._end = weakref.finalize(self, library.vornix_grid_destroy, self._pointer)
+        # Settings are read while the grid is being made.
         _live[self._number] = self
+        options.get_setting = ctypes.cast(_setting_reader, ctypes.c_void_p)
+        options.save_setting = ctypes.cast(_setting_writer, ctypes.c_void_p)
+        options.settings_user = self._number
+        pointer = ctypes.c_void_p()
+        status = library.vornix_grid_create(ctypes.byref(options), ctypes.byref(pointer))
+        if pointer.value is not None:
+            self._pointer = pointer.value
+            self._end = weakref.finalize(self, library.vornix_grid_destroy, self._pointer)
+        if self._error is not None:
+            self.raise_error()
+        check(status)
 
     # -- Calls --
 
@@ -132,6 +173,21 @@ class Session:
         """The first exception out of a handler comes out of the call that is running."""
         if self._error is None:
             self._error = error
+
+    def size(self) -> Optional[Tuple[int, int]]:
+        """Rows and columns; None of a closed grid. An exception that waits goes on waiting."""
+        waiting, self._error = self._error, None
+        try:
+            if self._ended or self._is_terminated():
+                return None
+            return self.invoke("Rows", GET, ()), self.invoke("Cols", GET, ())
+        finally:
+            self._error = waiting
+
+    def _is_terminated(self) -> bool:
+        closed = ctypes.c_int32()
+        self.call(library.vornix_host_is_closed, ctypes.byref(closed))
+        return closed.value != 0
 
     def raise_error(self) -> None:
         error, self._error = self._error, None
@@ -171,6 +227,8 @@ class Session:
     ) -> Any:
         """Calls a member with some arguments by their names."""
         member = _members[name]
+        if kind == LET and named and positional and "value" not in map(str.lower, named):
+            positional, named = positional[:-1], {**named, "Value": positional[-1]}
         given = [key.lower() for key in named]
         values = [*positional, *named.values()]
         names = [to_name(key) for key in named]
@@ -181,6 +239,9 @@ class Session:
         slots = (Value * len(values))()
         kept = [put(slots[place], value) for place, value in enumerate(values)]
         result = Value()
+        # Where the arguments by reference come back.
+        lowered = [argument.name.decode().lower() for argument in member.arguments]
+        order = [*lowered[: len(positional)], *(key.decode().lower() for key in names)]
         self.call(
             library.vornix_invoke_named,
             to_name(name),
@@ -192,10 +253,31 @@ class Session:
             ctypes.byref(result),
         )
         kept.clear()
-        lowered = [argument.name.decode().lower() for argument in member.arguments]
-        order = [*lowered[: len(positional)], *(key.decode().lower() for key in names)]
+        if kind == LET:
+            return None
         places = tuple(order.index(lowered[place]) for place in member.references)
         return _returned(member, places, slots, result)
+
+    # -- Settings --
+
+    @property
+    def settings(self) -> Settings:
+        """The user's settings: what the control reads and writes."""
+        return self._settings
+
+    def read_setting(self, setting: _library.Setting) -> int:
+        text = self._settings.get(_name_of(setting))
+        if text is None:
+            return 0
+        # Kept for as long as the library reads it.
+        self._setting = make_text(to_text(text))
+        setting.value = self._setting
+        return 1
+
+    def write_setting(self, setting: _library.Setting) -> None:
+        self._settings[_name_of(setting)] = text_of(setting.value)
+
+    # -- Many values --
 
     def texts(self, row1: int, col1: int, row2: int, col2: int) -> List[str]:
         """The texts of a rectangle, column by column."""
@@ -210,8 +292,9 @@ class Session:
     # -- Events --
 
     def event_number(self, name: str) -> int:
+        lowered = name.lower() if isinstance(name, str) else name
         for number, event in enumerate(self._events):
-            if event.__name__ == name:
+            if event.__name__.lower() == lowered:
                 return number + 1
         raise AutomationError(NO_SUCH_MEMBER, f"The grid has no event {name!r}")
 
@@ -249,12 +332,21 @@ class Session:
             now = self._handlers.get(number, ())
             if now is not handlers and handler not in now:
                 continue
-            try:
-                handler(event)
-            except BaseException as error:
-                self.keep_error(error)
+            self._run(handler, event)
         for place, value in event._end():
             put(arguments[place], value)
+
+    def _run(self, handler: Handler, event: Any) -> None:
+        """What waits to come out of the call that raised the event is not for the handler's own
+        calls."""
+        waiting, self._error = self._error, None
+        try:
+            handler(event)
+        except BaseException as error:
+            self.keep_error(error)
+        finally:
+            if waiting is not None:
+                self._error = waiting
 
     def logged(self) -> List[Tuple[str, Dict[str, Any]]]:
         """The events since the log was cleared."""
@@ -284,11 +376,18 @@ class Session:
         """Closes the grid for good. Inside one of its own calls it is freed after that call."""
         if self._ended:
             return
-        self.call(library.vornix_host_close)
-        self._ended = True
-        self._handlers.clear()
-        if library.vornix_grid_destroy(self._pointer) == 0:
-            self._end.detach()
+        self.require_open()
+        try:
+            self.call(library.vornix_host_close)
+        finally:
+            self._ended = True
+            self._handlers.clear()
+            if library.vornix_grid_destroy(self._pointer) == 0:
+                self._end.detach()
+
+
+def _name_of(setting: _library.Setting) -> SettingName:
+    return text_of(setting.application), text_of(setting.section), text_of(setting.key)
 
 
 def _returned(member: Member, places: Sequence[int], slots: Any, result: Value) -> Any:

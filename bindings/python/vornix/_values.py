@@ -6,8 +6,8 @@ from datetime import date, datetime
 from typing import Any, Callable, Dict, Optional, Tuple
 
 from . import _library
-from ._arrays import Array
-from ._checks import to_float
+from ._arrays import Array, is_iterable
+from ._checks import to_float, to_index
 from ._dates import from_days, to_days
 from ._errors import INVALID_ARGUMENT, OVERFLOW, TYPE_MISMATCH, AutomationError
 from ._library import Value, library, text_of
@@ -142,13 +142,16 @@ def put(slot: Value, value: Any) -> Optional[Array]:
 
 
 def _put_other(slot: Value, value: Any) -> Optional[Array]:
+    if isinstance(value, int):
+        _put_int(slot, int(value))
+        return None
     for kind, function in _PUT.items():
         if isinstance(value, kind):
             return function(slot, value)
-    if hasattr(value, "tolist") and hasattr(value, "__len__"):
+    if is_iterable(value):
         return _put_table(slot, value)
     if hasattr(value, "__index__"):
-        _put_int(slot, value.__index__())
+        _put_int(slot, to_index(value))
     elif hasattr(value, "__float__"):
         _put_float(slot, to_float(value))
     else:

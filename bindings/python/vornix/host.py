@@ -2,51 +2,38 @@
 
 import ctypes
 import os
-from typing import Any, Dict, List, Mapping, NoReturn, Optional, Sequence, Tuple, Union
+from typing import Any, Dict, List, NoReturn, Optional, Sequence, Tuple, Union
 
 from . import _library
-from ._checks import path_bytes, to_float, to_i16, to_i32, to_name, to_text
-from ._errors import INVALID_ARGUMENT, NOT_SUPPORTED, AutomationError
+from ._checks import path_bytes, to_bool, to_i16, to_i32, to_name, to_place, to_text
+from ._errors import INVALID_ARGUMENT, NOT_SUPPORTED, AutomationError, error_of
+from ._identity import Unique
 from ._library import library, make_text, text_of
-from ._session import Session
+from ._session import Session, Settings
 
 __all__ = ["Child", "Host"]
 
-# Application, section and key.
-SettingName = Tuple[str, str, str]
 PathLike = Union[str, "os.PathLike[str]"]
 
-
-def make_settings(settings: Mapping[SettingName, str]) -> "ctypes.Array[_library.Setting]":
-    """Settings for the library."""
-    made = (_library.Setting * len(settings))()
-    for entry, (name, value) in zip(made, settings.items()):
-        application, section, key = name
-        entry.application = make_text(application)
-        entry.section = make_text(section)
-        entry.key = make_text(key)
-        entry.value = make_text(value)
-    return made
+_CHILD_NAMES = "scrV scrH txtTmp cboTmp fraEdit cPivot picSplitCol picSplitMove"
+_CHILDREN = {name.lower(): name for name in _CHILD_NAMES.split()}
 
 
 def _not_built(what: str) -> NoReturn:
-    raise AutomationError(NOT_SUPPORTED, f"{what} is not built yet")
+    raise error_of(NOT_SUPPORTED, f"{what} is not built yet")
 
 
-class Host:
+class Host(Unique):
     """What a form and a person do to the control, and what the control says and shows.
 
     Places are pixels of the client area. Buttons are 1 left, 2 right, 4 middle; shift is a sum of
     1 Shift, 2 Ctrl and 4 Alt.
     """
 
-    __slots__ = ("_session", "_settings")
+    __slots__ = ("_session",)
 
-    def __init__(
-        self, session: Session, settings: Optional[Dict[SettingName, str]] = None
-    ) -> None:
+    def __init__(self, session: Session) -> None:
         self._session = session
-        self._settings = settings
 
     # -- The form --
 
@@ -59,7 +46,7 @@ class Host:
 
     @user_mode.setter
     def user_mode(self, value: bool) -> None:
-        self._session.call(library.vornix_host_set_user_mode, -1 if value else 0)
+        self._session.call(library.vornix_host_set_user_mode, -1 if to_bool(value) else 0)
 
     def resize(self, width: int, height: int) -> None:
         """Gives the window another size, in pixels with the border."""
@@ -97,7 +84,7 @@ class Host:
     # -- Single notifications --
 
     def _at(self, function: Any, x: float, y: float, button: int, shift: int) -> None:
-        self._session.call(function, to_float(x), to_float(y), to_i16(button), to_i16(shift))
+        self._session.call(function, to_place(x), to_place(y), to_i16(button), to_i16(shift))
 
     def mouse_down(self, x: float, y: float, button: int = 1, shift: int = 0) -> None:
         """A button goes down. Nothing else follows from it."""
@@ -168,7 +155,7 @@ class Host:
         steps: int = 8,
     ) -> None:
         """Presses at one place, moves to another in so many steps, and lets go."""
-        places = map(to_float, (x1, y1, x2, y2))
+        places = map(to_place, (x1, y1, x2, y2))
         call = library.vornix_host_drag
         self._session.call(call, *places, to_i16(button), to_i16(shift), to_i32(steps))
 
@@ -185,8 +172,8 @@ class Host:
 
     def child(self, name: str) -> "Child":
         """A child window: "scrV", "scrH", "txtTmp", "cboTmp", "fraEdit", "cPivot", "picSplitCol"
-        or "picSplitMove". Error 5 for other names."""
-        child = Child(self._session, name)
+        or "picSplitMove", in any case. Error 5 for other names."""
+        child = Child(self._session, _CHILDREN.get(to_text(name).lower(), name))
         child._info()
         return child
 
@@ -272,24 +259,10 @@ class Host:
         return _name_of(shape)
 
     @property
-    def settings(self) -> Dict[SettingName, str]:
-        """The settings store, text by (application, section, key). It is the dict that the grid was
-        made with, brought up to date, as it is when the grid is closed; writing into it does not
-        reach the control."""
-        length = ctypes.c_size_t()
-        self._session.call(library.vornix_host_setting_count, ctypes.byref(length))
-        stored = dict(self._setting(index) for index in range(length.value))
-        if self._settings is None:
-            return stored
-        self._settings.clear()
-        self._settings.update(stored)
-        return self._settings
-
-    def _setting(self, index: int) -> Tuple[SettingName, str]:
-        setting = _library.Setting()
-        self._session.call(library.vornix_host_setting_at, index, ctypes.byref(setting))
-        name = (text_of(setting.application), text_of(setting.section), text_of(setting.key))
-        return name, text_of(setting.value)
+    def settings(self) -> Settings:
+        """The settings store, text by (application, section, key): the dict that the grid was made
+        with, or one of its own. What is written into it the control reads."""
+        return self._session.settings
 
     # -- Its picture --
 
@@ -313,15 +286,11 @@ class Host:
         """Writes the picture to a PNG file. Error 75 where it cannot be written."""
         self._session.call(library.vornix_host_save_png, path_bytes(path))
 
-    def __reduce_ex__(self, protocol: Any) -> Any:
-        raise TypeError("a Host cannot be copied or pickled")
-
     def __repr__(self) -> str:
-        state = " of a closed grid" if self._session.has_ended else ""
-        return f"<vornix.host.Host{state}>"
+        return f"<vornix.host.Host{_whose(self._session)}>"
 
 
-class Child:
+class Child(Unique):
     """A child window of the control."""
 
     __slots__ = ("_session", "_name")
@@ -444,13 +413,20 @@ class Child:
         self._not_built("The bar")
 
     def __repr__(self) -> str:
-        try:
-            info = self._info()
-        except AutomationError:
-            return f"<vornix.host.Child {self._name!r} of a closed grid>"
+        whose = _whose(self._session)
+        if whose:
+            return f"<vornix.host.Child {self._name!r}{whose}>"
+        info = self._info()
         state = "visible" if info.visible else "hidden"
         place = f"{info.width} x {info.height} at {info.left}, {info.top}"
         return f"<vornix.host.Child {self._name!r}: {place}, {state}>"
+
+
+def _whose(session: Session) -> str:
+    """Why there is nothing to be said about what belongs to a grid; empty where there is."""
+    if session.has_ended:
+        return " of a closed grid"
+    return "" if session.is_here else " of another thread's grid"
 
 
 def _name_of(name: ctypes.c_char_p) -> str:
@@ -462,4 +438,6 @@ def _character_code(char: Union[str, int]) -> int:
         return to_i16(char)
     if len(char) != 1:
         raise AutomationError(INVALID_ARGUMENT, f"{char!r} is not one character")
-    return to_i16(ord(char))
+    code = ord(char)
+    # The upper half of 16 bits is negative.
+    return to_i16(code - 0x10000 if 0x8000 <= code <= 0xFFFF else code)

@@ -31,7 +31,7 @@ PYTHON_TYPES = {
     "font": "_objects.Font",
     "picture": "Optional[_objects.Picture]",
     "object": "Any",
-    "array": "Sequence[Sequence[Any]]",
+    "array": "Iterable[Iterable[Any]]",
     "variant": "Any",
 }
 
@@ -243,7 +243,7 @@ def members_module(interface: Interface, stub: bool) -> str:
     lines = [
         *([] if stub else ['"""The members of the grid."""']),
         HEAD,
-        "from typing import Any, Optional, Sequence, Tuple",
+        "from typing import Any, Iterable, Optional, Tuple",
         "",
         "from . import _indexed, _objects",
         f"from ._calls import {'Members' if stub else 'IndexedMember, Members'}",

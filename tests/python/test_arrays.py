@@ -108,13 +108,13 @@ class TestLoadFromArray(GridTest):
         self.assertEqual(self.load(zip(("a", 1), ("b", 2))), [["a", "b"], ["1", "2"]])
         self.assertEqual(self.load(map(list, ["ab", "cd"])), [["a", "b"], ["c", "d"]])
         before = self.g.Rows
-        self.g.LoadFromArray(map(str, (1, 2)))  # type: ignore[arg-type]
-        self.g.LoadFromArray(iter([]))  # type: ignore[arg-type]
+        self.g.LoadFromArray(map(str, (1, 2)))
+        self.g.LoadFromArray(iter([]))
         self.assertEqual(self.g.Rows, before)
 
     def test_an_exception_while_a_column_is_read_comes_out(self) -> None:
         with self.assertRaises(ZeroDivisionError):
-            self.g.LoadFromArray([(1 // number for number in (1, 0))])  # type: ignore[list-item]
+            self.g.LoadFromArray([(1 // number for number in (1, 0))])
         self.assertEqual(self.g.Rows, 4)
 
     def test_the_last_moment(self) -> None:

@@ -27,6 +27,7 @@ def use(g: vornix.Grid) -> None:
     g.CellPicture[0, 0] = picture
     texts: List[str] = g.texts(0, 1)
     g.LoadFromArray([["a", None], [1, 2.5]])
+    g.LoadFromArray(zip(("a", 1), ("b", 2)))
     g.LoadFromArray(g.columns(0, 0, 1, 1), IsNullTest=False)
     g.on("CellChange", refuse)
     g.off("CellChange", refuse)

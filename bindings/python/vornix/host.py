@@ -27,7 +27,8 @@ class Host(Unique):
     """What a form and a person do to the control, and what the control says and shows.
 
     Places are pixels of the client area. Buttons are 1 left, 2 right, 4 middle; shift is a sum of
-    1 Shift, 2 Ctrl and 4 Alt.
+    1 Shift, 2 Ctrl and 4 Alt. What a person does reaches the control only while it is shown; single
+    notifications always do.
     """
 
     __slots__ = ("_session",)
@@ -160,11 +161,12 @@ class Host(Unique):
         self._session.call(call, *places, to_i16(button), to_i16(shift), to_i32(steps))
 
     def type(self, text: str) -> None:
-        """Types a text into what has the focus."""
+        """Types a text into what has the focus; a line break, CR LF too, is one Return."""
         self._session.call(library.vornix_host_type, make_text(to_text(text)))
 
     def press(self, key: Union[str, int], shift: int = 0) -> None:
-        """Presses a key ("Left", "F2", "Escape", "Return", ...) or the key of a code."""
+        """Presses a key by its name in any case ("Left", "F2", "Escape", "PgDn", ...), by the
+        character it gives ("a", "+", " "; upper signs take Shift, letters do not), or by its code."""
         if isinstance(key, str):
             self._session.call(library.vornix_host_press, to_name(key), to_i16(shift))
         else:

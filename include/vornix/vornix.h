@@ -105,6 +105,16 @@ public:
     // and raise Scroll, ScrollTrackRow or ScrollTrackCol.
     void ScrollBarNotify(ChildName Bar, i32 Code);
     void MouseWheel(i32 Delta);
+    // The interval of the timer has passed (Container::SetTimer).
+    void Tick();
+    // The pointer on one of the children, in its own pixels: the split is dragged by picSplitCol. Other children do
+    // nothing with it. Raise SplitCols.
+    void ChildMouseDown(ChildName Child, i16 Button, float x, float y);
+    void ChildMouseMove(ChildName Child, float x, float y);
+    void ChildMouseUp(ChildName Child, i16 Button, float x, float y);
+    // A child has to be drawn anew, or has got the focus.
+    void PaintChild(ChildName Child);
+    void EnterChildFocus(ChildName Child);
 
     // -- Drawing and the redraw gate --
 
@@ -577,6 +587,16 @@ public:
 
     // -- Current cell --
 
+    // Whether the control takes input from the user: without, its window gives no notice of mouse and keys.
+    bool Enabled() const;
+    void SetEnabled(bool Value);
+    // Of the latest press, 0 behind the events of its click. Shift state of the latest press or move.
+    i16 GetMouseButton() const;
+    i16 GetMouseShift() const;
+    // 0, or 99 while the pointer has the shape for sizing a line.
+    i32 MousePointer() const;
+    // Whether the user is sizing a line.
+    bool IsSizingMode() const;
     // Public row, in virtual mode the place in the list, and public column; NoIndex without a current cell. Written, the
     // editor closes without an event, the cell moves, snaps to the parent of its span and comes into view; the selection
     // stays, and neither CellChange nor ValidateRow is raised. A hidden line gives way to the next visible one in the

@@ -9,6 +9,8 @@ class EditSessionControl : public CellEditor {
 public:
     bool IsEditorOpen() const override { return false; }
     void CloseEditor() override { }
+    bool IsEditorOpenOn(CellIndex /*cell*/) const override { return false; }
+    void CloseEditorAndRepaint() override { }
     bool OpenEditor(int /*row*/, int /*col*/) override { return false; }
     void EnterEdit() override { }
     void SetSelStart(int /*place*/) override { }
@@ -27,11 +29,6 @@ public:
     i32 Length() const override { return 0; }
     void GotoListPosition(i32 /*position*/) override { }
     void RollPageWithCurrent() override { }
-};
-
-class HoverControl : public PointerHover {
-public:
-    void ExitHover() override { }
 };
 
 class RecordSourceControl {

@@ -11,7 +11,9 @@
 #include "interact/current_cell_mover.h"
 #include "interact/grid_selection.h"
 #include "interact/keyboard.h"
+#include "interact/mouse.h"
 #include "interact/scrolling.h"
+#include "interact/split_drag.h"
 #include "layout/layout_engine.h"
 #include "layout/scroll_model.h"
 #include "model/grid_store.h"
@@ -31,6 +33,7 @@ namespace vornix {
 struct ShellSettings {
     std::u16string Caption;
     i32 BorderStyle = vxNoBorder;
+    bool Enabled = true;
     i32 AdjustLast = vxBoth;
     i32 ResizeMode = vxBoth;
     i16 VirtualPageSize = 0;
@@ -58,14 +61,18 @@ public:
     EditSessionControl editor;
     VirtualModeControl virtualMode;
     RecordSourceControl recordSource;
-    HoverControl hover;
 
+    PressedCell pressed;
     GridInteraction interaction;
     PaintPipeline paint;
     RepaintFunnel funnel;
     Scrolling scrolling;
     CurrentCellMover mover;
     CheckToggle checks;
+    LineSizing sizing;
+    SplitDrag split;
+    MouseSelection mouseSelection;
+    Mouse mouse;
     Keyboard keyboard;
     Broadcast broadcast;
 
@@ -79,6 +86,8 @@ public:
     i16 PublicRow(int row) const;
     i16 PublicCol(int col) const;
 
+    // Whether what the user does arrives.
+    bool HearsUser() const { return settings.Enabled; }
     bool IsRunMode() const { return container.UserMode(); }
     const CellFormat& Format(i16 Row, i16 Col) const;
     // Writes one cell's format, then refreshes the cell.

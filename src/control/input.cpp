@@ -1,36 +1,127 @@
 // What happens to the control's window, on its way to the host.
+#include "automation/checked.h"
 #include "control/control.h"
 
 namespace vornix {
 
+namespace {
+
+constexpr i32 DefaultPointer = 0;
+constexpr i32 CustomPointer = 99;
+
+} // namespace
+
 void Vornix::MouseDown(i16 Button, i16 Shift, float x, float y)
 {
-    Enter()->events.MouseDown(Button, Shift, x, y);
+    if (const auto control = Enter(); control->HearsUser())
+        control->mouse.Down(Button, Shift, x, y);
 }
 
 void Vornix::MouseMove(i16 Button, i16 Shift, float x, float y)
 {
-    Enter()->events.MouseMove(Button, Shift, x, y);
+    if (const auto control = Enter(); control->HearsUser())
+        control->mouse.Move(Button, Shift, x, y);
 }
 
 void Vornix::MouseUp(i16 Button, i16 Shift, float x, float y)
 {
-    Enter()->events.MouseUp(Button, Shift, x, y);
+    if (const auto control = Enter(); control->HearsUser())
+        control->mouse.Up(Button, Shift, x, y);
 }
 
 void Vornix::Click()
 {
-    Enter()->events.Click();
+    if (const auto control = Enter(); control->HearsUser())
+        control->mouse.Click();
 }
 
 void Vornix::DblClick()
 {
-    Enter()->events.DblClick();
+    if (const auto control = Enter(); control->HearsUser())
+        control->mouse.DblClick();
+}
+
+void Vornix::Tick()
+{
+    Enter()->mouse.Tick();
+}
+
+void Vornix::ChildMouseDown(ChildName Child, i16 Button, float x, float /*y*/)
+{
+    const auto control = Enter();
+    if (control->HearsUser() && Child == ChildName::picSplitCol)
+        control->split.Press(Button, RoundToI16(x));
+}
+
+void Vornix::ChildMouseMove(ChildName Child, float x, float /*y*/)
+{
+    const auto control = Enter();
+    if (control->HearsUser() && Child == ChildName::picSplitCol)
+        control->split.Move(RoundToI16(x));
+}
+
+void Vornix::ChildMouseUp(ChildName Child, i16 Button, float x, float /*y*/)
+{
+    const auto control = Enter();
+    if (control->HearsUser() && Child == ChildName::picSplitCol)
+        control->split.Release(Button, RoundToI16(x));
+}
+
+void Vornix::PaintChild(ChildName Child)
+{
+    const auto control = Enter();
+    if (Child == ChildName::picSplitCol)
+        control->funnel.PaintSplitBar();
+}
+
+// The corner between the bars hands the focus on.
+void Vornix::EnterChildFocus(ChildName Child)
+{
+    const auto control = Enter();
+    if (Child != ChildName::cPivot || control->mouse.IsArmed())
+        return;
+    if (control->editor.IsEditorOpen())
+        control->editor.TakeFocus();
+    else
+        control->mover.Repaint();
+}
+
+i16 Vornix::GetMouseButton() const
+{
+    return Enter()->mouse.Button();
+}
+
+i16 Vornix::GetMouseShift() const
+{
+    return Enter()->mouse.ShiftState();
+}
+
+i32 Vornix::MousePointer() const
+{
+    return Enter()->sizing.Cursor() == PointerShape::Default ? DefaultPointer : CustomPointer;
+}
+
+bool Vornix::IsSizingMode() const
+{
+    return Enter()->sizing.IsSizing();
+}
+
+bool Vornix::Enabled() const
+{
+    return Enter()->settings.Enabled;
+}
+
+void Vornix::SetEnabled(bool Value)
+{
+    const auto control = Enter();
+    control->SetSetting(control->settings.Enabled, Value, "Enabled");
 }
 
 void Vornix::KeyDown(i16& KeyCode, i16& Shift)
 {
     const auto control = Enter();
+    if (!control->HearsUser())
+        return;
     control->events.KeyDown(KeyCode, Shift);
     if (KeyCode != 0 && !control->IsClosed())
         control->keyboard.KeyDown(KeyCode, Shift);
@@ -38,22 +129,26 @@ void Vornix::KeyDown(i16& KeyCode, i16& Shift)
 
 void Vornix::KeyPress(i16& KeyAscii)
 {
-    Enter()->events.KeyPress(KeyAscii);
+    if (const auto control = Enter(); control->HearsUser())
+        control->events.KeyPress(KeyAscii);
 }
 
 void Vornix::KeyUp(i16& KeyCode, i16& Shift)
 {
-    Enter()->events.KeyUp(KeyCode, Shift);
+    if (const auto control = Enter(); control->HearsUser())
+        control->events.KeyUp(KeyCode, Shift);
 }
 
 void Vornix::ScrollBarNotify(ChildName Bar, i32 Code)
 {
-    Enter()->scrolling.Notify(Bar, Code);
+    if (const auto control = Enter(); control->HearsUser())
+        control->scrolling.Notify(Bar, Code);
 }
 
 void Vornix::MouseWheel(i32 Delta)
 {
-    Enter()->scrolling.Wheel(Delta);
+    if (const auto control = Enter(); control->HearsUser())
+        control->scrolling.Wheel(Delta);
 }
 
 } // namespace vornix

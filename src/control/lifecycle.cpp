@@ -8,8 +8,6 @@ namespace {
 
 constexpr u32 ClientEdge = 512;
 constexpr u32 StaticEdge = 131072;
-// How often the pointer is looked after, in milliseconds.
-constexpr int WatchInterval = 100;
 
 } // namespace
 
@@ -51,7 +49,8 @@ void Control::BuildTable()
     store.InitGridStore(container.Colors());
     layout.ResetFor(store);
     current.Clear();
-    selection.Collapse();
+    selection.Reset();
+    mouse.Reset();
     hasTable_ = true;
     CopyCaption();
     layout.MarkMetricsDirty();
@@ -237,14 +236,15 @@ void Vornix::SetRedraw(bool Value)
     control->gate.SetRedraw(Value);
     control->gate.RestoreFromRedraw();
     if (!control->IsRunMode()) {
+        control->mouse.ForgetPressUnlessHeld();
         control->funnel.RecalcLayout(false);
     } else if (Value) {
         control->HookBars(true);
-        control->container.SetTimer(WatchInterval, true);
+        control->container.SetTimer(Mouse::WatchInterval, true);
         control->funnel.RecalcLayout();
     } else {
         control->HookBars(false);
-        control->container.SetTimer(WatchInterval, false);
+        control->container.SetTimer(Mouse::WatchInterval, false);
     }
     control->Report("Redraw");
 }

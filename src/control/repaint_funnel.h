@@ -45,10 +45,10 @@ public:
     void RefreshOneCell(int row, int col) override;
 
     // The same, only while the gate is open.
-    void RepaintUnderGate();
+    void RepaintUnderGate() override;
+    void RefreshCellUnderGate(int row, int col) override;
     void RefreshRowUnderGate(int row);
     void RefreshColUnderGate(int col);
-    void RefreshCellUnderGate(int row, int col);
 
     // The window has another client size: back store and layout follow.
     void ClientSizeChanged();

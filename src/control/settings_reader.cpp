@@ -123,6 +123,7 @@ const std::array settingsInOrder {
     Setting {
         "ShowSplit", false, [](Control& c, const SettingValue& v) { c.layout.Settings.ShowSplit = v.ToTruth(); } },
     Setting { "ResizeMode", vxBoth, [](Control& c, const SettingValue& v) { c.settings.ResizeMode = v.ToInteger(); } },
+    Setting { "Enabled", true, [](Control& c, const SettingValue& v) { c.settings.Enabled = v.ToTruth(); } },
     Setting { "ResizingRows", false,
         [](Control& c, const SettingValue& v) { c.layout.Settings.ResizingRows = v.ToTruth(); } },
     Setting { "SelectMode", vxBoth,

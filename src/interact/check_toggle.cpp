@@ -13,8 +13,7 @@ void CheckToggle::Toggle(int row, int col)
     store_.EditCell(row, col).SetText(isChecked ? u"0" : u"-1");
     const i16 Row = ToI16(row - store_.FixedRows());
     const i16 Col = ToI16(col - store_.FixedCols());
-    if (gate_.IsOpen())
-        repainter_.RefreshIfInRange(row, col);
+    repainter_.RefreshCellUnderGate(row, col);
     events_.TextChange(Row, Col);
 }
 

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "model/grid_store.h"
-#include "model/redraw_gate.h"
 #include "model/repainter.h"
 #include "vornix/events.h"
 #include "vornix/platform/container.h"
@@ -11,10 +10,8 @@ namespace vornix {
 
 class CheckToggle {
 public:
-    CheckToggle(GridStore& store, const RedrawGate& gate, Repainter& repainter, const Container& container,
-        VornixEvents& events)
+    CheckToggle(GridStore& store, Repainter& repainter, const Container& container, VornixEvents& events)
         : store_(store)
-        , gate_(gate)
         , repainter_(repainter)
         , container_(container)
         , events_(events)
@@ -26,7 +23,6 @@ public:
 
 private:
     GridStore& store_;
-    const RedrawGate& gate_;
     Repainter& repainter_;
     const Container& container_;
     VornixEvents& events_;

@@ -46,6 +46,20 @@ void CurrentCellMover::Take(CellIndex cell)
     context_.current.CursorPosition = AddI32(context_.page.Offset(), cell.row);
 }
 
+CurrentCellMover::Answer CurrentCellMover::AskHost(CellIndex target)
+{
+    if (!IsReal(target))
+        return Answer::Gone;
+    bool isCanceled = false;
+    context_.events.CellChange(
+        ToI16(target.row - context_.store.FixedRows()), ToI16(target.col - context_.store.FixedCols()), isCanceled);
+    if (isCanceled)
+        return Answer::Refused;
+    if (context_.current.HostMovedCurrent)
+        return Answer::MovedByHost;
+    return IsReal(target) ? Answer::Take : Answer::Gone;
+}
+
 void CurrentCellMover::RepaintUnmarked()
 {
     if (!context_.gate.IsOpen() || !HasCurrent())
@@ -67,8 +81,8 @@ void CurrentCellMover::Show()
 
 void CurrentCellMover::Repaint()
 {
-    if (context_.gate.IsOpen() && HasCurrent())
-        context_.repainter.RefreshIfInRange(context_.current.Row(), context_.current.Col());
+    if (HasCurrent())
+        context_.repainter.RefreshCellUnderGate(context_.current.Row(), context_.current.Col());
 }
 
 // The editor goes without a word, and the mark goes even when the value is refused later.

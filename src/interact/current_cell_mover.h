@@ -19,6 +19,7 @@ struct MoverContext {
     Repainter& repainter;
     CellEditor& editor;
     ListPage& page;
+    VornixEvents& events;
 };
 
 class CurrentCellMover {
@@ -42,6 +43,10 @@ public:
     CellIndex Current() const { return { context_.current.Row(), context_.current.Col() }; }
     // Takes the cell as it is, and its place in the list. Nothing is painted.
     void Take(CellIndex cell);
+
+    // Asks the host with CellChange whether a cell is to become the current one.
+    enum class Answer { Take, Refused, MovedByHost, Gone };
+    Answer AskHost(CellIndex target);
 
     // Paints the current cell without its mark. Nothing while the gate is closed.
     void RepaintUnmarked();

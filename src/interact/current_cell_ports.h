@@ -7,6 +7,9 @@ namespace vornix {
 
 class CellEditor : public EditorControl {
 public:
+    virtual bool IsEditorOpenOn(CellIndex cell) const = 0;
+    // CloseEditor, and the cell is painted.
+    virtual void CloseEditorAndRepaint() = 0;
     // Opens over a cell that is edited in place and enabled, and brings it into view. False when there is no editor to
     // open, and nothing was done. Raises BeforeEdit.
     virtual bool OpenEditor(int row, int col) = 0;

@@ -20,6 +20,16 @@ LineRange Ordered(int a, int b)
 
 } // namespace
 
+void GridSelection::Reset()
+{
+    ranges_.RemoveAll();
+    Anchor = End = { NoIndex, NoIndex };
+    PressKind = SelectionKind::None;
+    EndDrag();
+    dragCols_ = dragRows_ = {};
+    walkSlot_ = placeSlot_ = placeSum_ = 0;
+}
+
 void GridSelection::Collapse()
 {
     ranges_.RemoveAll();

@@ -34,6 +34,9 @@ public:
 
     SelectionSettings Settings;
 
+    // Nothing is remembered of a table that is no more.
+    void Reset();
+
     SelectCollection& Ranges() { return ranges_; }
     const SelectCollection& Ranges() const { return ranges_; }
 

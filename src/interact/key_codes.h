@@ -1,4 +1,4 @@
-// Keys and shift states, in the platform's numbering.
+// Keys, shift states and buttons, in the platform's numbering.
 #pragma once
 
 namespace vornix {
@@ -22,5 +22,11 @@ constexpr int None = 0;
 constexpr int Shift = 1;
 constexpr int Ctrl = 2;
 } // namespace Shifts
+
+namespace Buttons {
+constexpr int None = 0;
+constexpr int Left = 1;
+constexpr int Right = 2;
+} // namespace Buttons
 
 } // namespace vornix

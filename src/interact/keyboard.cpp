@@ -100,7 +100,7 @@ void Keyboard::EmptySelection()
         selection.EndDrag();
     else
         return;
-    Repaint();
+    context_.repainter.RepaintUnderGate();
 }
 
 Keyboard::Move Keyboard::AskAndMove(int key)
@@ -147,17 +147,11 @@ void Keyboard::FollowList()
     context_.page.GotoListPosition(SubtractI32(current.CursorPosition, context_.store.FixedRows()));
 }
 
-// True when the cell is to be taken: neither refused, nor moved by the host, nor gone.
 bool Keyboard::AskHost(CellIndex target)
 {
     if (context_.current.IsValid() && context_.current.Row() != target.row)
         context_.events.ValidateRow();
-    if (!context_.mover.IsReal(target))
-        return false;
-    bool isCanceled = false;
-    context_.events.CellChange(
-        ToI16(target.row - context_.store.FixedRows()), ToI16(target.col - context_.store.FixedCols()), isCanceled);
-    return !isCanceled && !context_.current.HostMovedCurrent && context_.mover.IsReal(target);
+    return context_.mover.AskHost(target) == CurrentCellMover::Answer::Take;
 }
 
 void Keyboard::ScrollByKey(int key)
@@ -168,7 +162,7 @@ void Keyboard::ScrollByKey(int key)
     if (!isAcross && context_.page.PageSize() > 0)
         context_.page.RollPageWithCurrent();
     context_.scrolling.UpdateScrollBars();
-    Repaint();
+    context_.repainter.RepaintUnderGate();
     context_.events.Scroll();
     context_.hover.ExitHover();
 }
@@ -264,7 +258,7 @@ template <typename Target> void Keyboard::JumpTo(const Target& targetFrom)
     context_.selection.Anchor = target;
     context_.selection.End = target;
     if (!mover.BringIntoView())
-        Repaint();
+        context_.repainter.RepaintUnderGate();
 }
 
 void Keyboard::PageDown()
@@ -335,13 +329,7 @@ void Keyboard::AddBetweenCorners()
         selection.Ranges().AddCells(true, rows.first, cols.first, rows.last, cols.last);
     else if (selection.PressKind == SelectionKind::Rows)
         selection.Ranges().AddRows(true, rows.first, rows.last);
-    Repaint();
-}
-
-void Keyboard::Repaint()
-{
-    if (context_.gate.IsOpen())
-        context_.repainter.RepaintGrid();
+    context_.repainter.RepaintUnderGate();
 }
 
 } // namespace vornix

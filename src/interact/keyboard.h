@@ -63,7 +63,6 @@ private:
     void EnterEdit();
     void ExtendSelection(int key, int shift);
     void AddBetweenCorners();
-    void Repaint();
 
     KeyboardContext context_;
     CellStep step_;

@@ -157,29 +157,25 @@ void Scrolling::CloseEditor()
         context_.editor.CloseEditor();
 }
 
-void Scrolling::Repaint()
-{
-    if (context_.gate.IsOpen())
-        context_.repainter.RepaintGrid();
-}
-
-void Scrolling::SetFirstRow(int row)
+bool Scrolling::SetFirstRow(int row)
 {
     const int first = std::max<int>(row, context_.store.FixedRows());
     if (first == context_.scroll.FirstRow())
-        return;
+        return false;
     context_.scroll.SetFirstRow(first);
     context_.pages.RollPage();
     ApplyScrollAndRepaint();
+    return true;
 }
 
-void Scrolling::SetFirstCol(int col)
+bool Scrolling::SetFirstCol(int col)
 {
     if (col == context_.scroll.FirstCol() && context_.layout.SmoothOffset() == 0)
-        return;
+        return false;
     context_.scroll.SetFirstCol(std::max(col, context_.layout.FirstScrollCol()));
     context_.layout.SetSmoothOffset(0);
     ApplyScrollAndRepaint();
+    return true;
 }
 
 void Scrolling::SetLastRow(int row)

@@ -52,9 +52,10 @@ public:
     // After a change of the position: closes the editor; bars and picture follow.
     void ApplyScrollAndRepaint();
 
-    // Writing a position. Lines are limited to those that scroll.
-    void SetFirstRow(int row);
-    void SetFirstCol(int col);
+    // Writing a position. Lines are limited to those that scroll. True when the view was another one; while the gate is
+    // open it is painted by then.
+    bool SetFirstRow(int row);
+    bool SetFirstCol(int col);
     // Scrolls so that the line comes last.
     void SetLastRow(int row);
     void SetLastCol(int col);
@@ -117,7 +118,6 @@ private:
     i32 HPosition() const;
     void MoveToPixel(i32 pixel);
     void CloseEditor();
-    void Repaint();
 
     bool BringColIntoView(int col, CellIndex parent);
     bool BringRowIntoView(int row, CellIndex parent);

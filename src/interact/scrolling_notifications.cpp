@@ -77,7 +77,7 @@ void Scrolling::HorizontalChange(i32& value, i32 direction)
     }
     const i32 taken = HPosition();
     CloseEditor();
-    Repaint();
+    context_.repainter.RepaintUnderGate();
     if (context_.layout.Settings.ScrollHBar != vxScrollTrack)
         context_.events.Scroll();
     // In smooth mode the bar keeps the value, unless a handler has moved the view.
@@ -93,14 +93,14 @@ void Scrolling::HorizontalTrack(i32& value)
     case vxScrollTrack:
         CloseEditor();
         context_.scroll.SetFirstCol(positions_.ScrollingCol(value));
-        Repaint();
+        context_.repainter.RepaintUnderGate();
         context_.events.Scroll();
         value = HPosition();
         return;
     case vxScrollSmooth:
         CloseEditor();
         MoveToPixel(value);
-        Repaint();
+        context_.repainter.RepaintUnderGate();
         return;
     default:
         return;
@@ -112,7 +112,7 @@ void Scrolling::VerticalChange(i32& value, i32 direction)
     context_.scroll.SetFirstRow(positions_.NextScrollRow(value, direction, RangeOf(vBar_.control)));
     context_.pages.RollPage();
     CloseEditor();
-    Repaint();
+    context_.repainter.RepaintUnderGate();
     if (context_.layout.Settings.ScrollVBar != vxScrollTrack)
         context_.events.Scroll();
     value = context_.scroll.FirstRow();
@@ -126,7 +126,7 @@ void Scrolling::VerticalTrack(i32& value)
     case vxScrollTrack:
         CloseEditor();
         context_.scroll.SetFirstRow(positions_.ScrollingRow(value));
-        Repaint();
+        context_.repainter.RepaintUnderGate();
         context_.events.Scroll();
         value = context_.scroll.FirstRow();
         return;

@@ -3,8 +3,8 @@
 
 namespace vornix {
 
-// The funnels that carry a change to the screen. Indices are internal. Those that say "under the gate" in their callers
-// are called only while the gate is open; RecalcLayout tests it inside.
+// The funnels that carry a change to the screen. Indices are internal. RecalcLayout tests the gate inside, and those
+// named for it do nothing while it is closed; the others are called only while it is open.
 class Repainter {
 public:
     virtual ~Repainter() = default;
@@ -14,6 +14,8 @@ public:
     virtual void RefreshColCells(int col) = 0;
     virtual void RefreshIfInRange(int row, int col) = 0;
     virtual void RefreshOneCell(int row, int col) = 0;
+    virtual void RepaintUnderGate() = 0;
+    virtual void RefreshCellUnderGate(int row, int col) = 0;
 };
 
 // The in-place editor, as the steps that must close it see it.

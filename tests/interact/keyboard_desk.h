@@ -28,9 +28,16 @@ public:
         isOpen = false;
         Note("CloseEditor");
     }
+    bool IsEditorOpenOn(CellIndex cell) const override { return isOpen && cell == openedOn; }
+    void CloseEditorAndRepaint() override
+    {
+        isOpen = false;
+        Note("CloseEditorAndRepaint");
+    }
     bool OpenEditor(int row, int col) override
     {
         isOpen = true;
+        openedOn = { row, col };
         Note("OpenEditor" + At(row, col));
         return true;
     }
@@ -44,6 +51,7 @@ public:
     void ForgetEditCell() override { Note("ForgetEditCell"); }
 
     bool isOpen = false;
+    CellIndex openedOn { NoIndex, NoIndex };
     // Runs in place of what handlers of the editor's events do.
     std::function<void(const std::string&)> then = [](const std::string&) {};
 
@@ -168,7 +176,7 @@ protected:
     HeadlessContainer host;
     Control control { host, events };
     CurrentCellMover mover { { control.store, control.spans, control.hidden, control.gate, control.current,
-        control.scrolling, control.funnel, editor, page } };
+        control.scrolling, control.funnel, editor, page, events } };
     Keyboard keyboard { { control.store, control.spans, control.hidden, control.scroll, control.layout, control.gate,
         control.current, control.selection, control.scrolling, control.funnel, mover, control.checks, editor, page,
         hover, host, events } };

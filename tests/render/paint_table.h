@@ -61,6 +61,7 @@ public:
     void PictureChanged(const Rect& area) override { changes.push_back(area); }
     bool SetFocus() override { return false; }
     void SetPointerShape(PointerShape) override { }
+    PointerLocation LocatePointer() const override { return {}; }
     bool IsKeyDown(int) const override { return false; }
     void SetTimer(int, bool) override { }
     ChildWindow& Child(ChildName name) override { return children_[name]; }

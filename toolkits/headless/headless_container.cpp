@@ -173,6 +173,11 @@ bool HeadlessContainer::HasFocus() const
     return windows_->HasFocus();
 }
 
+PointerLocation HeadlessContainer::LocatePointer() const
+{
+    return {};
+}
+
 bool HeadlessContainer::IsKeyDown(int code) const
 {
     return keysDown_.contains(code) || person_->Holds(code);

@@ -55,8 +55,7 @@ void HeadlessContainer::Wheel(i32 delta)
 void HeadlessContainer::Tick()
 {
     RequireOpen();
-    throw AutomationError(
-        ErrorNumber::ActionNotSupported, "Tick is not supported yet: the control does not watch the pointer");
+    grid_->Tick();
 }
 
 void HeadlessContainer::ClickAt(float x, float y, i16 button, i16 shift)

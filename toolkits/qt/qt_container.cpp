@@ -222,6 +222,15 @@ void QtContainer::SetPointerShape(PointerShape shape)
         widget_.setCursor(CursorOf(shape));
 }
 
+PointerLocation QtContainer::LocatePointer() const
+{
+    const QPoint place = widget_.mapFromGlobal(QCursor::pos()) - widget_.contentsRect().topLeft();
+    PointerLocation location { PointerLocation::Window::Elsewhere, {}, { place.x(), place.y() } };
+    if (QApplication::widgetAt(QCursor::pos()) == &widget_)
+        location.window = PointerLocation::Window::Control;
+    return location;
+}
+
 bool QtContainer::IsKeyDown(int code) const
 {
     const Qt::MouseButtons buttons = QGuiApplication::mouseButtons();

@@ -45,6 +45,7 @@ public:
     void PictureChanged(const Rect& area) override;
     bool SetFocus() override;
     void SetPointerShape(PointerShape shape) override;
+    PointerLocation LocatePointer() const override;
     bool IsKeyDown(int code) const override;
     void SetTimer(int interval, bool enabled) override;
     ChildWindow& Child(ChildName name) override;

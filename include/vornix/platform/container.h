@@ -31,8 +31,11 @@ public:
     virtual void Raise() = 0;
     // False when the window cannot take the focus now.
     virtual bool SetFocus() = 0;
-    // What the control draws on where it draws a child itself; null where the toolkit does.
+    // What the control draws on where it draws a child itself, as large as its place; null where the toolkit does. A
+    // place of another size may bring another canvas.
     virtual Device* Canvas() { return nullptr; }
+    // The drawing on the canvas is complete and is to be shown.
+    virtual void CanvasChanged() { }
 };
 
 // Range, page and position of a scroll bar. The thumb is as long as the page.
@@ -63,6 +66,15 @@ public:
 enum class ChildName { scrV, scrH, txtTmp, cboTmp, fraEdit, cPivot, picSplitCol, picSplitMove };
 
 enum class PointerShape { Default, SizeWE, SizeNS };
+
+// Which window lies under the pointer, and the place in the control's client area.
+struct PointerLocation {
+    enum class Window { Elsewhere, Control, Child };
+    Window window = Window::Elsewhere;
+    // Of Window::Child.
+    ChildName child = ChildName::scrV;
+    Point place;
+};
 
 enum class MessageIcon { None, Exclamation, Information };
 
@@ -117,6 +129,7 @@ public:
     virtual void PictureChanged(const Rect& area) = 0;
     virtual bool SetFocus() = 0;
     virtual void SetPointerShape(PointerShape shape) = 0;
+    virtual PointerLocation LocatePointer() const = 0;
     // Whether a key or button is down now, by its platform code (left button 1).
     virtual bool IsKeyDown(int code) const = 0;
     // The one timer. Interval in milliseconds.

@@ -98,7 +98,7 @@ public:
     i16 KeyUp(i16 code, i16 shift = 0);
     // 120 for each notch away from the user.
     void Wheel(i32 delta);
-    // Error 445: the control has no watch over the pointer yet.
+    // One tick of the timer, whether it runs or not.
     void Tick();
 
     // What a person does, in the platform's order. The window on top at a place gets the notifications of the pointer,
@@ -178,6 +178,7 @@ public:
     void PictureChanged(const Rect&) override { }
     bool SetFocus() override;
     void SetPointerShape(PointerShape shape) override { pointer_ = shape; }
+    PointerLocation LocatePointer() const override;
     bool IsKeyDown(int code) const override;
     void SetTimer(int interval, bool enabled) override;
     ChildWindow& Child(ChildName name) override;

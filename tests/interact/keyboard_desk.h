@@ -115,6 +115,12 @@ public:
         bCancel = refuses;
         Note("CellChange" + At(Row, Col));
     }
+    void MouseDown(i16, i16, float, float) override { Note("MouseDown"); }
+    void MouseUp(i16, i16, float, float) override { Note("MouseUp"); }
+    void CellDown(i16 Row, i16 Col) override { Note("CellDown" + At(Row, Col)); }
+    void CellUp(i16 Row, i16 Col) override { Note("CellUp" + At(Row, Col)); }
+    void CellClick(i16 Row, i16 Col) override { Note("CellClick" + At(Row, Col)); }
+    void Click() override { Note("Click"); }
     void Scroll() override { Note("Scroll"); }
     void TextChange(i16 Row, i16 Col) override { Note("TextChange" + At(Row, Col)); }
 

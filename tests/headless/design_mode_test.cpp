@@ -16,13 +16,13 @@ TEST_F(DesignMode, NotificationsReachTheControl)
 {
     host->MouseDown(1, 2);
     host->KeyDown(40);
-    EXPECT_EQ(Said(), (Lines { "MouseDown Button=1 Shift=0 x=1 y=2", "KeyDown KeyCode=40 Shift=0" }));
+    EXPECT_EQ(Heard(), (Lines { "MouseDown Button=1 Shift=0 x=1 y=2", "KeyDown KeyCode=40 Shift=0" }));
 }
 
 TEST_F(DesignMode, WhatAPersonDoesReachesTheControl)
 {
     host->ClickAt(1, 2);
-    EXPECT_EQ(SaidNames(), (Lines { "MouseMove", "MouseDown", "MouseUp", "Click" }));
+    EXPECT_EQ(HeardNames(), (Lines { "MouseMove", "MouseDown", "MouseUp", "Click" }));
 }
 
 TEST_F(DesignMode, TheUserModeCanBeSwitched)

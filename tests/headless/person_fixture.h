@@ -29,6 +29,9 @@ protected:
         host->ClearLog();
         return names;
     }
+    // Of both, the platform's notifications alone, without what the grid makes of them.
+    Lines Heard() { return OnlyNotifications(Said()); }
+    Lines HeardNames() { return OnlyNotifications(SaidNames()); }
     HeadlessChild& Child(ChildName name) { return static_cast<HeadlessChild&>(host->Child(name)); }
     HeadlessChild& ShowChild(ChildName name, const Rect& place)
     {
@@ -39,6 +42,14 @@ protected:
     }
 
 private:
+    static Lines OnlyNotifications(Lines lines)
+    {
+        std::erase_if(lines, [](const std::string& line) {
+            const std::string name = line.substr(0, line.find(' '));
+            return name != "Click" && name != "DblClick" && !name.starts_with("Mouse") && !name.starts_with("Key");
+        });
+        return lines;
+    }
     static std::string LineOf(const LoggedEvent& event)
     {
         std::ostringstream line;

@@ -24,7 +24,12 @@ protected:
         }
         held.push_back(line);
     }
-    // The last place of an event in the log.
+    const LoggedEvent& LastMove() const
+    {
+        const auto found = std::find_if(host->Log().rbegin(), host->Log().rend(),
+            [](const LoggedEvent& event) { return event.name == "MouseMove"; });
+        return *found;
+    }
     static std::pair<double, double> PlaceOf(const LoggedEvent& event)
     {
         return { event["x"].ToDouble(), event["y"].ToDouble() };
@@ -108,7 +113,7 @@ TEST_F(Pointer, ADoubleClickHasOneClickAndTwoReleases)
 TEST_F(Pointer, ADragMovesInStepsThatEndExactlyAtTheEnd)
 {
     host->Drag(10, 20, 50, 30, 1, 0, 4);
-    EXPECT_EQ(Said(),
+    EXPECT_EQ(Heard(),
         (Lines { "MouseMove Button=0 Shift=0 x=10 y=20", "MouseDown Button=1 Shift=0 x=10 y=20",
             "MouseMove Button=1 Shift=0 x=20 y=22.5", "MouseMove Button=1 Shift=0 x=30 y=25",
             "MouseMove Button=1 Shift=0 x=40 y=27.5", "MouseMove Button=1 Shift=0 x=50 y=30",
@@ -119,21 +124,19 @@ TEST_F(Pointer, ADragTakesEightStepsUnlessToldOtherwise)
 {
     host->Drag(10, 20, 13, 17);
     EXPECT_EQ(host->Count("MouseMove"), 1 + 8);
-    const LoggedEvent& lastMove = host->Log()[9];
-    EXPECT_EQ(lastMove.name, "MouseMove");
-    EXPECT_EQ(PlaceOf(lastMove), (std::pair { 13.0, 17.0 }));
+    EXPECT_EQ(PlaceOf(LastMove()), (std::pair { 13.0, 17.0 }));
     host->ClearLog();
     host->Drag(0.1F, 0.1F, 0.7F, 0.3F, 1, 0, 3);
-    EXPECT_EQ(host->Log()[4]["x"].ToSingle(), 0.7F) << "not the sum of three thirds";
+    EXPECT_EQ(LastMove()["x"].ToSingle(), 0.7F) << "not the sum of three thirds";
     host->ClearLog();
     host->Drag(5, 5, 5, 5, 2, 0, 1);
-    EXPECT_EQ(SaidNames(), (Lines { "MouseMove", "MouseDown", "MouseMove", "MouseUp", "Click" }));
+    EXPECT_EQ(HeardNames(), (Lines { "MouseMove", "MouseDown", "MouseMove", "MouseUp", "Click" }));
 }
 
 TEST_F(Pointer, ADragOutOfTheWindowGoesOnThereAndEndsWithoutAClick)
 {
     host->Drag(10, 20, -30, 500, 1, 0, 2);
-    EXPECT_EQ(Said(),
+    EXPECT_EQ(Heard(),
         (Lines { "MouseMove Button=0 Shift=0 x=10 y=20", "MouseDown Button=1 Shift=0 x=10 y=20",
             "MouseMove Button=1 Shift=0 x=-10 y=260", "MouseMove Button=1 Shift=0 x=-30 y=500",
             "MouseUp Button=1 Shift=0 x=-30 y=500" }));
@@ -146,6 +149,50 @@ TEST_F(Pointer, ADragOutAndBackEndsWithAClick)
     host->ClearLog();
     host->Drag(0, 0, 640, 479, 1, 0, 1);
     EXPECT_EQ(host->Log().back().name, "MouseUp") << "the right edge lies outside";
+}
+
+TEST_F(Pointer, AClickOnACellGivesTheCellsEventsAmongThem)
+{
+    Table(3, 3);
+    host->ClickAt(5, 5);
+    EXPECT_EQ(Said(),
+        (Lines { "MouseMove Button=0 Shift=0 x=5 y=5", "CellOver Row=0 Col=0", "MouseDown Button=1 Shift=0 x=5 y=5",
+            "CellDown Row=0 Col=0", "CellChange Row=0 Col=0 bCancel=0", "MouseUp Button=1 Shift=0 x=5 y=5",
+            "CellUp Row=0 Col=0", "CellClick Row=0 Col=0", "Click" }));
+    host->ClickAt(5, 5);
+    EXPECT_EQ(SaidNames(), (Lines { "MouseMove", "MouseDown", "CellDown", "MouseUp", "CellUp", "CellClick", "Click" }))
+        << "the pointer and the current cell are there already";
+    host->ClickAt(5, Grid().RowHeight(0) + 5.F);
+    EXPECT_EQ(SaidNames(),
+        (Lines { "MouseMove", "CellOut", "CellOver", "MouseDown", "CellDown", "ValidateRow", "CellChange", "MouseUp",
+            "CellUp", "CellClick", "Click" }));
+    host->ClickAt(5, 5, 2);
+    EXPECT_EQ(SaidNames(), (Lines { "MouseMove", "CellOut", "CellOver", "CellOut", "MouseDown", "MouseUp", "Click" }))
+        << "the right button ends the hovering and does nothing else";
+}
+
+TEST_F(Pointer, ADoubleClickOnACellGivesTheCellsEventsAmongThem)
+{
+    Table(3, 3);
+    host->DblClickAt(5, 5);
+    EXPECT_EQ(SaidNames(),
+        (Lines { "MouseMove", "CellOver", "MouseDown", "CellDown", "CellChange", "MouseUp", "CellUp", "CellClick",
+            "Click", "CellDblClick", "DblClick", "MouseUp", "CellUp" }));
+}
+
+TEST_F(Pointer, ADragOverCellsLeavesOneAndEntersTheNext)
+{
+    Table(3, 3);
+    Grid().SetCellSelection(true);
+    host->ClearLog();
+    host->Drag(5, 5, Grid().ColWidth(0) + 5.F, 5, 1, 0, 1);
+    EXPECT_EQ(Said(),
+        (Lines { "MouseMove Button=0 Shift=0 x=5 y=5", "CellOver Row=0 Col=0", "MouseDown Button=1 Shift=0 x=5 y=5",
+            "CellDown Row=0 Col=0", "CellChange Row=0 Col=0 bCancel=0",
+            "MouseMove Button=1 Shift=0 x=" + std::to_string(Grid().ColWidth(0) + 5) + " y=5", "CellUp Row=0 Col=0",
+            "CellOut Row=0 Col=0", "CellOver Row=0 Col=1",
+            "MouseUp Button=1 Shift=0 x=" + std::to_string(Grid().ColWidth(0) + 5) + " y=5", "Click" }));
+    EXPECT_EQ(Grid().SelectCountCell(), 2);
 }
 
 TEST_F(Pointer, NothingArrivesFromOutsideTheClientArea)
@@ -232,12 +279,12 @@ TEST_F(Pointer, AHandlerThatThrowsLeavesNothingHeld)
 {
     handlers.OnMouseDown = [](i16, i16, float, float) { throw std::runtime_error("no"); };
     EXPECT_THROW(host->ClickAt(5, 5, 1, 7), std::runtime_error);
-    EXPECT_EQ(SaidNames(), (Lines { "MouseMove", "MouseDown" }));
+    EXPECT_EQ(HeardNames(), (Lines { "MouseMove", "MouseDown" }));
     for (const int code : { 1, 16, 17, 18 })
         EXPECT_FALSE(host->IsKeyDown(code)) << code;
     handlers.OnMouseDown = nullptr;
     host->ClickAt(5, 5);
-    EXPECT_EQ(SaidNames(), (Lines { "MouseMove", "MouseDown", "MouseUp", "Click" }));
+    EXPECT_EQ(HeardNames(), (Lines { "MouseMove", "MouseDown", "MouseUp", "Click" }));
 }
 
 TEST_F(Pointer, WhatThereIsNotIsAnError)
@@ -269,7 +316,7 @@ TEST_F(Pointer, HugePlacesAreOnlyFarAway)
     host->ClickAt(far, far);
     EXPECT_TRUE(host->Log().empty());
     host->Drag(5, 5, -far, far, 1, 0, 2);
-    EXPECT_EQ(SaidNames(), (Lines { "MouseMove", "MouseDown", "MouseMove", "MouseMove", "MouseUp" }));
+    EXPECT_EQ(HeardNames(), (Lines { "MouseMove", "MouseDown", "MouseMove", "MouseMove", "MouseUp" }));
 }
 
 } // namespace

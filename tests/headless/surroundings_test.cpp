@@ -81,9 +81,11 @@ TEST_F(Surroundings, TheLogHoldsInputBesideOtherEventsInOrder)
     Table(1, 1);
     Grid().SetCellStyle(0, 0, vxCustomDraw);
     host->ClearLog();
-    handlers.OnMouseDown = [&](i16, i16, float, float) { Grid().RefreshCell(0, 0); };
     host->ClickAt(5, 5);
-    EXPECT_EQ(SaidNames(), (Lines { "MouseMove", "MouseDown", "DrawCell", "MouseUp", "Click" }));
+    EXPECT_EQ(SaidNames(),
+        (Lines { "MouseMove", "CellOver", "MouseDown", "CellDown", "CellChange", "DrawCell", "DrawCell", "MouseUp",
+            "CellUp", "CellClick", "DrawCell", "Click" }))
+        << "the press, the selection at the release and the click paint";
 }
 
 } // namespace

@@ -6,60 +6,12 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <sstream>
 #include <string>
+#include <vector>
 
 namespace vornix {
 namespace {
-
-const std::map<std::string, int> Named {
-    { "Back", 8 },
-    { "Backspace", 8 },
-    { "Tab", 9 },
-    { "Clear", 12 },
-    { "Return", 13 },
-    { "Enter", 13 },
-    { "Shift", 16 },
-    { "Control", 17 },
-    { "Ctrl", 17 },
-    { "Alt", 18 },
-    { "Menu", 18 },
-    { "Pause", 19 },
-    { "CapsLock", 20 },
-    { "Capital", 20 },
-    { "Escape", 27 },
-    { "Esc", 27 },
-    { "Space", 32 },
-    { "PageUp", 33 },
-    { "PageDown", 34 },
-    { "End", 35 },
-    { "Home", 36 },
-    { "Left", 37 },
-    { "Up", 38 },
-    { "Right", 39 },
-    { "Down", 40 },
-    { "PrintScreen", 44 },
-    { "Snapshot", 44 },
-    { "Insert", 45 },
-    { "Ins", 45 },
-    { "Delete", 46 },
-    { "Del", 46 },
-    { "Help", 47 },
-    { "Apps", 93 },
-    { "NumpadMultiply", 106 },
-    { "Multiply", 106 },
-    { "NumpadAdd", 107 },
-    { "Add", 107 },
-    { "NumpadSeparator", 108 },
-    { "Separator", 108 },
-    { "NumpadSubtract", 109 },
-    { "Subtract", 109 },
-    { "NumpadDecimal", 110 },
-    { "Decimal", 110 },
-    { "NumpadDivide", 111 },
-    { "Divide", 111 },
-    { "NumLock", 144 },
-    { "ScrollLock", 145 },
-};
 
 std::string InCapitals(std::string text)
 {
@@ -68,12 +20,52 @@ std::string InCapitals(std::string text)
     return text;
 }
 
-TEST(VirtualKeys, HaveNamesInAnyCase)
+// The names that the error of an unknown one lists, those that are counted apart.
+std::vector<std::string> ListedNames()
 {
-    for (const auto& [name, code] : Named) {
-        EXPECT_EQ(CodeOfKey(name), code) << name;
-        EXPECT_EQ(CodeOfKey(InCapitals(name)), code) << name;
+    try {
+        CodeOfKey("no such key");
+    } catch (const AutomationError& error) {
+        const std::string& text = error.Description();
+        const std::string opening = "Keys are ";
+        const std::size_t begin = text.find(opening) + opening.size();
+        std::istringstream list(text.substr(begin, text.find("F1 to F24") - begin));
+        std::vector<std::string> names;
+        for (std::string name; std::getline(list >> std::ws, name, ',');)
+            names.push_back(name);
+        return names;
     }
+    return {};
+}
+
+TEST(VirtualKeys, ThatAreListedHaveEachItsOwnCode)
+{
+    std::map<i16, std::string> byCode;
+    for (const std::string& name : ListedNames()) {
+        const i16 code = CodeOfKey(name);
+        EXPECT_EQ(CodeOfKey(InCapitals(name)), code) << name;
+        EXPECT_TRUE(byCode.emplace(code, name).second) << name << " and " << byCode[code];
+    }
+    EXPECT_GT(byCode.size(), 30u);
+}
+
+TEST(VirtualKeys, HaveTheCodesOfThePlatform)
+{
+    // One block of the keyboard, in the order of its codes.
+    i16 code = 33;
+    for (const char* name : { "PageUp", "PageDown", "End", "Home", "Left", "Up", "Right", "Down" })
+        EXPECT_EQ(CodeOfKey(name), code++) << name;
+    EXPECT_EQ(CodeOfKey("Insert"), 45);
+    EXPECT_EQ(CodeOfKey("Delete"), 46);
+    // Those that are the codes of their control characters.
+    EXPECT_EQ(CodeOfKey("Back"), '\b');
+    EXPECT_EQ(CodeOfKey("Tab"), '\t');
+    EXPECT_EQ(CodeOfKey("Return"), '\r');
+    EXPECT_EQ(CodeOfKey("Escape"), 27);
+    EXPECT_EQ(CodeOfKey("Space"), ' ');
+    EXPECT_EQ(CodeOfKey("Shift"), ShiftKey);
+    EXPECT_EQ(CodeOfKey("Control"), CtrlKey);
+    EXPECT_EQ(CodeOfKey("Alt"), AltKey);
 }
 
 TEST(VirtualKeys, OfFunctionAndNumberPadCountOn)
@@ -122,9 +114,12 @@ TEST(VirtualKeys, OfCharactersTakeShiftForUpperSignsAndNotForLetters)
 
 TEST(VirtualKeys, HaveShortAndOldNamesToo)
 {
-    const std::pair<const char*, const char*> pairs[]
-        = { { "PgUp", "PageUp" }, { "Prior", "PageUp" }, { "PgDn", "PageDown" }, { "Next", "PageDown" },
-              { "Ins", "Insert" }, { "Del", "Delete" }, { "Esc", "Escape" }, { "BackSpace", "Back" } };
+    const std::pair<const char*, const char*> pairs[] = { { "PgUp", "PageUp" }, { "Prior", "PageUp" },
+        { "PgDn", "PageDown" }, { "Next", "PageDown" }, { "Ins", "Insert" }, { "Del", "Delete" }, { "Esc", "Escape" },
+        { "BackSpace", "Back" }, { "Enter", "Return" }, { "Ctrl", "Control" }, { "Menu", "Alt" },
+        { "Capital", "CapsLock" }, { "Snapshot", "PrintScreen" }, { "Multiply", "NumpadMultiply" },
+        { "Add", "NumpadAdd" }, { "Separator", "NumpadSeparator" }, { "Subtract", "NumpadSubtract" },
+        { "Decimal", "NumpadDecimal" }, { "Divide", "NumpadDivide" } };
     for (const auto& [name, full] : pairs)
         EXPECT_EQ(CodeOfKey(name), CodeOfKey(full)) << name;
 }

@@ -38,6 +38,13 @@ void CheckShift(i16 shift)
     Check(shift >= 0 && shift <= 7, "Keys held are the sum of 1 (Shift), 2 (Ctrl) and 4 (Alt)");
 }
 
+void CheckPress(PointerPlace place, i16 button, i16 shift)
+{
+    CheckPlace(place);
+    CheckButton(button);
+    CheckShift(shift);
+}
+
 PointerPlace On(const InputWindow& window, PointerPlace place)
 {
     const Rect area = window.Area();
@@ -150,9 +157,7 @@ void Person::ReleaseAndClick(PointerPlace place, i16 button, i16 shift)
 
 void Person::ClickAt(PointerPlace place, i16 button, i16 shift)
 {
-    CheckPlace(place);
-    CheckButton(button);
-    CheckShift(shift);
+    CheckPress(place, button, shift);
     const Action action(*this, shift);
     Move(place, shift);
     Press(place, button, shift);
@@ -161,9 +166,7 @@ void Person::ClickAt(PointerPlace place, i16 button, i16 shift)
 
 void Person::DblClickAt(PointerPlace place, i16 button, i16 shift)
 {
-    CheckPlace(place);
-    CheckButton(button);
-    CheckShift(shift);
+    CheckPress(place, button, shift);
     const Action action(*this, shift);
     Move(place, shift);
     Press(place, button, shift);
@@ -180,10 +183,8 @@ void Person::DblClickAt(PointerPlace place, i16 button, i16 shift)
 
 void Person::Drag(PointerPlace from, PointerPlace to, i16 button, i16 shift, i32 steps)
 {
-    CheckPlace(from);
+    CheckPress(from, button, shift);
     CheckPlace(to);
-    CheckButton(button);
-    CheckShift(shift);
     Check(steps >= 1 && steps <= MostSteps, "A drag takes 1 to 32767 steps");
     const Action action(*this, shift);
     Move(from, shift);

@@ -22,6 +22,7 @@ constexpr int FunctionKeys = 24;
 constexpr i16 SentCharacter = 231;
 constexpr i16 LineFeed = 10;
 constexpr i16 Delete = 127;
+constexpr char16_t LastAscii = 127;
 
 struct NamedKey {
     std::string_view name;
@@ -126,6 +127,11 @@ char Lower(char character)
     return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a') : character;
 }
 
+char Upper(char character)
+{
+    return character >= 'a' && character <= 'z' ? static_cast<char>(character - 'a' + 'A') : character;
+}
+
 bool SameName(std::string_view a, std::string_view b)
 {
     return std::ranges::equal(a, b, {}, Lower, Lower);
@@ -141,11 +147,13 @@ std::optional<int> NumberedName(std::string_view name, std::string_view prefix, 
     return std::nullopt;
 }
 
+// The key that gives a sign; capitals and upper signs with Shift.
 std::optional<KeyChord> ChordOfSign(char sign)
 {
-    const char lower = Lower(sign);
-    if (lower >= 'a' && lower <= 'z')
-        return KeyChord { static_cast<i16>(lower - 'a' + 'A'), 0 };
+    if (IsLetter(sign))
+        return KeyChord { sign, ShiftDown };
+    if (IsLetter(Upper(sign)))
+        return KeyChord { Upper(sign), 0 };
     if (sign == SpaceKey)
         return KeyChord { SpaceKey, 0 };
     for (const SignKey& key : SignKeys) {
@@ -211,21 +219,15 @@ KeyStroke StrokeFor(char16_t character)
 {
     if (character == LineFeed)
         return StrokeOf(ReturnKey, 0);
-    for (const i16 code : { BackKey, TabKey, ReturnKey, EscapeKey, SpaceKey }) {
+    for (const i16 code : { BackKey, TabKey, ReturnKey, EscapeKey }) {
         if (character == code)
             return StrokeOf(code, 0);
     }
     if (character >= 1 && character <= 26)
         return StrokeOf(static_cast<i16>(character - 1 + 'A'), CtrlDown);
-    if (character >= 'a' && character <= 'z')
-        return StrokeOf(static_cast<i16>(character - 'a' + 'A'), 0);
-    if (IsLetter(character))
-        return StrokeOf(static_cast<i16>(character), ShiftDown);
-    for (const SignKey& key : SignKeys) {
-        if (character == static_cast<char16_t>(key.plain))
-            return StrokeOf(key.code, 0);
-        if (character == static_cast<char16_t>(key.shifted))
-            return StrokeOf(key.code, ShiftDown);
+    if (character <= LastAscii) {
+        if (const auto chord = ChordOfSign(static_cast<char>(character)))
+            return StrokeOf(chord->code, chord->shift);
     }
     return { SentCharacter, 0, static_cast<i16>(character) };
 }
@@ -238,7 +240,7 @@ i16 CodeOfKey(std::string_view name)
 KeyChord ChordOfKey(std::string_view name)
 {
     if (name.size() == 1) {
-        if (const auto chord = ChordOfSign(name[0]))
+        if (const auto chord = ChordOfSign(Lower(name[0])))
             return *chord;
     }
     for (const NamedKey& key : NamedKeys) {

@@ -126,11 +126,18 @@ bool IsNumberType(std::int32_t type)
     return type == VORNIX_SINGLE || type == VORNIX_DOUBLE || type == VORNIX_DATE;
 }
 
-vornix_value TypedValue(std::int32_t type)
+// Elements of one type; `held` is where a value keeps it.
+template <typename Number, typename Held>
+void SetNumbers(vornix_array& array, std::size_t column, std::int32_t type, const Number* numbers, std::size_t count,
+    const Held& held)
 {
+    CheckWholeColumn(array, column, count, numbers);
     vornix_value value {};
     value.type = static_cast<std::uint16_t>(type);
-    return value;
+    SetColumn(array, column, [&](std::size_t record) {
+        held(value) = numbers[record];
+        return ToVariant(value);
+    });
 }
 
 } // namespace
@@ -197,12 +204,8 @@ std::int32_t vornix_array_set_integers(
     return Guarded([&] {
         Require(array);
         CheckType(IsIntegerType(type));
-        CheckWholeColumn(*array, column, count, integers);
-        vornix_value value = TypedValue(type);
-        SetColumn(*array, column, [&](std::size_t record) {
-            value.as.integer = integers[record];
-            return ToVariant(value);
-        });
+        SetNumbers(
+            *array, column, type, integers, count, [](vornix_value & value) -> auto& { return value.as.integer; });
     });
 }
 
@@ -212,12 +215,8 @@ std::int32_t vornix_array_set_numbers(
     return Guarded([&] {
         Require(array);
         CheckType(IsNumberType(type));
-        CheckWholeColumn(*array, column, count, numbers);
-        vornix_value value = TypedValue(type);
-        SetColumn(*array, column, [&](std::size_t record) {
-            value.as.number = numbers[record];
-            return ToVariant(value);
-        });
+        SetNumbers(
+            *array, column, type, numbers, count, [](vornix_value & value) -> auto& { return value.as.number; });
     });
 }
 

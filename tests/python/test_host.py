@@ -214,8 +214,14 @@ class TestPointer(GridTest):
         self.assertEqual((moves[-1]["x"], moves[-1]["y"]), (100, 80))
         self.assertEqual(sum(move["Button"] == 1 for move in moves), 4)
 
-    def test_what_the_control_does_not_answer_yet_is_error_445(self) -> None:
-        self.fails(445, self.g.host.tick)
+    def test_a_tick_finds_out_that_the_pointer_is_elsewhere(self) -> None:
+        host = self.g.host
+        host.mouse_move(5, 5)
+        self.assertEqual(host.log[-1][0], "CellOver")
+        host.click_at(-5, -5)
+        self.assertEqual(host.log[-1][0], "CellOver")
+        host.tick()
+        self.assertEqual(host.log[-1][0], "CellOut")
 
     def test_numbers_that_do_not_fit(self) -> None:
         self.fails(6, self.g.host.mouse_down, 1, 1, 40000)

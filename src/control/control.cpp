@@ -31,7 +31,7 @@ Control::Control(Container& windowContainer, VornixEvents& host)
     , scrolling({ store, layout, scroll, hidden, spans, gate, paint, funnel, editor, virtualMode, container, events })
     , mover({ store, spans, hidden, gate, current, scrolling, funnel, editor, virtualMode, events })
     , checks(store, funnel, container, events)
-    , sizing({ store, layout, scroll, hidden, spans, gate, scrolling, virtualMode, container, events })
+    , sizing({ store, layout, scroll, hidden, spans, gate, scrolling, funnel, virtualMode, container, events })
     , split({ store, layout, scroll, scrolling, paint, container, events })
     , mouseSelection({ store, layout, scroll, mover, selection, scrolling, funnel })
     , mouse({ store, layout, spans, gate, current, mover, selection, mouseSelection, sizing, pressed, checks, editor,

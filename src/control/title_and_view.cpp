@@ -93,6 +93,8 @@ void Vornix::SetShowSplit(bool Value)
         control->funnel.RecalcLayout(false);
     else
         control->funnel.PaintSplitBar();
+    if (Value && control->container.Child(ChildName::scrH).IsVisible())
+        control->container.Child(ChildName::picSplitCol).Show(true);
     control->Report("ShowSplit");
 }
 

@@ -1,32 +1,118 @@
 #include "interact/line_sizing.h"
 
+#include "automation/checked.h"
+
+#include <algorithm>
+
 namespace vornix {
 
 LineSizing::LineSizing(LineSizingContext context)
     : context_(context)
+    , resizers_(context.store, context.layout, context.scroll)
 {
 }
 
 HitResult LineSizing::HitTest(int x, int y)
 {
-    return context_.layout.HitTestCell(x, y);
+    if (IsSizing())
+        return context_.layout.HitTestCell(x, y);
+    const ResizerHit hit = resizers_.HitTest(x, y);
+    candidateRow_ = hit.row;
+    candidateCol_ = hit.col;
+    return hit.cell;
+}
+
+// -- The cursor --
+
+void LineSizing::ShowCursor(PointerShape shape)
+{
+    cursorShown_ = shape != PointerShape::Default;
+    cursor_ = shape;
+    context_.container.SetPointerShape(shape);
 }
 
 void LineSizing::RestoreCursor()
 {
-    cursorShown_ = false;
-    cursor_ = PointerShape::Default;
-    context_.container.SetPointerShape(cursor_);
+    ShowCursor(PointerShape::Default);
 }
 
-void LineSizing::UpdateCursor(int /*x*/, int /*y*/, const HitResult& /*hit*/) { }
-
-bool LineSizing::Begin(int /*x*/, int /*y*/)
+void LineSizing::UpdateCursor(int x, int y, const HitResult& hit)
 {
-    return false;
+    const PointerShape shape = ShapeAt(x, y, hit);
+    if (shape != cursor_)
+        ShowCursor(shape);
 }
 
-void LineSizing::SizeTo(int /*x*/, int /*y*/) { }
+// Columns are sized from the fixed rows, rows from the fixed columns, and nothing from the caption.
+PointerShape LineSizing::ShapeAt(int x, int y, const HitResult& hit) const
+{
+    const LayoutEngine& layout = context_.layout;
+    const bool isOnCaption = layout.Settings.CaptionEnabled && hit.row == 0;
+    if (y <= layout.FixedRowsHeight() && IsRealCol(candidateCol_) && !sizingCol_) {
+        if (isOnCaption)
+            return PointerShape::Default;
+        if (OffersCol(hit.row, candidateCol_))
+            return PointerShape::SizeWE;
+    }
+    if (x <= layout.FixedColsWidth() && IsRealRow(candidateRow_) && !sizingRow_) {
+        if (!isOnCaption && OffersRow(candidateRow_, hit.col))
+            return PointerShape::SizeNS;
+    }
+    return PointerShape::Default;
+}
+
+// Only the last column of a span may be sized from within it.
+bool LineSizing::OffersCol(int row, int col) const
+{
+    if (!IsRealRow(row))
+        return false;
+    const CellIndex parent = context_.spans.ParentOf(row, col);
+    const int lastOfSpan = parent.col + context_.spans.ColsCovered(parent.row, parent.col) - 1;
+    const Column& column = context_.store.ColumnAt(col);
+    return col == lastOfSpan && column.Resizable && !column.Hidden;
+}
+
+bool LineSizing::OffersRow(int row, int col) const
+{
+    if (!IsRealCol(col))
+        return false;
+    const CellIndex parent = context_.spans.ParentOf(row, col);
+    const int lastOfSpan = parent.row + context_.spans.RowsCovered(parent.row, parent.col) - 1;
+    const Row& line = context_.store.RowAt(row);
+    return row == lastOfSpan && line.Resizable && !line.Hidden;
+}
+
+// -- The drag --
+
+bool LineSizing::Begin(int x, int y)
+{
+    HitTest(x, y);
+    const bool acrossCols = cursor_ == PointerShape::SizeWE;
+    const int candidate = acrossCols ? candidateCol_ : candidateRow_;
+    if (candidate < 0) {
+        RestoreCursor();
+        return false;
+    }
+    const LayoutEngine& layout = context_.layout;
+    if (acrossCols) {
+        col_ = candidate;
+        originX_ = layout.CellOriginAt(0, col_).x;
+        sizingCol_ = true;
+    } else {
+        row_ = candidate;
+        originY_ = layout.CellOriginAt(row_, 0).y;
+        sizingRow_ = true;
+    }
+    return true;
+}
+
+void LineSizing::SizeTo(int x, int y)
+{
+    if (sizingCol_)
+        SizeColTo(x);
+    else if (sizingRow_)
+        SizeRowTo(y);
+}
 
 void LineSizing::End()
 {
@@ -34,6 +120,117 @@ void LineSizing::End()
     sizingRow_ = false;
 }
 
+void LineSizing::SizeColTo(int x)
+{
+    const int col = col_;
+    if (!IsRealCol(col))
+        return;
+    context_.layout.MeasureIfDirty();
+    originX_ = context_.layout.CellOriginAt(0, col).x; // the view may have scrolled
+    i16 width = WidthAt(x, col);
+    {
+        const RedrawGate::Closed closed(context_.gate);
+        context_.events.ResizeCol(ToI16(col - context_.store.FixedCols()), width);
+    }
+    if (IsRealCol(col))
+        StoreWidth(col, std::max<int>(width, 0));
+    PaintAtOnce();
+}
+
+void LineSizing::SizeRowTo(int y)
+{
+    const int row = row_;
+    if (!IsRealRow(row))
+        return;
+    context_.layout.MeasureIfDirty();
+    if (!context_.layout.Settings.ResizingRows) // otherwise the rows before it move as well
+        originY_ = context_.layout.CellOriginAt(row, 0).y;
+    i16 height = HeightAt(y, row);
+    {
+        const RedrawGate::Closed closed(context_.gate);
+        context_.events.ResizeRow(ToI16(row - context_.store.FixedRows()), height);
+    }
+    if (IsRealRow(row))
+        StoreHeight(row, std::max<int>(height, 0));
+    PaintAtOnce();
+}
+
+// No column is wider than the area that scrolls, but for scrolling by pixels. A frozen one leaves that area as it is at
+// the most.
+i16 LineSizing::WidthAt(int x, int col) const
+{
+    const LayoutEngine& layout = context_.layout;
+    int width = std::max(x, originX_) - originX_;
+    if (col == context_.scroll.FirstCol())
+        width -= layout.SmoothOffset();
+    const int scrollingArea = layout.ScaleSize().width - layout.VBarWidth() - layout.FrozenColsWidth();
+    if (col < layout.FirstScrollCol())
+        width = std::min(width, scrollingArea + context_.store.WidthOf(col));
+    else if (layout.Settings.ScrollHBar != vxScrollSmooth)
+        width = std::min(width, scrollingArea);
+    return ToI16(std::max(width, 0));
+}
+
+i16 LineSizing::HeightAt(int y, int row) const
+{
+    const LayoutEngine& layout = context_.layout;
+    const int scrollingArea = layout.ScaleSize().height - layout.HBarHeight() - layout.FixedRowsHeight();
+    const bool isFixed = row < context_.store.FixedRows();
+    const int limit = isFixed ? scrollingArea + context_.store.HeightOf(row) : scrollingArea;
+    return ToI16(std::clamp(std::max(y, originY_) - originY_, 0, std::max(limit, 0)));
+}
+
+void LineSizing::StoreWidth(int col, int width)
+{
+    ScrollModel& scroll = context_.scroll;
+    context_.layout.SetColWidth(col, width);
+    if (col >= context_.layout.FirstScrollCol() && col < scroll.FirstCol())
+        scroll.SetFirstCol(col);
+    if (width == 0)
+        scroll.SetFirstCol(context_.scrolling.Positions().FirstVisibleScrollCol());
+}
+
+void LineSizing::StoreHeight(int row, int height)
+{
+    ScrollModel& scroll = context_.scroll;
+    const bool isFixed = row < context_.store.FixedRows();
+    if (context_.layout.Settings.ResizingRows && !isFixed)
+        StoreHeightOfAllRows(height);
+    else
+        context_.layout.SetRowHeight(row, height);
+    if (row >= context_.store.FixedRows() && row < scroll.FirstRow() && IsRealRow(row))
+        scroll.SetFirstRow(row);
+    if (height == 0)
+        scroll.SetFirstRow(context_.scrolling.Positions().FirstVisibleScrollRow());
+}
+
+void LineSizing::StoreHeightOfAllRows(int height)
+{
+    GridStore& store = context_.store;
+    const i16 stored = ToI16(height);
+    for (int row = store.FixedRows(); row <= store.LastRowIndex(); ++row) {
+        Row& line = store.RowAt(row);
+        (line.Hidden ? line.SavedHeight : line.Height) = stored;
+    }
+    context_.hidden.RebuildChain();
+    if (height == 0 && context_.page.PageSize() > 0)
+        RefillPage();
+}
+
+void LineSizing::RefillPage()
+{
+    const RedrawGate::Closed closed(context_.gate);
+    context_.events.PopulateGrid(context_.page.Offset(), 0, ToI16(context_.store.Rows() - 1));
+}
+
+// Whatever the host has said about drawing.
+void LineSizing::PaintAtOnce()
+{
+    const RedrawGate::Opened opened(context_.gate);
+    context_.repainter.RecalcLayout(false);
+}
+
+// Lines are not fitted to what they hold yet: until then a double click leaves them as they are.
 void LineSizing::FitLine() { }
 
 } // namespace vornix

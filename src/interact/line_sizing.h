@@ -1,9 +1,13 @@
 // The user's sizing of rows and columns by the boundaries in the fixed lines. Sizing is live: every move of the pointer
 // is laid out and painted, and the host has the last word on each new size. Internal indices; places in pixels of the
 // client area.
+//
+// Handlers of ResizeCol, ResizeRow and PopulateGrid may do anything, closing the control included: the line that is
+// sized is tested anew behind each of them.
 #pragma once
 
 #include "interact/current_cell_ports.h"
+#include "layout/resizers.h"
 
 namespace vornix {
 
@@ -14,7 +18,8 @@ struct LineSizingContext {
     HiddenLines& hidden;
     const Spans& spans;
     RedrawGate& gate;
-    Scrolling& scrolling;
+    const Scrolling& scrolling;
+    Repainter& repainter;
     ListPage& page;
     Container& container;
     VornixEvents& events;
@@ -39,18 +44,48 @@ public:
     void UpdateCursor(int x, int y, const HitResult& hit);
     // A press while the cursor shows. False when there is no line to size, and the cursor goes.
     bool Begin(int x, int y);
-    // The pointer has moved with the button. Raises ResizeCol or ResizeRow, and the events of painting.
+    // The pointer has moved with the button. Raises ResizeCol or ResizeRow, and the events of painting; PopulateGrid
+    // when all rows of a page are closed. Error 6 for a size beyond 16 bits.
     void SizeTo(int x, int y);
+    // The size is in force since the latest move: there is nothing to commit.
     void End();
     // A double click on the boundary: the line takes the size of what it holds.
     void FitLine();
 
 private:
+    bool IsRealCol(int col) const { return col >= 0 && col <= context_.store.LastColIndex(); }
+    bool IsRealRow(int row) const { return row >= 0 && row <= context_.store.LastRowIndex(); }
+
+    PointerShape ShapeAt(int x, int y, const HitResult& hit) const;
+    bool OffersCol(int row, int col) const;
+    bool OffersRow(int row, int col) const;
+    void ShowCursor(PointerShape shape);
+
+    void SizeColTo(int x);
+    void SizeRowTo(int y);
+    i16 WidthAt(int x, int col) const;
+    i16 HeightAt(int y, int row) const;
+    void StoreWidth(int col, int width);
+    void StoreHeight(int row, int height);
+    void StoreHeightOfAllRows(int height);
+    void RefillPage();
+    void PaintAtOnce();
+
     LineSizingContext context_;
+    Resizers resizers_;
+    // What the latest hit test offers.
+    int candidateRow_ = NoIndex;
+    int candidateCol_ = NoIndex;
     PointerShape cursor_ = PointerShape::Default;
     bool cursorShown_ = false;
+
     bool sizingCol_ = false;
     bool sizingRow_ = false;
+    int row_ = NoIndex;
+    int col_ = NoIndex;
+    // Where the line begins.
+    int originX_ = 0;
+    int originY_ = 0;
 };
 
 } // namespace vornix

@@ -26,10 +26,17 @@ public:
     // Any button but the right one drags.
     void Press(i16 button, int x);
     void Move(int x);
-    // Raises SplitCols where there is a column to split at, and the events of painting.
+    // Raises SplitCols where there is a column to split at, and the events of painting. A split that would cut a span
+    // is refused. Error 6 when the columns before it are too wide for a sum.
     void Release(i16 button, int x);
 
 private:
+    ChildWindow& Line() const { return context_.container.Child(ChildName::picSplitMove); }
+    int InClientArea(int x) const;
+    void PlaceLine(int left);
+    void DrawLine(int left);
+    bool CutsSpan(int col) const;
+
     SplitDragContext context_;
 };
 

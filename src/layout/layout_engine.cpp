@@ -222,6 +222,19 @@ SplitChange LayoutEngine::SetShowSplit(bool value)
     return SplitChange::Dropped;
 }
 
+void LayoutEngine::SplitBefore(int col)
+{
+    const int firstScrollCol = std::max<int>(col, store_.FixedCols());
+    sums_.AddWidths(0, 0, firstScrollCol - 1); // raises before anything changes
+    firstScrollCol_ = firstScrollCol;
+    SumFixedCols();
+    if (clientWidth_ < frozenColsWidth_) {
+        firstScrollCol_ = store_.FixedCols();
+        SumFixedCols();
+    }
+    Settings.SplitCols = ToI16(firstScrollCol_ - store_.FixedCols());
+}
+
 void LayoutEngine::DropSplit()
 {
     frozenColsWidth_ = fixedColsWidth_;

@@ -88,6 +88,9 @@ public:
     // False when refused: ShowSplit is off, or the value is the present one, negative, or not below the last column.
     bool SetSplitCols(int value);
     SplitChange SetShowSplit(bool value);
+    // The split that the user has chosen: the columns before `col` stand still, none of them behind the fixed ones when
+    // that would leave no room. The view stays for the caller to place. Error 6 when they are too wide for a sum.
+    void SplitBefore(int col);
     // No column is split off any more; the view starts behind the fixed columns.
     void DropSplit();
 

@@ -60,6 +60,26 @@ void HiddenLines::UpdateChain(int row, int heightBefore, int heightAfter)
         PutIn(row);
 }
 
+void HiddenLines::RebuildChain()
+{
+    const int first = store_.FixedRows();
+    const int last = store_.LastRowIndex();
+    if (last < first)
+        return;
+    int previous = first;
+    store_.RowAt(first).PrevSkip = 0;
+    for (int row = first + 1; row <= last; ++row) {
+        if (row < last && store_.HeightOf(row) == 0) {
+            store_.RowAt(row).NextSkip = 0;
+            store_.RowAt(row).PrevSkip = 0;
+            continue;
+        }
+        Link(previous, row);
+        previous = row;
+    }
+    store_.RowAt(last).NextSkip = 0;
+}
+
 void HiddenLines::EndChain()
 {
     const int last = store_.LastRowIndex();

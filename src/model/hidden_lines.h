@@ -25,6 +25,9 @@ public:
     // be: a change to 0 takes the row out of the chain, one from 0 puts it in.
     void UpdateChain(int row, int heightBefore, int heightAfter);
 
+    // After heights of many rows were stored: the chain anew, in one pass.
+    void RebuildChain();
+
     // The neighbours of a row by its links, always ahead of it and behind it, however stale the links are. Not bounded
     // by the ends of the chain.
     int NextInChain(int row) const;

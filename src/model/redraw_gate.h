@@ -29,6 +29,22 @@ public:
         RedrawGate& gate_;
     };
 
+    // Opens the gate for a scope, whatever the host's setting is, and ends like Closed.
+    class Opened {
+    public:
+        explicit Opened(RedrawGate& gate)
+            : gate_(gate)
+        {
+            gate_.Open();
+        }
+        ~Opened() { gate_.RestoreFromRedraw(); }
+        Opened(const Opened&) = delete;
+        Opened& operator=(const Opened&) = delete;
+
+    private:
+        RedrawGate& gate_;
+    };
+
 private:
     bool redraw_ = true;
     bool open_ = false;

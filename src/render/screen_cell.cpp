@@ -65,9 +65,9 @@ void ScreenCell::Paint()
     if (!CreateSurface())
         return;
     ChooseColors();
+    ChooseSelection();
     PaintGround();
     PaintBackgroundPicture();
-    ChooseSelection();
     PaintSelectionGround();
     if (customDraw_) {
         const DrawnByHost drawn = RaiseDrawCell();
@@ -136,6 +136,8 @@ void ScreenCell::PaintGround()
 {
     if (style_ == vxCellRoundBox)
         PrepareRoundBox(*mem_, place_.size, Palette().back);
+    if (IsGroundCovered())
+        return;
     if (format_->GradientMode != vxGradientNone)
         PaintGradient(*mem_, place_.size, format_->GradientMode, format_->GradientStart, format_->GradientStop);
     else
@@ -144,7 +146,7 @@ void ScreenCell::PaintGround()
 
 void ScreenCell::PaintBackgroundPicture()
 {
-    if (!nonFixed_ || !painter_.background_.HasPicture() || job_.withoutBackground)
+    if (!nonFixed_ || !painter_.background_.HasPicture() || job_.withoutBackground || IsGroundCovered())
         return;
     const Surface* const background = painter_.background_.BackGroundDC();
     if (!background)
@@ -166,6 +168,11 @@ void ScreenCell::PaintBackgroundPicture()
 void ScreenCell::ChooseSelection()
 {
     selected_ = nonFixed_ && Context().interaction.IsSelected(*cell_, place_.row, place_.col, job_.printing);
+}
+
+bool ScreenCell::IsGroundCovered() const
+{
+    return selected_ && Settings().Opacity == FullOpacity;
 }
 
 void ScreenCell::PaintSelectionGround()

@@ -24,6 +24,8 @@ private:
     void PaintGround();
     void PaintBackgroundPicture();
     void ChooseSelection();
+    // By the colour of selected cells.
+    bool IsGroundCovered() const;
     void PaintSelectionGround();
     DrawnByHost RaiseDrawCell();
     bool AdoptSurface(Hdc handle);

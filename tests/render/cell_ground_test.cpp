@@ -299,11 +299,11 @@ TEST_F(SelectionTest, TheBackgroundPictureIsHiddenAtFullOpacityAndShowsThroughBe
 {
     table.pipeline.SetPicture(SolidPicture(8, 8));
     std::vector<std::string> lines = table.CellLines();
-    ASSERT_GE(lines.size(), 3u);
-    EXPECT_TRUE(lines[1].starts_with("BitBlt 0,0,50,20 from"));
-    EXPECT_EQ(lines[2], "FillRect 0,0,50,20 #0000AA");
+    ASSERT_GE(lines.size(), 1u);
+    EXPECT_EQ(lines[0], "FillRect 0,0,50,20 #0000AA") << "what it would cover is not drawn at all";
     table.pipeline.Settings.Opacity = 50;
     lines = table.CellLines();
+    ASSERT_GE(lines.size(), 3u);
     EXPECT_TRUE(lines[1].starts_with("BitBlt 0,0,50,20 from"));
     EXPECT_TRUE(lines[2].starts_with("AlphaBlend 0,0,50,20 from"));
 }

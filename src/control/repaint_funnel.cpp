@@ -131,9 +131,9 @@ void RepaintFunnel::PaintMessage()
 
 void RepaintFunnel::PaintSplitBar()
 {
-    bool viewMoved = false;
-    Paint([&] { viewMoved = context_.paint.PaintSplitBar(); });
-    if (!viewMoved)
+    bool splitDropped = false;
+    Paint([&] { splitDropped = context_.paint.PaintSplitBar(); });
+    if (!splitDropped)
         return;
     if (context_.layout.HBarHeight() > 0)
         context_.scrolling.UpdateHScrollRange();

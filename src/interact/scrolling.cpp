@@ -72,7 +72,8 @@ void Scrolling::UpdateHorizontalBar()
     }
     const bool handleAtBar = layout.Settings.ShowSplit && layout.Settings.SplitCols == 0;
     const int left = handleAtBar ? handle.Place().Width() : 0;
-    hBar_.window.Move(Placed(left, layout.ClientHeight() - 1, layout.ClientWidth() - left, layout.HBarHeight() + 1));
+    const int width = std::max(0, layout.ClientWidth() - left);
+    hBar_.window.Move(Placed(left, layout.ClientHeight() - 1, width, layout.HBarHeight() + 1));
     context_.container.Child(ChildName::cPivot).Raise();
     UpdateHScrollRange();
     PlaceSplitHandle();
@@ -81,12 +82,9 @@ void Scrolling::UpdateHorizontalBar()
 
 void Scrolling::PlaceSplitHandle()
 {
-    const LayoutSettings& settings = context_.layout.Settings;
-    if (!settings.ShowSplit)
+    if (!context_.layout.Settings.ShowSplit)
         return;
-    const i16 splitBefore = settings.SplitCols;
-    context_.paint.PaintSplitBar();
-    if (settings.SplitCols != splitBefore) // it made no sense any more: the range is another one
+    if (context_.paint.PaintSplitBar())
         UpdateHScrollRange();
     context_.container.Child(ChildName::picSplitCol).Show(hBar_.native != nullptr);
 }
@@ -125,6 +123,12 @@ void Scrolling::PlaceCorner()
 
 void Scrolling::UpdateHScrollRange()
 {
+    if (IsHBarOfOtherUnit()) {
+        // A drag that is going on is over: its places mean something else now.
+        hBarCountsPixels_ = positions_.IsSmooth();
+        hBar_.control.UnSubclass();
+        HookBar(hBar_.control);
+    }
     const BarRange range = positions_.HRange();
     hBar_.control.SetInfo(range.min, range.max, 1);
     if (positions_.IsSmooth())
@@ -184,7 +188,7 @@ void Scrolling::SetLastRow(int row)
     if (row == context_.scroll.LastRow())
         return;
     context_.scroll.SetLastRow(row);
-    context_.scroll.SetFirstRow(std::max<int>(context_.layout.FirstRowForLast(row), store.FixedRows()));
+    context_.scroll.SetFirstRow(positions_.ScrollingRowForLast(row));
     context_.paint.SetPaintLastRow(row == store.LastRowIndex() ? store.MaxRow() : row + 1);
     context_.pages.RollPage();
     ApplyScrollAndRepaint();
@@ -197,7 +201,7 @@ void Scrolling::SetLastCol(int col)
     if (col == context_.scroll.LastCol() && layout.SmoothOffset() == 0)
         return;
     context_.scroll.SetLastCol(col);
-    context_.scroll.SetFirstCol(std::max(layout.FirstColForLast(col), layout.FirstScrollCol()));
+    context_.scroll.SetFirstCol(positions_.ScrollingColForLast(col));
     context_.paint.SetPaintLastCol(col == store.LastColIndex() ? store.MaxCol() : col + 1);
     layout.SetSmoothOffset(0);
     ApplyScrollAndRepaint();
@@ -231,7 +235,7 @@ bool Scrolling::BringColIntoView(int col, CellIndex parent)
     } else {
         // The whole span comes into view where it fits.
         const int lastOfSpan = parent.col + context_.spans.ColsCovered(parent.row, parent.col) - 1;
-        scroll.SetFirstCol(std::max(layout.FirstColForLast(lastOfSpan), layout.FirstScrollCol()));
+        scroll.SetFirstCol(positions_.ScrollingColForLast(lastOfSpan));
     }
     layout.SetSmoothOffset(0);
     return true;
@@ -249,7 +253,7 @@ bool Scrolling::BringRowIntoView(int row, CellIndex parent)
     if (row <= scroll.LastRow())
         return false;
     const int lastOfSpan = parent.row + context_.spans.RowsCovered(parent.row, parent.col) - 1;
-    scroll.SetFirstRow(std::max<int>(context_.layout.FirstRowForLast(lastOfSpan), context_.store.FixedRows()));
+    scroll.SetFirstRow(positions_.ScrollingRowForLast(lastOfSpan));
     return true;
 }
 

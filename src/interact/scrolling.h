@@ -67,6 +67,9 @@ public:
     void Notify(ChildName bar, i32 code);
     // 120 a notch, away from the user positive.
     void Wheel(i32 delta);
+    void Wheel(ChildName bar, i32 delta);
+    // So many positions of a bar at once.
+    void MoveBar(ChildName bar, i32 steps);
 
     ScrollBar& HorizontalBar() { return hBar_.control; }
     ScrollBar& VerticalBar() { return vBar_.control; }
@@ -109,6 +112,10 @@ private:
     void PlaceSplitHandle();
     void PlaceCorner();
 
+    void HookBar(ScrollBar& bar);
+    // The mode has changed since the bar was given its range, between columns and pixels.
+    bool IsHBarOfOtherUnit() const { return hBarCountsPixels_ != positions_.IsSmooth(); }
+    void FollowUnitOfHBar();
     void HorizontalChange(i32& value, i32 direction);
     void HorizontalTrack(i32& value);
     void VerticalChange(i32& value, i32 direction);
@@ -127,6 +134,7 @@ private:
     Bar hBar_;
     Bar vBar_;
     bool hooked_ = false;
+    bool hBarCountsPixels_ = false;
 };
 
 } // namespace vornix

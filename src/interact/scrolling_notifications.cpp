@@ -2,6 +2,9 @@
 #include "automation/checked.h"
 #include "interact/scrolling.h"
 
+#include <algorithm>
+#include <cstdint>
+
 namespace vornix {
 
 namespace {
@@ -14,16 +17,28 @@ constexpr i32 StepsOfNotch = 3;
 void Scrolling::SetHooked(bool hooked)
 {
     hooked_ = hooked;
-    for (ScrollBar* const bar : { &hBar_.control, &vBar_.control }) {
-        if (hooked)
-            bar->Subclass();
-        else
-            bar->UnSubclass();
-    }
+    HookBar(hBar_.control);
+    HookBar(vBar_.control);
+}
+
+void Scrolling::HookBar(ScrollBar& bar)
+{
+    if (hooked_)
+        bar.Subclass();
+    else
+        bar.UnSubclass();
+}
+
+// A handler that runs inside a paint changes the mode without a layout.
+void Scrolling::FollowUnitOfHBar()
+{
+    if (hooked_ && hBar_.control.IsShown() && IsHBarOfOtherUnit())
+        UpdateHScrollRange();
 }
 
 void Scrolling::Notify(ChildName bar, i32 code)
 {
+    FollowUnitOfHBar();
     if (bar == ChildName::scrH)
         hBar_.control.Notify(code);
     else if (bar == ChildName::scrV)
@@ -32,19 +47,30 @@ void Scrolling::Notify(ChildName bar, i32 code)
 
 void Scrolling::Wheel(i32 delta)
 {
+    Wheel(vBar_.control.IsShown() ? ChildName::scrV : ChildName::scrH, delta);
+}
+
+void Scrolling::Wheel(ChildName bar, i32 delta)
+{
+    MoveBar(bar, -(delta / WheelNotch) * StepsOfNotch);
+}
+
+void Scrolling::MoveBar(ChildName bar, i32 steps)
+{
     if (!hooked_)
         return;
-    const i32 step = -(delta / WheelNotch) * StepsOfNotch;
-    if (vBar_.control.IsShown())
-        WheelOver(vBar_.control, step, &Scrolling::VerticalChange);
-    else if (hBar_.control.IsShown())
-        WheelOver(hBar_.control, step, &Scrolling::HorizontalChange);
+    FollowUnitOfHBar();
+    if (bar == ChildName::scrV && vBar_.control.IsShown())
+        WheelOver(vBar_.control, steps, &Scrolling::VerticalChange);
+    else if (bar == ChildName::scrH && hBar_.control.IsShown())
+        WheelOver(hBar_.control, steps, &Scrolling::HorizontalChange);
 }
 
 void Scrolling::WheelOver(ScrollBar& bar, i32 step, Relay::OnChange change)
 {
     const i32 before = bar.Value();
-    bar.SetValue(before + step);
+    const std::int64_t target = std::max<std::int64_t>(std::int64_t { before } + step, bar.Min());
+    bar.SetValue(static_cast<i32>(std::min<std::int64_t>(target, bar.Max())));
     i32 value = bar.Value();
     if (value == before)
         return;
@@ -87,24 +113,25 @@ void Scrolling::HorizontalChange(i32& value, i32 direction)
 
 void Scrolling::HorizontalTrack(i32& value)
 {
-    switch (context_.layout.Settings.ScrollHBar) {
-    case vxNormalScroll:
-        return context_.events.ScrollTrackCol(ToI16(value - context_.store.FixedCols()));
-    case vxScrollTrack:
-        CloseEditor();
-        context_.scroll.SetFirstCol(positions_.ScrollingCol(value));
-        context_.repainter.RepaintUnderGate();
-        context_.events.Scroll();
+    const i32 mode = context_.layout.Settings.ScrollHBar;
+    if (mode == vxNormalScroll)
+        return context_.events.ScrollTrackCol(ToI16(positions_.ScrollingCol(value) - context_.store.FixedCols()));
+    if (mode != vxScrollTrack && mode != vxScrollSmooth)
+        return;
+    CloseEditor();
+    if (context_.layout.Settings.ScrollHBar != mode) {
         value = HPosition();
         return;
-    case vxScrollSmooth:
-        CloseEditor();
-        MoveToPixel(value);
-        context_.repainter.RepaintUnderGate();
-        return;
-    default:
-        return;
     }
+    value = RangeOf(hBar_.control).Limit(value);
+    if (mode == vxScrollSmooth) {
+        MoveToPixel(value);
+        return context_.repainter.RepaintUnderGate();
+    }
+    context_.scroll.SetFirstCol(positions_.ScrollingCol(value));
+    context_.repainter.RepaintUnderGate();
+    context_.events.Scroll();
+    value = HPosition();
 }
 
 void Scrolling::VerticalChange(i32& value, i32 direction)
@@ -120,19 +147,18 @@ void Scrolling::VerticalChange(i32& value, i32 direction)
 
 void Scrolling::VerticalTrack(i32& value)
 {
-    switch (context_.layout.Settings.ScrollVBar) {
-    case vxNormalScroll:
-        return context_.events.ScrollTrackRow(ToI16(value - context_.store.FixedRows()));
-    case vxScrollTrack:
-        CloseEditor();
-        context_.scroll.SetFirstRow(positions_.ScrollingRow(value));
+    const i32 mode = context_.layout.Settings.ScrollVBar;
+    if (mode == vxNormalScroll)
+        return context_.events.ScrollTrackRow(ToI16(positions_.ScrollingRow(value) - context_.store.FixedRows()));
+    if (mode != vxScrollTrack)
+        return;
+    CloseEditor();
+    if (context_.layout.Settings.ScrollVBar == mode) {
+        context_.scroll.SetFirstRow(positions_.ScrollingRow(RangeOf(vBar_.control).Limit(value)));
         context_.repainter.RepaintUnderGate();
         context_.events.Scroll();
-        value = context_.scroll.FirstRow();
-        return;
-    default:
-        return;
     }
+    value = context_.scroll.FirstRow();
 }
 
 } // namespace vornix

@@ -76,6 +76,12 @@ void cScrollBar::DispatchMessage(i32 code)
     }
 }
 
+void cScrollBar::EndAction()
+{
+    tracking_ = false;
+    lineStep_ = baseStep_;
+}
+
 void cScrollBar::LineMove(i32 sign)
 {
     if (smoothScroll_ && lineStep_ < LongStep && lineStep_ > -LongStep)
@@ -92,7 +98,7 @@ void cScrollBar::PageMove(i32 direction)
 void cScrollBar::ThumbTrack()
 {
     tracking_ = true;
-    i32 value = bar_.TrackPosition();
+    i32 value = Limited(bar_.TrackPosition());
     events_.Scroll(value);
     SetPosition(value);
 }
@@ -102,7 +108,7 @@ void cScrollBar::ThumbEnd()
     if (!tracking_)
         return;
     tracking_ = false;
-    RaiseChange(bar_.TrackPosition(), 0);
+    RaiseChange(Limited(bar_.TrackPosition()), 0);
 }
 
 void cScrollBar::RaiseChange(i32 value, i32 direction)

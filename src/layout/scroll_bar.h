@@ -27,11 +27,13 @@ public:
     i32 Value() const { return bar_.Position(); }
     void SetValue(i32 value) { SetPosition(value); }
     void SetInfo(i32 value, i32 min, i32 max, i32 page);
-    // Gives the bar what it was last given by SetInfo once more.
+    // Gives the bar the stored range, page and position once more; the position is that of the latest SetInfo.
     void Refresh() { bar_.SetInfo(info_); }
 
     // One message by its number; unknown ones do nothing.
     void DispatchMessage(i32 code);
+    // No drag is going on any more, and the next line starts with the first step.
+    void EndAction();
 
 private:
     void LineMove(i32 sign);

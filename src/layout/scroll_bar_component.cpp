@@ -179,6 +179,7 @@ void ScrollBar::Subclass()
 void ScrollBar::UnSubclass()
 {
     subclassed_ = false;
+    logic_->EndAction();
 }
 
 } // namespace vornix

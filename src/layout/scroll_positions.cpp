@@ -121,12 +121,22 @@ int ScrollPositions::ShownRowBeside(int target) const
 
 i32 ScrollPositions::NextSmoothValue(i32 value, i32 direction, const BarRange& bar) const
 {
-    const i32 page = layout_.ClientWidth() - layout_.FrozenColsWidth();
+    const i32 page = std::max(layout_.ClientWidth() - layout_.FrozenColsWidth(), 0);
     if (direction < 0)
-        return std::max(value - page, bar.min);
+        return bar.Limit(value - page);
     if (direction > 0)
-        return std::min(value + page, bar.max);
-    return value;
+        return bar.Limit(value + page);
+    return bar.Limit(value);
+}
+
+int ScrollPositions::ScrollingColForLast(int last) const
+{
+    return std::max(layout_.FirstColForLast(last), layout_.FirstScrollCol());
+}
+
+int ScrollPositions::ScrollingRowForLast(int last) const
+{
+    return std::max<int>(layout_.FirstRowForLast(last), store_.FixedRows());
 }
 
 } // namespace vornix

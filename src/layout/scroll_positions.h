@@ -46,6 +46,10 @@ public:
     int NextScrollRow(i32 value, i32 direction, const BarRange& bar) const;
     i32 NextSmoothValue(i32 value, i32 direction, const BarRange& bar) const;
 
+    // The line that must come first for `last` to be the last whole one, as far as those that stand still allow.
+    int ScrollingColForLast(int last) const;
+    int ScrollingRowForLast(int last) const;
+
     // A position of the bar as a line of the store.
     int ScrollingCol(i32 value) const;
     int ScrollingRow(i32 value) const;

@@ -37,9 +37,8 @@ public:
 
     // The container's paint message.
     void PaintMessage();
-    // Places the handle of the split, or drops a split that makes no sense any more.
-    // Places and draws the handle of the split. True when a split that makes no sense any more was dropped and other
-    // columns stand at the left now: the caller repaints.
+    // Places and draws the handle of the split. One that makes no sense any more takes the split with it, and the view
+    // back to the first column: true when that changed anything, and the horizontal bar's range and the picture are due.
     bool PaintSplitBar();
 
     // The back store takes the client size; the next refresh counts as a size change.

@@ -3,13 +3,16 @@
 #include "render/split_handle.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace vornix {
 
 bool PaintPipeline::PaintSplitBar()
 {
     const LayoutEngine& layout = context_.layout;
-    const int firstCol = context_.scroll.FirstCol();
+    const auto standing
+        = [&] { return std::tuple(layout.Settings.SplitCols, context_.scroll.FirstCol(), layout.SmoothOffset()); };
+    const auto before = standing();
     if (layout.Settings.SplitCols >= 1 && layout.HBarHeight() != 0)
         PlaceSplitHandleOverCells();
     if (SplitMakesNoSense())
@@ -17,15 +20,18 @@ bool PaintPipeline::PaintSplitBar()
     if (layout.Settings.SplitCols == 0)
         PlaceSplitHandleAtBar();
     DrawSplitHandleOnItsWindow();
-    return context_.scroll.FirstCol() != firstCol;
+    return standing() != before;
 }
 
 void PaintPipeline::DrawSplitHandleOnItsWindow()
 {
     ChildWindow& handle = context_.container.Child(ChildName::picSplitCol);
-    if (Device* const canvas = handle.Canvas())
-        DrawSplitHandle(
-            *canvas, context_.container.Colors(), handle.Place().Height(), context_.layout.Settings.SplitCols > 0);
+    Device* const canvas = handle.Canvas();
+    if (!canvas)
+        return;
+    DrawSplitHandle(
+        *canvas, context_.container.Colors(), handle.Place().Height(), context_.layout.Settings.SplitCols > 0);
+    handle.CanvasChanged();
 }
 
 void PaintPipeline::PlaceSplitHandleOverCells()
@@ -35,7 +41,7 @@ void PaintPipeline::PlaceSplitHandleOverCells()
     ChildWindow& handle = context_.container.Child(ChildName::picSplitCol);
     const int left = layout.CellOriginAt(0, lastFrozen).x + context_.store.WidthOf(lastFrozen) - 3;
     const int top = layout.CaptionHeight();
-    const int height = std::min<int>(layout.ClientHeight() - top, layout.ClientHeight());
+    const int height = std::clamp<int>(layout.ClientHeight() - top, 0, layout.ClientHeight());
     handle.Move({ left, top, left + handle.Place().Width(), top + height });
 }
 
@@ -53,12 +59,12 @@ void PaintPipeline::PlaceSplitHandleAtBar()
     LayoutEngine& layout = context_.layout;
     ChildWindow& handle = context_.container.Child(ChildName::picSplitCol);
     const int width = handle.Place().Width();
-    const int clientWidth = layout.ClientWidth();
     const int clientHeight = layout.ClientHeight();
     handle.Move({ 0, clientHeight, width, clientHeight + layout.Settings.ScrollBarSize });
     const int barTop = clientHeight - 1;
     const int barLeft = layout.Settings.ShowSplit ? width : 0;
-    context_.container.Child(ChildName::scrH).Move({ barLeft, barTop, clientWidth, barTop + layout.HBarHeight() + 1 });
+    const int barRight = std::max<int>(layout.ClientWidth(), barLeft);
+    context_.container.Child(ChildName::scrH).Move({ barLeft, barTop, barRight, barTop + layout.HBarHeight() + 1 });
     layout.SetFrozenColsWidth(layout.FixedColsWidth());
 }
 

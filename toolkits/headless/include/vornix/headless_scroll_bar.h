@@ -29,19 +29,42 @@ public:
     // user; a hidden one, and one of a control whose Redraw is off, goes unheard. Error 5 for another code.
     void Notify(i32 code, std::optional<i32> trackPosition = std::nullopt);
 
+    // What a person does with the left button. At each end is an arrow, as long as the bar is thick, for a step; between
+    // them lies the thumb, whose share of the trough is that of the page in the range, 8 pixels at least; a press beside
+    // it is a page. All give their number and, at the release, 8; holding repeats nothing. A drag of the thumb gives a 5
+    // for each move, then 4 and 8.
+    void MouseDown(i16 button, i16 shift, float x, float y) override;
+    void MouseMove(i16 button, i16 shift, float x, float y) override;
+    void MouseUp(i16 button, i16 shift, float x, float y) override;
+    void DblClick() override;
+
     void SetInfo(const ScrollBarInfo& info) override;
     void SetRange(i32 min, i32 max) override;
     i32 Position() const override { return info_.position; }
     void SetPosition(i32 position) override { info_.position = Limited(position); }
-    i32 TrackPosition() const override { return trackPosition_; }
+    i32 TrackPosition() const override { return Limited(trackPosition_); }
 
 private:
+    // What goes on between press and release.
+    enum class Action { None, Step, Drag };
+    struct Press {
+        i16 button = 0;
+        float x = 0;
+        float y = 0;
+    };
+
     i32 Limited(i32 position) const;
+    bool IsVertical() const { return name_ == ChildName::scrV; }
+    double Along(float x, float y) const;
 
     ChildName name_;
     Vornix* grid_ = nullptr;
     ScrollBarInfo info_;
     i32 trackPosition_ = 0;
+    Press latestPress_;
+    Action action_ = Action::None;
+    // Pixels from the start of the thumb to where it is held.
+    double grip_ = 0;
 };
 
 } // namespace vornix

@@ -203,6 +203,41 @@ TEST_F(LayoutSetters, FrozenColumnsBeyond16BitsAreOverflowAndChangeNothing)
     EXPECT_EQ(table.layout.FirstScrollCol(), 1);
 }
 
+TEST_F(LayoutSetters, TheUsersSplitFreezesWhatLiesBeforeItsColumn)
+{
+    table.Window(640, 480);
+    table.Layout();
+    table.scroll.SetFirstCol(4);
+    table.layout.SplitBefore(3);
+    EXPECT_EQ(table.layout.Settings.SplitCols, 2);
+    EXPECT_EQ(table.layout.FirstScrollCol(), 3);
+    EXPECT_EQ(table.layout.FrozenColsWidth(), 30 + 240);
+    EXPECT_EQ(table.scroll.FirstCol(), 4) << "the view is the caller's";
+    table.layout.SplitBefore(0);
+    EXPECT_EQ(table.layout.Settings.SplitCols, 0);
+    EXPECT_EQ(table.layout.FirstScrollCol(), 1);
+    EXPECT_EQ(table.layout.FrozenColsWidth(), 30);
+}
+
+TEST_F(LayoutSetters, TheUsersSplitMustLeaveRoomInTheClientArea)
+{
+    table.NoBars();
+    table.Window(270, 480);
+    table.Layout();
+    table.layout.SplitBefore(3);
+    EXPECT_EQ(table.layout.Settings.SplitCols, 2) << "just as wide";
+    table.Window(269, 480);
+    table.Layout();
+    table.layout.SplitBefore(3);
+    EXPECT_EQ(table.layout.Settings.SplitCols, 0);
+    EXPECT_EQ(table.layout.FirstScrollCol(), 1);
+    EXPECT_EQ(table.layout.FrozenColsWidth(), 30);
+    table.layout.SplitBefore(2);
+    table.Widths({ 0, 32767, 1 });
+    EXPECT_EQ(ErrorOf([&] { table.layout.SplitBefore(3); }), ErrorNumber::Overflow);
+    EXPECT_EQ(table.layout.Settings.SplitCols, 1) << "as before";
+}
+
 TEST_F(LayoutSetters, ShowSplitWithoutColumnsOnlyPlacesTheBar)
 {
     EXPECT_EQ(table.layout.SetShowSplit(true), SplitChange::PlaceBar);

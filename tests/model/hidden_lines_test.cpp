@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace vornix {
 namespace {
 
@@ -87,6 +89,30 @@ TEST_F(HiddenLinesTest, AHeightSavedWhileHiddenIsShown)
     store_->RowAt(3).SavedHeight = 40;
     lines_.ShowRow(3);
     EXPECT_EQ(store_->HeightOf(3), 40);
+}
+
+TEST_F(HiddenLinesTest, AChainIsBuiltAnewFromTheHeightsAsTheyAre)
+{
+    for (const Rows& closed : { Rows { 3, 4 }, Rows { 1, 2, 6 }, Rows { 1, 2, 3, 4, 5, 6 }, Rows {}, Rows { 2, 4 } }) {
+        for (int row = 1; row <= 6; ++row) {
+            const bool isClosed = std::find(closed.begin(), closed.end(), row) != closed.end();
+            store_->RowAt(row).Height = static_cast<i16>(isClosed ? 0 : 20);
+            store_->RowAt(row).NextSkip = 3; // stale
+            store_->RowAt(row).PrevSkip = 3;
+        }
+        lines_.RebuildChain();
+        ExpectChain(PlainScan(*store_));
+        EXPECT_EQ(store_->RowAt(1).PrevSkip, 0);
+        EXPECT_EQ(store_->RowAt(6).NextSkip, 0);
+    }
+}
+
+TEST_F(HiddenLinesTest, WithoutRowsThereIsNoChainToBuild)
+{
+    const auto fixedOnly = BuildStore(0, 3, 2, 1);
+    fixedOnly->RowAt(1).NextSkip = 7;
+    HiddenLines(*fixedOnly).RebuildChain();
+    EXPECT_EQ(fixedOnly->RowAt(1).NextSkip, 7);
 }
 
 TEST_F(HiddenLinesTest, FirstAndLastRowStayInTheChain)

@@ -29,6 +29,22 @@ TEST(RedrawGateTest, AClosedScopePutsBackTheSettingNotTheStateItFound)
     EXPECT_FALSE(gate.IsOpen());
 }
 
+TEST(RedrawGateTest, AnOpenedScopeIsOpenWhateverTheSettingAndPutsItBack)
+{
+    RedrawGate gate;
+    gate.SetRedraw(false);
+    {
+        const RedrawGate::Opened opened(gate);
+        EXPECT_TRUE(gate.IsOpen());
+    }
+    EXPECT_FALSE(gate.IsOpen());
+    gate.SetRedraw(true);
+    {
+        const RedrawGate::Opened opened(gate);
+    }
+    EXPECT_TRUE(gate.IsOpen());
+}
+
 TEST(RedrawGateTest, AnExceptionPutsTheSettingBackToo)
 {
     RedrawGate gate;

@@ -114,7 +114,7 @@ private:
         grid_.SetAltColorEnabled(true);
         grid_.SetAltBkColor(looks_.alternateGround);
         grid_.SetAltForeColor(looks_.ink);
-        // The bars come with scrolling; until then the whole window shows cells.
+        // A picture shows cells alone; a window turns the bars on.
         grid_.SetScrollHBar(vxNoScrollBar);
         grid_.SetScrollVBar(vxNoScrollBar);
     }

@@ -85,6 +85,8 @@ int ShowWindow(const Table& table, const ViewerOptions& options, const std::func
     CloseOn(QKeySequence::Close, window);
 
     PresentTable(grid->Grid(), grid->MeasuringDevice(), grid->Colors(), table);
+    grid->Grid().SetScrollHBar(vxScrollTrack);
+    grid->Grid().SetScrollVBar(vxScrollTrack);
     window.show();
     return QApplication::exec();
 }

@@ -105,6 +105,11 @@ public:
     // and raise Scroll, ScrollTrackRow or ScrollTrackCol.
     void ScrollBarNotify(ChildName Bar, i32 Code);
     void MouseWheel(i32 Delta);
+    // The same for one of the bars, whichever the wheel turns for itself; positive toward the start of the table. Then
+    // so many of a bar's own steps at once, as fingers move it on a touchpad: lines, in smooth mode pixels; positive
+    // toward the end.
+    void MouseWheel(ChildName Bar, i32 Delta);
+    void MoveScrollBar(ChildName Bar, i32 Steps);
     // The interval of the timer has passed (Container::SetTimer).
     void Tick();
     // The pointer on one of the children, in its own pixels: the split is dragged by picSplitCol. Other children do

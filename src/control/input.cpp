@@ -151,4 +151,16 @@ void Vornix::MouseWheel(i32 Delta)
         control->scrolling.Wheel(Delta);
 }
 
+void Vornix::MouseWheel(ChildName Bar, i32 Delta)
+{
+    if (const auto control = Enter(); control->HearsUser())
+        control->scrolling.Wheel(Bar, Delta);
+}
+
+void Vornix::MoveScrollBar(ChildName Bar, i32 Steps)
+{
+    if (const auto control = Enter(); control->HearsUser())
+        control->scrolling.MoveBar(Bar, Steps);
+}
+
 } // namespace vornix

@@ -27,7 +27,7 @@ NOT_OF_THE_INTERFACE = frozenset(
     IsTerminated IsInCall BackStore Repaints Refreshes ClearPaintCounters
     Invoke
     MouseDown MouseMove MouseUp Click DblClick KeyDown KeyPress KeyUp
-    ScrollBarNotify MouseWheel Tick
+    ScrollBarNotify MouseWheel MoveScrollBar Tick
     ChildMouseDown ChildMouseMove ChildMouseUp PaintChild EnterChildFocus
     """.split()
 )

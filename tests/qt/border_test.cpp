@@ -122,6 +122,8 @@ TEST(QVornixFrameTest, ABorderWiderThanTheWidgetLeavesNoClientArea)
 {
     NotedWidget widget;
     widget.Grid().SetBorderStyle(vxInset);
+    widget.Grid().SetScrollHBar(vxNoScrollBar);
+    widget.Grid().SetScrollVBar(vxNoScrollBar);
     widget.setMinimumSize(1, 1);
     widget.resize(3, 3);
     ShowAndSettle(widget);

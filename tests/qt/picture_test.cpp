@@ -195,6 +195,8 @@ TEST(QVornixPictureTest, AClosedGridLeavesItsPictureStanding)
 TEST(QVornixPictureTest, ASceneOfAnotherResolutionScalesThePicture)
 {
     NotedWidget widget;
+    widget.Grid().SetScrollHBar(vxNoScrollBar);
+    widget.Grid().SetScrollVBar(vxNoScrollBar);
     widget.Grid().SetCellBackColor(0, 0, 0x000000FF);
     widget.Grid().SetColWidth(0, 2000);
     widget.Grid().SetRowHeight(0, 2000);

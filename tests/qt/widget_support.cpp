@@ -30,6 +30,9 @@ void FillTable(Vornix& grid)
     grid.SetFixedCols(1);
     grid.SetRows(40);
     grid.SetCols(8);
+    // Nothing lies above the picture.
+    grid.SetScrollHBar(vxNoScrollBar);
+    grid.SetScrollVBar(vxNoScrollBar);
     for (i16 Row = -1; Row < 40; ++Row) {
         for (i16 Col = -1; Col < 8; ++Col) {
             grid.SetText(

@@ -38,7 +38,7 @@ public:
     }
 };
 
-// Some rows and columns with texts in different places and colours, without percent widths.
+// Some rows and columns with texts in different places and colours, without percent widths and without bars.
 void FillTable(Vornix& grid);
 // Qt's pending work, repaints included.
 void Settle();

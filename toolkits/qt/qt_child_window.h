@@ -1,22 +1,31 @@
-// A child window of the control: a plain widget on its client area, made when first used.
+// A child window of the control: a widget on its client area, made when first used.
 #pragma once
 
+#include "qt_setting.h"
 #include "vornix/platform/container.h"
 
-#include <QFrame>
 #include <QPointer>
+
+#include <memory>
+
+class QEvent;
 
 namespace vornix {
 
-class QtChildWindow final : public ChildWindow {
+// A plain one. The pointer does not reach the control through it.
+class QtChildWindow : public ChildWindow {
 public:
-    explicit QtChildWindow(QFrame& parent)
-        : parent_(parent)
-    {
-    }
+    explicit QtChildWindow(QtSetting& setting, QPalette::ColorRole ground = QPalette::Window);
+    ~QtChildWindow() override;
+    QtChildWindow(const QtChildWindow&) = delete;
+    QtChildWindow& operator=(const QtChildWindow&) = delete;
 
     // The client area has moved within the widget.
     void FollowParent() { ApplyPlace(); }
+    // Colours or resolution are others.
+    virtual void FollowSetting() { }
+    // Whether it is this window, or one inside it.
+    bool Owns(const QWidget& widget) const;
 
     void Move(const Rect& place) override;
     Rect Place() const override { return place_; }
@@ -27,11 +36,26 @@ public:
     void Raise() override;
     bool SetFocus() override;
 
+protected:
+    // The widget for this window, which takes what it needs of what happens to it.
+    virtual QWidget* MakeWindow(QWidget& parent);
+    // What happens to the widget, before the widget itself learns of it. True keeps it from the widget.
+    virtual bool Hears(QEvent& event);
+    static bool IsOfPointer(const QEvent& event);
+
+    // Null until it was first used.
+    QWidget* Widget() const { return window_; }
+    QtSetting& Setting() const { return setting_; }
+
 private:
+    class Watch;
+
     QWidget& Window();
     void ApplyPlace();
 
-    QFrame& parent_;
+    QtSetting& setting_;
+    QPalette::ColorRole ground_;
+    std::unique_ptr<Watch> watch_;
     QPointer<QWidget> window_;
     Rect place_;
     bool visible_ = false;

@@ -1,6 +1,8 @@
 #include "qt_container.h"
 
 #include "qt_ambient.h"
+#include "qt_canvas_window.h"
+#include "qt_scroll_bar.h"
 #ifdef VORNIX_WITH_ICU
 #include "vornix/icu_locale.h"
 #endif
@@ -28,6 +30,10 @@ constexpr int PixelsPerInch = 96;
 constexpr int LeftButton = 1;
 constexpr int RightButton = 2;
 constexpr int MiddleButton = 4;
+constexpr int ShiftKey = 16;
+constexpr int CtrlKey = 17;
+constexpr int AltKey = 18;
+constexpr int SplitHandleWidth = 6;
 // Pixels are 16 bits in the control.
 constexpr int LargestSize = 32767;
 
@@ -76,7 +82,8 @@ Qt::CursorShape CursorOf(PointerShape shape)
 } // namespace
 
 QtContainer::QtContainer(QFrame& widget)
-    : widget_(widget)
+    : setting_ { widget, {}, {}, 1.0 }
+    , widget_(widget)
     , locale_(&BuiltinLocale())
     , settings_(std::make_unique<QtSettings>())
 {
@@ -84,8 +91,11 @@ QtContainer::QtContainer(QFrame& widget)
     userLocale_ = MakeIcuLocale();
     locale_ = userLocale_.get();
 #endif
-    for (auto& child : children_)
-        child = std::make_unique<QtChildWindow>(widget_);
+    for (std::size_t child = 0; child < children_.size(); ++child)
+        children_[child] = MakeChild(static_cast<ChildName>(child));
+    Child(ChildName::picSplitCol).Move({ 0, 0, SplitHandleWidth, 0 });
+    QObject::connect(
+        &timer_, &QTimer::timeout, &timer_, [this] { setting_.grid.Tell([](Vornix& grid) { grid.Tick(); }); });
     ReadAmbient();
     FitToWidget();
     // The control needs a device from its first call on, long before the widget has its size.
@@ -97,17 +107,36 @@ QtContainer::QtContainer(QFrame& widget)
 
 QtContainer::~QtContainer() = default;
 
+std::unique_ptr<QtChildWindow> QtContainer::MakeChild(ChildName name)
+{
+    switch (name) {
+    case ChildName::scrV:
+    case ChildName::scrH:
+        return std::make_unique<QtScrollBar>(setting_, name);
+    case ChildName::picSplitCol:
+        return std::make_unique<QtCanvasWindow>(setting_, name, QtCanvasWindow::Pointer::Dragging);
+    case ChildName::picSplitMove:
+        return std::make_unique<QtCanvasWindow>(setting_, name, QtCanvasWindow::Pointer::Through);
+    case ChildName::cPivot:
+        return std::make_unique<QtChildWindow>(setting_, QPalette::Button);
+    default:
+        return std::make_unique<QtChildWindow>(setting_);
+    }
+}
+
 bool QtContainer::ReadAmbient()
 {
     const SystemColors colors = SystemColorsFrom(widget_.palette());
     FontPtr font = FontFrom(widget_.font(), widget_.logicalDpiY());
-    if (font_ && colors == colors_ && SameFont(*font, *font_))
+    if (font_ && colors == setting_.colors && SameFont(*font, *font_))
         return false;
-    colors_ = colors;
+    setting_.colors = colors;
     font_ = std::move(font);
+    for (const auto& child : children_)
+        child->FollowSetting();
     if (window_) {
-        window_->SetSystemColors(colors_);
-        window_->SetBkColor(colors_.values[SystemColor::Window]);
+        window_->SetSystemColors(setting_.colors);
+        window_->SetBkColor(setting_.colors.values[SystemColor::Window]);
     }
     return true;
 }
@@ -117,21 +146,25 @@ bool QtContainer::FitToWidget()
     const QSize client = widget_.contentsRect().size().expandedTo({ 0, 0 }).boundedTo({ LargestSize, LargestSize });
     const Size size { client.width(), client.height() };
     const double scale = widget_.devicePixelRatioF();
-    if (size == client_ && scale == scale_)
+    if (size == client_ && scale == setting_.scale)
         return false;
     client_ = size;
-    scale_ = scale;
-    for (const auto& child : children_)
+    const bool isRescaled = scale != setting_.scale;
+    setting_.scale = scale;
+    for (const auto& child : children_) {
         child->FollowParent();
+        if (isRescaled)
+            child->FollowSetting();
+    }
     return true;
 }
 
 std::unique_ptr<RasterSurface> QtContainer::MakeSurface(Size size) const
 {
-    auto surface = RasterSurface::Create(size, scale_, colors_);
+    auto surface = RasterSurface::Create(size, setting_.scale, setting_.colors);
     if (!surface)
         return nullptr;
-    const ColorRef ground = colors_.values[SystemColor::Window];
+    const ColorRef ground = setting_.colors.values[SystemColor::Window];
     surface->SetBkColor(ground);
     surface->FillRect({ 0, 0, size.width, size.height }, ground);
     return surface;
@@ -151,7 +184,7 @@ void QtContainer::UseSurface(std::unique_ptr<RasterSurface> surface)
 // short, the one that is there has to do.
 Surface* QtContainer::BackStore(Size size)
 {
-    const bool rescaled = window_->Scale() != scale_;
+    const bool rescaled = window_->Scale() != setting_.scale;
     const Size present = rescaled ? Size { 1, 1 } : window_->GetSize();
     const Size needed { std::max(size.width, present.width), std::max(size.height, present.height) };
     if (rescaled || needed != present) {
@@ -224,16 +257,27 @@ void QtContainer::SetPointerShape(PointerShape shape)
 
 PointerLocation QtContainer::LocatePointer() const
 {
-    const QPoint place = widget_.mapFromGlobal(QCursor::pos()) - widget_.contentsRect().topLeft();
+    const QPoint screenPlace = QCursor::pos();
+    const QPoint place = widget_.mapFromGlobal(screenPlace) - widget_.contentsRect().topLeft();
     PointerLocation location { PointerLocation::Window::Elsewhere, {}, { place.x(), place.y() } };
-    if (QApplication::widgetAt(QCursor::pos()) == &widget_)
+    const QWidget* const under = pointerLeft_ ? nullptr : QApplication::widgetAt(screenPlace);
+    if (!under)
+        return location;
+    if (under == &widget_)
         location.window = PointerLocation::Window::Control;
+    for (std::size_t child = 0; child < children_.size(); ++child) {
+        if (!children_[child]->Owns(*under))
+            continue;
+        location.window = PointerLocation::Window::Child;
+        location.child = static_cast<ChildName>(child);
+    }
     return location;
 }
 
 bool QtContainer::IsKeyDown(int code) const
 {
     const Qt::MouseButtons buttons = QGuiApplication::mouseButtons();
+    const Qt::KeyboardModifiers keys = QGuiApplication::keyboardModifiers();
     switch (code) {
     case LeftButton:
         return buttons.testFlag(Qt::LeftButton);
@@ -241,6 +285,12 @@ bool QtContainer::IsKeyDown(int code) const
         return buttons.testFlag(Qt::RightButton);
     case MiddleButton:
         return buttons.testFlag(Qt::MiddleButton);
+    case ShiftKey:
+        return keys.testFlag(Qt::ShiftModifier);
+    case CtrlKey:
+        return keys.testFlag(Qt::ControlModifier);
+    case AltKey:
+        return keys.testFlag(Qt::AltModifier);
     default:
         return false;
     }
@@ -258,6 +308,13 @@ void QtContainer::SetTimer(int interval, bool enabled)
 ChildWindow& QtContainer::Child(ChildName name)
 {
     return *children_[static_cast<std::size_t>(name)];
+}
+
+NativeScrollBar* QtContainer::ScrollBar(ChildName name)
+{
+    if (name != ChildName::scrV && name != ChildName::scrH)
+        return nullptr;
+    return static_cast<QtScrollBar*>(children_[static_cast<std::size_t>(name)].get());
 }
 
 std::u16string QtContainer::ClipboardText() const

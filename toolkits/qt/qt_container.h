@@ -2,6 +2,7 @@
 #pragma once
 
 #include "qt_child_window.h"
+#include "qt_setting.h"
 #include "vornix/platform/container.h"
 #include "vornix/raster_surface.h"
 
@@ -19,6 +20,12 @@ public:
     explicit QtContainer(QFrame& widget);
     ~QtContainer() override;
 
+    // The control that hears of timer, bars and children; null again before it ends.
+    void Attach(Vornix* grid) { setting_.grid.Attach(grid); }
+    QtSetting& Setting() { return setting_; }
+    // Whether Qt has told that the pointer is somewhere else.
+    void SetPointerLeft(bool left) { pointerLeft_ = left; }
+
     // The picture to show: device pixels, as large as the largest client area so far, and how many of them are one
     // logical pixel.
     const QImage& Picture() const { return picture_; }
@@ -33,7 +40,7 @@ public:
 
     bool UserMode() const override { return true; }
     FontPtr AmbientFont() const override { return font_; }
-    const SystemColors& Colors() const override { return colors_; }
+    const SystemColors& Colors() const override { return setting_.colors; }
     const Locale& GetLocale() const override { return *locale_; }
     Size ScreenSizeInTwips() const override;
     Size TwipsPerPixel() const override;
@@ -49,6 +56,7 @@ public:
     bool IsKeyDown(int code) const override;
     void SetTimer(int interval, bool enabled) override;
     ChildWindow& Child(ChildName name) override;
+    NativeScrollBar* ScrollBar(ChildName name) override;
     void PropertyChanged(std::string_view) override { }
     SettingsStore& Settings() override { return *settings_; }
     std::u16string ClipboardText() const override;
@@ -56,21 +64,23 @@ public:
     void ShowMessage(std::u16string_view title, std::u16string_view text, MessageIcon icon) override;
 
 private:
+    std::unique_ptr<QtChildWindow> MakeChild(ChildName name);
     std::unique_ptr<RasterSurface> MakeSurface(Size size) const;
     void UseSurface(std::unique_ptr<RasterSurface> surface);
 
+    QtSetting setting_;
     QFrame& widget_;
     FontPtr font_;
-    SystemColors colors_;
     std::unique_ptr<Locale> userLocale_;
     const Locale* locale_;
     Size client_;
-    double scale_ = 1.0;
     u32 extendedStyle_ = 0;
     PointerShape pointer_ = PointerShape::Default;
+    bool pointerLeft_ = false;
     std::unique_ptr<RasterSurface> window_;
     QImage picture_;
     QTimer timer_;
+    // By their names in ChildName.
     std::array<std::unique_ptr<QtChildWindow>, 8> children_;
     std::unique_ptr<SettingsStore> settings_;
 };

@@ -2,12 +2,19 @@
 
 #include "picture_painter.h"
 #include "qt_container.h"
+#include "qt_keyboard.h"
+#include "qt_pointer.h"
+#include "qt_wheel.h"
 
 #include <QApplication>
+#include <QEnterEvent>
 #include <QEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPaintEvent>
 #include <QScopedValueRollback>
+#include <QWheelEvent>
 
 namespace vornix {
 
@@ -27,6 +34,17 @@ VornixEvents& NoEvents()
     return events;
 }
 
+bool IsForward(const QKeyEvent& event)
+{
+    return event.key() == Qt::Key_Tab && !event.modifiers().testFlag(Qt::ShiftModifier);
+}
+
+bool MovesFocus(const QKeyEvent& event)
+{
+    const bool isTab = event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab;
+    return isTab && !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier));
+}
+
 } // namespace
 
 QVornix::QVornix(QWidget* parent)
@@ -38,7 +56,12 @@ QVornix::QVornix(VornixEvents& events, QWidget* parent)
     : QFrame(parent)
     , container_(std::make_unique<QtContainer>(*this))
     , grid_(std::make_unique<Vornix>(*container_, events))
+    , pointer_(std::make_unique<QtPointer>(container_->Setting()))
+    , wheel_(std::make_unique<QtWheel>(container_->Setting(), *container_))
+    , keyboard_(std::make_unique<QtKeyboard>(container_->Setting()))
 {
+    container_->Attach(grid_.get());
+    setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     // Every pixel of the client area comes from the grid's picture, and the frame is filled before it is drawn.
@@ -52,6 +75,7 @@ QVornix::~QVornix()
     Q_ASSERT_X(!grid_->IsInCall(), "QVornix", "deleted inside one of its own events; use deleteLater()");
     container_->OnPictureChanged = nullptr;
     grid_->Terminate();
+    container_->Attach(nullptr);
 }
 
 Vornix& QVornix::Grid()
@@ -84,16 +108,10 @@ QRect QVornix::Client() const
     return contentsRect();
 }
 
-// News from Qt. A grid that is closed, or not yet made, hears nothing; above Qt nobody could take an error.
 template <typename Step> void QVornix::TellGrid(const Step& step)
 {
-    if (!grid_ || grid_->IsTerminated())
-        return;
-    try {
-        step(*grid_);
-    } catch (const AutomationError& error) {
-        qWarning("QVornix: error %d, %s", error.Number(), error.what());
-    }
+    if (container_)
+        container_->Setting().grid.Tell(step);
 }
 
 void QVornix::FollowWidget()
@@ -111,6 +129,10 @@ void QVornix::UpdatePart(const QRect& area)
 
 bool QVornix::event(QEvent* event)
 {
+    if (event->type() == QEvent::KeyPress && MovesFocus(static_cast<QKeyEvent&>(*event))) {
+        PressTab(static_cast<QKeyEvent&>(*event));
+        return true;
+    }
     const bool handled = QFrame::event(event);
     switch (event->type()) {
     case QEvent::ContentsRectChange:
@@ -187,6 +209,8 @@ void QVornix::changeEvent(QEvent* event)
 void QVornix::focusInEvent(QFocusEvent*)
 {
     TellGrid([](Vornix& grid) { grid.EnterFocus(); });
+    // It is the corner that has the focus for the grid.
+    TellGrid([](Vornix& grid) { grid.EnterChildFocus(ChildName::cPivot); });
 }
 
 void QVornix::focusOutEvent(QFocusEvent* event)
@@ -195,6 +219,65 @@ void QVornix::focusOutEvent(QFocusEvent* event)
     const bool stays = event->reason() == Qt::PopupFocusReason || isAncestorOf(QApplication::focusWidget());
     if (!stays)
         TellGrid([](Vornix& grid) { grid.ExitFocus(); });
+}
+
+void QVornix::enterEvent(QEnterEvent* event)
+{
+    QFrame::enterEvent(event);
+    container_->SetPointerLeft(false);
+}
+
+// Hovering ends at once, not with the next look for the pointer.
+void QVornix::leaveEvent(QEvent* event)
+{
+    QFrame::leaveEvent(event);
+    container_->SetPointerLeft(true);
+    TellGrid([](Vornix& grid) { grid.Tick(); });
+}
+
+void QVornix::mousePressEvent(QMouseEvent* event)
+{
+    pointer_->Press(*event);
+}
+
+void QVornix::mouseMoveEvent(QMouseEvent* event)
+{
+    pointer_->Move(*event);
+}
+
+void QVornix::mouseReleaseEvent(QMouseEvent* event)
+{
+    pointer_->Release(*event);
+}
+
+void QVornix::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    pointer_->DoubleClick(*event);
+}
+
+void QVornix::wheelEvent(QWheelEvent* event)
+{
+    wheel_->Turn(*event);
+}
+
+void QVornix::keyPressEvent(QKeyEvent* event)
+{
+    keyboard_->Press(*event);
+}
+
+void QVornix::keyReleaseEvent(QKeyEvent* event)
+{
+    keyboard_->Release(*event);
+}
+
+// Qt would move the focus before anybody hears of the key.
+void QVornix::PressTab(QKeyEvent& event)
+{
+    const bool hadFocus = hasFocus();
+    keyboard_->Press(event);
+    const bool isMine = hadFocus && hasFocus();
+    if (!event.isAccepted() && isMine && focusNextPrevChild(IsForward(event)))
+        event.accept();
 }
 
 } // namespace vornix

@@ -13,6 +13,9 @@ class QPainter;
 namespace vornix {
 
 class QtContainer;
+class QtKeyboard;
+class QtPointer;
+class QtWheel;
 
 // Shows one grid. The widget's palette and font are the grid's system colours and ambient font when it is made and
 // whenever they change; its border is the grid's BorderStyle; the picture is drawn at the screen's own resolution.
@@ -20,6 +23,9 @@ class QtContainer;
 //     QVornix table;
 //     table.Grid().SetRows(100);
 //     table.show();
+//
+// Pointer, wheel and keys are the grid's. Keys that neither the grid nor a handler uses go on to the form; Tab moves the
+// focus unless a handler of KeyDown sets its code to 0. The context menu is left to the host.
 //
 // Inside an event of the grid the widget is deleted by deleteLater() only; Grid().Terminate() closes the grid at once
 // and leaves a widget that shows its last picture.
@@ -52,9 +58,19 @@ protected:
     void changeEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
 
 private:
     template <typename Step> void TellGrid(const Step& step);
+    void PressTab(QKeyEvent& event);
     void FollowWidget();
     QRect Client() const;
     void UpdatePart(const QRect& area);
@@ -63,6 +79,9 @@ private:
 
     std::unique_ptr<QtContainer> container_;
     std::unique_ptr<Vornix> grid_;
+    std::unique_ptr<QtPointer> pointer_;
+    std::unique_ptr<QtWheel> wheel_;
+    std::unique_ptr<QtKeyboard> keyboard_;
     bool painting_ = false;
 };
 

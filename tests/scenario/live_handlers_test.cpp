@@ -1,0 +1,311 @@
+// Handlers that do anything at all, at every event that a person's input raises: mouse, bars, wheel, keys, sizing and
+// split. Whatever comes out is a grid that still holds together, or an automation error.
+#include "vornix/event_funnel.h"
+#include "vornix/headless_container.h"
+#include "vornix/members.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace vornix {
+namespace {
+
+// Calls one function for every event.
+class EveryEvent : public EventFunnel<EveryEvent> {
+public:
+    std::function<void(std::string_view name)> Then = [](std::string_view) {};
+
+private:
+    friend EventFunnel<EveryEvent>;
+    template <typename Event, typename... Arguments> void On(int number, Event, Arguments&...)
+    {
+        Then(vornix::Events()[static_cast<std::size_t>(number) - 1].name);
+    }
+};
+
+struct Deed {
+    const char* name;
+    std::function<void(HeadlessContainer&)> act;
+};
+
+// By the name of a member, through the table that scripts use.
+void Set(HeadlessContainer& host, std::string_view member, const Variant& value)
+{
+    std::vector<Variant> arguments { value };
+    host.Grid().Invoke(member, InvokeKind::Let, arguments);
+}
+
+const std::vector<Deed>& Deeds()
+{
+    static const std::vector<Deed> deeds {
+        { "closes the control", [](HeadlessContainer& host) { host.Close(); } },
+        { "takes all rows", [](HeadlessContainer& host) { host.Grid().SetRows(0); } },
+        { "takes all columns", [](HeadlessContainer& host) { host.Grid().SetCols(0); } },
+        { "leaves one cell",
+            [](HeadlessContainer& host) {
+                host.Grid().SetRows(1);
+                host.Grid().SetCols(1);
+            } },
+        { "takes the fixed lines",
+            [](HeadlessContainer& host) {
+                host.Grid().SetFixedRows(0);
+                host.Grid().SetFixedCols(0);
+            } },
+        { "adds fixed lines",
+            [](HeadlessContainer& host) {
+                host.Grid().SetFixedRows(4);
+                host.Grid().SetFixedCols(3);
+            } },
+        { "adds lines",
+            [](HeadlessContainer& host) {
+                host.Grid().SetRows(400);
+                host.Grid().SetCols(40);
+            } },
+        { "moves the current cell", [](HeadlessContainer& host) { host.Grid().CurrentPos(7, 3); } },
+        { "moves it to a fixed one", [](HeadlessContainer& host) { host.Grid().CurrentPos(-1, -1); } },
+        { "hides rows", [](HeadlessContainer& host) { host.Grid().HideRow(0, host.Grid().Rows()); } },
+        { "hides columns", [](HeadlessContainer& host) { host.Grid().HideCol(0, host.Grid().Cols()); } },
+        { "gives lines no size",
+            [](HeadlessContainer& host) {
+                host.Grid().SetRowHeight(1, 0);
+                host.Grid().SetColWidth(1, 0);
+            } },
+        { "makes lines large",
+            [](HeadlessContainer& host) {
+                host.Grid().SetRowHeight(0, 9000);
+                host.Grid().SetColWidth(0, 9000);
+            } },
+        { "merges cells",
+            [](HeadlessContainer& host) {
+                host.Grid().SetRowSpan(0, 0, 6);
+                host.Grid().SetColSpan(0, 0, 4);
+            } },
+        { "moves a column", [](HeadlessContainer& host) { host.Grid().ReOrderCols(); } },
+        { "scrolls",
+            [](HeadlessContainer& host) {
+                host.Grid().SetFirstRow(20);
+                host.Grid().SetFirstCol(5);
+            } },
+        { "changes the bars",
+            [](HeadlessContainer& host) {
+                host.Grid().SetScrollHBar(vxNormalScroll);
+                host.Grid().SetScrollVBar(vxNormalScroll);
+            } },
+        { "takes the bars",
+            [](HeadlessContainer& host) {
+                host.Grid().SetScrollHBar(vxNoScrollBar);
+                host.Grid().SetScrollVBar(vxNoScrollBar);
+            } },
+        { "splits",
+            [](HeadlessContainer& host) {
+                host.Grid().SetShowSplit(true);
+                host.Grid().SetSplitCols(1);
+            } },
+        { "takes the split", [](HeadlessContainer& host) { host.Grid().SetShowSplit(!host.Grid().ShowSplit()); } },
+        { "shows the title", [](HeadlessContainer& host) { host.Grid().SetCaptionEnabled(true); } },
+        { "switches Redraw", [](HeadlessContainer& host) { host.Grid().SetRedraw(!host.Grid().Redraw()); } },
+        { "disables the control", [](HeadlessContainer& host) { Set(host, "Enabled", Variant(false)); } },
+        { "resizes", [](HeadlessContainer& host) { host.Resize(60, 40); } },
+        { "makes the window nothing", [](HeadlessContainer& host) { host.Resize(0, 0); } },
+        { "hides the control", [](HeadlessContainer& host) { host.Hide(); } },
+        { "selects", [](HeadlessContainer& host) { host.Grid().SetRowsSelected(0, 20, true); } },
+        { "selects nothing", [](HeadlessContainer& host) { host.Grid().SetColSelected(0, false); } },
+        { "presses elsewhere", [](HeadlessContainer& host) { host.MouseDown(60, 60); } },
+        { "lets go", [](HeadlessContainer& host) { host.MouseUp(100, 60); } },
+        { "moves the pointer away", [](HeadlessContainer& host) { host.MouseMove(-50, 300, 1); } },
+        { "clicks", [](HeadlessContainer& host) { host.ClickAt(100, 60); } },
+        { "presses a key", [](HeadlessContainer& host) { host.KeyDown(40); } },
+        { "ticks", [](HeadlessContainer& host) { host.Tick(); } },
+        { "makes the table anew", [](HeadlessContainer& host) { host.Grid().ReadProperties(MemoryBag()); } },
+        { "fails", [](HeadlessContainer& host) { host.Grid().SetText(-32768, -32768, u""); } },
+    };
+    return deeds;
+}
+
+// A deed at the first time that an event is raised, over all that a person can do.
+class LiveHandlers : public testing::Test {
+protected:
+    void MakeGrid()
+    {
+        events.Then = [](std::string_view) {};
+        host = nullptr;
+        HeadlessOptions options;
+        options.width = 240;
+        options.height = 140;
+        options.events = &events;
+        host = std::make_unique<HeadlessContainer>(options);
+        Vornix& grid = host->Grid();
+        grid.SetRedraw(false);
+        grid.SetFixedRows(1);
+        grid.SetFixedCols(1);
+        grid.SetRows(60);
+        grid.SetCols(10);
+        for (i16 Col = 0; Col < 10; ++Col)
+            grid.SetColWidth(Col, 40);
+        grid.SetCellSelection(true);
+        grid.SetColMode(1, vxCommandButton);
+        grid.SetColMode(2, vxPressButton);
+        grid.SetColMode(3, vxCheckBox);
+        grid.SetShowSplit(true);
+        grid.SetScrollVBar(vxScrollTrack);
+        grid.SetCellStyle(1, 0, vxCustomDraw);
+        grid.SetCellStyle(-1, 0, vxCustomDraw);
+        grid.SetRedraw(true);
+        grid.CurrentPos(3, 0);
+    }
+
+    static void Try(const std::function<void()>& step)
+    {
+        try {
+            step();
+        } catch (const AutomationError&) {
+        }
+    }
+
+    // Each step alone: an error ends that step only.
+    void LiveThroughIt()
+    {
+        const std::vector<std::function<void()>> steps {
+            [&] { host->ClickAt(50, 50); },
+            [&] { host->DblClickAt(90, 70); },
+            [&] { host->ClickAt(130, 50); },
+            [&] { host->ClickAt(170, 50); },
+            [&] { host->ClickAt(10, 50); },
+            [&] { host->ClickAt(10, 90, 1, 2); },
+            [&] { host->ClickAt(90, 10, 1, 1); },
+            [&] { host->ClickAt(90, 90, 2); },
+            [&] { host->Drag(50, 50, 130, 90, 1, 0, 3); },
+            [&] { host->Drag(50, 50, 300, 200, 1, 0, 4); },
+            [&] { host->Drag(90, 90, -30, -20, 1, 0, 4); },
+            [&] { host->Drag(70, 10, 90, 10, 1, 0, 3); },
+            [&] { host->Drag(70, 10, 0, 10, 1, 0, 3); },
+            [&] { host->Drag(10, 41, 10, 70, 1, 0, 3); },
+            [&] { DragSplit(); },
+            [&] { host->Wheel(-240); },
+            [&] { host->Wheel(120); },
+            [&] {
+                Notify(ChildName::scrV, { 1, 3, 5, 4, 8, 0, 2 });
+            },
+            [&] {
+                Notify(ChildName::scrH, { 1, 3, 5, 4, 8, 0, 2 });
+            },
+            [&] { Grid().SetScrollVBar(vxNormalScroll); },
+            [&] { Grid().SetScrollHBar(vxNormalScroll); },
+            [&] {
+                Notify(ChildName::scrV, { 5, 4, 8 });
+            },
+            [&] {
+                Notify(ChildName::scrH, { 5, 4, 8 });
+            },
+            [&] {
+                Keys({ 37, 38, 39, 40, 40, 34, 33, 36, 35, 32 });
+            },
+            [&] { host->KeyDown(40, 1); },
+            [&] { host->KeyDown(36, 2); },
+            [&] { host->MouseMove(100, 60); },
+            [&] { host->Tick(); },
+            [&] { host->Paint(); },
+        };
+        for (const auto& step : steps) {
+            if (!Grid().IsTerminated())
+                Try(step);
+            if (!Grid().IsTerminated())
+                CheckWhole();
+        }
+    }
+
+    void DragSplit()
+    {
+        const Rect handle = host->Child(ChildName::picSplitCol).Place();
+        if (!host->Child(ChildName::picSplitCol).IsVisible())
+            return;
+        Grid().ChildMouseDown(ChildName::picSplitCol, 1, 1, 1);
+        Grid().ChildMouseMove(ChildName::picSplitCol, static_cast<float>(60 - handle.left), 1);
+        Grid().ChildMouseUp(ChildName::picSplitCol, 1, static_cast<float>(60 - handle.left), 1);
+    }
+
+    void Notify(ChildName bar, std::initializer_list<i32> codes)
+    {
+        HeadlessScrollBar& child = bar == ChildName::scrV ? host->VerticalBar() : host->HorizontalBar();
+        for (const i32 code : codes) {
+            if (!Grid().IsTerminated())
+                child.Notify(code, 5);
+        }
+    }
+
+    void Keys(std::initializer_list<i16> codes)
+    {
+        for (const i16 code : codes) {
+            if (!Grid().IsTerminated())
+                host->KeyDown(code);
+        }
+    }
+
+    // What holds whatever was done.
+    void CheckWhole()
+    {
+        Vornix& grid = Grid();
+        EXPECT_FALSE(grid.IsInCall());
+        const i32 Row = grid.CurrentRow();
+        const i16 Col = grid.CurrentCol();
+        if (Row != -32767) {
+            EXPECT_TRUE(Row >= -grid.FixedRows() && Row < grid.Rows()) << Row;
+            EXPECT_TRUE(Col >= -grid.FixedCols() && Col < grid.Cols()) << Col;
+        }
+        EXPECT_GE(grid.FirstRow(), 0);
+        EXPECT_GE(grid.FirstCol(), 0);
+        EXPECT_GE(grid.SplitCols(), 0);
+        EXPECT_LE(grid.SplitCols(), grid.Cols());
+        if (grid.Redraw())
+            Try([&] { grid.Refresh(); });
+    }
+
+    Vornix& Grid() { return host->Grid(); }
+
+    EveryEvent events;
+    std::unique_ptr<HeadlessContainer> host;
+};
+
+// Without deeds all of them are raised at least once.
+TEST_F(LiveHandlers, AreReachedByAllEventsOfInput)
+{
+    MakeGrid();
+    LiveThroughIt();
+    for (const char* const event : { "CellChange", "CellClick", "CellDblClick", "CellDown", "CellOut", "CellOver",
+             "CellUp", "Click", "DblClick", "DrawCell", "KeyDown", "MouseDown", "MouseMove", "MouseUp", "ResizeCol",
+             "ResizeRow", "Scroll", "ScrollTrackCol", "ScrollTrackRow", "SplitCols", "TextChange", "ValidateRow" })
+        EXPECT_GT(host->Count(event), 0) << event;
+}
+
+class LiveHandlersOf : public LiveHandlers, public testing::WithParamInterface<const char*> { };
+
+TEST_P(LiveHandlersOf, MayDoAnything)
+{
+    const std::string_view event = GetParam();
+    for (const int time : { 1, 3 }) {
+        for (const Deed& deed : Deeds()) {
+            SCOPED_TRACE(deed.name);
+            MakeGrid();
+            int times = 0;
+            events.Then = [&](std::string_view name) {
+                if (name == event && ++times == time)
+                    deed.act(*host);
+            };
+            LiveThroughIt();
+            EXPECT_GE(times, 1);
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Input, LiveHandlersOf,
+    testing::Values("CellChange", "CellClick", "CellDblClick", "CellDown", "CellOut", "CellOver", "CellUp", "Click",
+        "DblClick", "DrawCell", "KeyDown", "MouseDown", "MouseMove", "MouseUp", "ResizeCol", "ResizeRow", "Scroll",
+        "ScrollTrackCol", "ScrollTrackRow", "SplitCols", "TextChange", "ValidateRow"),
+    [](const auto& event) { return std::string(event.param); });
+
+} // namespace
+} // namespace vornix

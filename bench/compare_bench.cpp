@@ -1,126 +1,19 @@
-// The grid beside QTableWidget, in one process, on 30,000 rows by 33 columns of distinct short texts. Both are shown on
-// Qt's raster engine in a window of 1920 by 1080. bench/ratios.py makes ratios of the times.
-#include "vornix/qvornix.h"
-
-#include <benchmark/benchmark.h>
-
-#include <QApplication>
-#include <QHeaderView>
-#include <QTableWidget>
+// Filling and painting the grid beside QTableWidget, in one process, on 30,000 rows by 33 columns of distinct short
+// texts. Both are shown on Qt's raster engine in a window of 1920 by 1080. bench/ratios.py makes ratios of the times.
+#include "compare_tables.h"
 
 #include <malloc.h>
 
 #include <cstring>
-#include <memory>
-#include <string>
-#include <vector>
 
 namespace {
 
-constexpr int Rows = 30000;
-constexpr int Cols = 33;
-constexpr int RowHeight = 21;
-constexpr int ColumnWidth = 120;
-constexpr int WindowWidth = 1920;
-constexpr int WindowHeight = 1080;
-
-std::string TextOf(int row, int col)
-{
-    return "R" + std::to_string(row) + "C" + std::to_string(col);
-}
-
-// Made before any clock runs, in the form each side takes.
-const std::vector<std::u16string>& GridTexts()
-{
-    static const std::vector<std::u16string> texts = [] {
-        std::vector<std::u16string> made;
-        made.reserve(std::size_t { Rows } * Cols);
-        for (int row = 0; row < Rows; ++row) {
-            for (int col = 0; col < Cols; ++col) {
-                const std::string text = TextOf(row, col);
-                made.emplace_back(text.begin(), text.end());
-            }
-        }
-        return made;
-    }();
-    return texts;
-}
+using namespace compare;
 
 std::size_t HeapInUse()
 {
     const struct mallinfo2 info = mallinfo2();
     return info.uordblks + info.hblkhd;
-}
-
-// The grid's sizes, so that both show the same cells.
-std::unique_ptr<QTableWidget> EmptyTable()
-{
-    auto table = std::make_unique<QTableWidget>();
-    table->verticalHeader()->setDefaultSectionSize(RowHeight);
-    table->horizontalHeader()->setDefaultSectionSize(ColumnWidth);
-    return table;
-}
-
-void Fill(QTableWidget& table)
-{
-    const std::vector<std::u16string>& texts = GridTexts();
-    table.setRowCount(Rows);
-    table.setColumnCount(Cols);
-    for (int row = 0; row < Rows; ++row)
-        for (int col = 0; col < Cols; ++col)
-            table.setItem(
-                row, col, new QTableWidgetItem(QString::fromStdU16String(texts[std::size_t(row * Cols + col)])));
-}
-
-void Fill(vornix::Vornix& grid)
-{
-    const std::vector<std::u16string>& texts = GridTexts();
-    grid.SetRedraw(false);
-    grid.SetRows(Rows);
-    grid.SetCols(Cols);
-    for (int row = 0; row < Rows; ++row)
-        for (int col = 0; col < Cols; ++col)
-            grid.SetText(vornix::i16(row), vornix::i16(col), texts[std::size_t(row * Cols + col)]);
-    grid.SetRedraw(true);
-}
-
-std::unique_ptr<vornix::QVornix> FilledGrid()
-{
-    auto widget = std::make_unique<vornix::QVornix>();
-    widget->Grid().SetFixedRows(1);
-    widget->Grid().SetFixedCols(1);
-    Fill(widget->Grid());
-    return widget;
-}
-
-// As large as the window, painted once, so that no later frame pays for a first one.
-template <class Widget> Widget& Shown(Widget& widget)
-{
-    widget.resize(WindowWidth, WindowHeight);
-    widget.show();
-    QApplication::processEvents();
-    widget.repaint();
-    return widget;
-}
-
-// One of each for all benchmarks of painting; gone before the application is.
-std::unique_ptr<QTableWidget> sharedTable;
-std::unique_ptr<vornix::QVornix> sharedGrid;
-
-QTableWidget& ShownTable()
-{
-    if (!sharedTable) {
-        sharedTable = EmptyTable();
-        Fill(*sharedTable);
-    }
-    return Shown(*sharedTable);
-}
-
-vornix::QVornix& ShownGrid()
-{
-    if (!sharedGrid)
-        sharedGrid = FilledGrid();
-    return Shown(*sharedGrid);
 }
 
 void TableFill(benchmark::State& state)
@@ -144,7 +37,7 @@ void GridFill(benchmark::State& state)
     GridTexts();
     for (auto _ : state) {
         state.PauseTiming();
-        auto widget = std::make_unique<vornix::QVornix>();
+        auto widget = std::make_unique<QVornix>();
         const std::size_t before = HeapInUse();
         state.ResumeTiming();
         Fill(widget->Grid());
@@ -164,7 +57,7 @@ void TableRepaint(benchmark::State& state)
 
 void GridRepaint(benchmark::State& state)
 {
-    vornix::QVornix& widget = ShownGrid();
+    QVornix& widget = ShownGrid();
     for (auto _ : state) {
         widget.Grid().Refresh();
         widget.repaint();
@@ -189,7 +82,8 @@ void TableFreshPage(benchmark::State& state)
 void GridFreshPage(benchmark::State& state)
 {
     const auto widget = FilledGrid();
-    vornix::Vornix& grid = Shown(*widget).Grid();
+    ShowInWindow(*widget);
+    vornix::Vornix& grid = widget->Grid();
     const int page = WindowHeight / RowHeight;
     int first = 0;
     for (auto _ : state) {
@@ -247,16 +141,3 @@ BENCHMARK(GridColBackColor)->Name("Vornix/col_back_color")->Unit(benchmark::kMil
 BENCHMARK(FrameCopy)->Name("frame_copy")->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char** argv)
-{
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv))
-        return 1;
-    benchmark::RunSpecifiedBenchmarks();
-    sharedTable.reset();
-    sharedGrid.reset();
-    benchmark::Shutdown();
-    return 0;
-}

@@ -11,13 +11,30 @@ import sys
 
 TO_MILLISECONDS = {"ns": 1e-6, "us": 1e-3, "ms": 1.0, "s": 1e3}
 
+
+def beside(time, name):
+    """How many times longer the table takes than the grid."""
+    return time["QTableWidget/" + name] / time["Vornix/" + name]
+
+
 # By name, from the benchmarks' times in milliseconds and their counters.
 FIGURES = {
-    "fill_ratio": lambda time, _: time["QTableWidget/fill"] / time["Vornix/fill"],
+    "fill_ratio": lambda time, _: beside(time, "fill"),
     "bytes_per_cell": lambda _, counter: counter["Vornix/fill"]["bytes_per_cell"],
-    "repaint_ratio": lambda time, _: time["QTableWidget/repaint"] / time["Vornix/repaint"],
-    "fresh_page_ratio": lambda time, _: time["QTableWidget/fresh_page"] / time["Vornix/fresh_page"],
+    "repaint_ratio": lambda time, _: beside(time, "repaint"),
+    "fresh_page_ratio": lambda time, _: beside(time, "fresh_page"),
     "col_back_color_ms": lambda time, _: time["Vornix/col_back_color"],
+    "scroll_row_ratio": lambda time, _: beside(time, "scroll_row"),
+    "scroll_page_ratio": lambda time, _: beside(time, "scroll_page"),
+    "smooth_step_ratio": lambda time, _: beside(time, "smooth_step"),
+    "drag_select_ratio": lambda time, _: beside(time, "drag_select"),
+    "scroll_row_update_ratio": lambda time, _: beside(time, "scroll_row_update"),
+    "scroll_page_update_ratio": lambda time, _: beside(time, "scroll_page_update"),
+    "smooth_step_update_ratio": lambda time, _: beside(time, "smooth_step_update"),
+    "drag_select_update_ratio": lambda time, _: beside(time, "drag_select_update"),
+    "select_all_ratio": lambda time, _: time["Vornix/select_all_rows"] / time["Vornix/select_one_row"],
+    "hit_test_us": lambda time, _: time["Vornix/hit_test"] / TO_MILLISECONDS["us"],
+    "cell_origin_us": lambda time, _: time["Vornix/cell_origin"] / TO_MILLISECONDS["us"],
     "frame_copy_ratio": lambda time, _: time["Vornix/repaint"] / time["frame_copy"],
     "late_bound_get_per_s": lambda _, counter: counter["C/late_bound_get"]["items_per_second"],
     "late_bound_get_by_name_per_s": lambda _, counter: counter["C/late_bound_get_by_name"]["items_per_second"],

@@ -66,6 +66,19 @@ void CloseOn(QKeySequence::StandardKey key, QWidget& window)
     QObject::connect(shortcut, &QShortcut::activated, &window, &QWidget::close);
 }
 
+// What a picture has no use for.
+void GiveToUser(Vornix& grid)
+{
+    grid.SetRedraw(false);
+    grid.SetScrollHBar(vxScrollTrack);
+    grid.SetScrollVBar(vxScrollTrack);
+    grid.SetCellSelection(true);
+    grid.SetSelectMode(vxBoth);
+    grid.SetResizeMode(vxBoth);
+    grid.SetShowSplit(true);
+    grid.SetRedraw(true);
+}
+
 } // namespace
 
 int ShowWindow(const Table& table, const ViewerOptions& options, const std::function<int()>& withoutDisplay)
@@ -85,8 +98,7 @@ int ShowWindow(const Table& table, const ViewerOptions& options, const std::func
     CloseOn(QKeySequence::Close, window);
 
     PresentTable(grid->Grid(), grid->MeasuringDevice(), grid->Colors(), table);
-    grid->Grid().SetScrollHBar(vxScrollTrack);
-    grid->Grid().SetScrollVBar(vxScrollTrack);
+    GiveToUser(grid->Grid());
     window.show();
     return QApplication::exec();
 }

@@ -105,10 +105,10 @@ public:
     // and raise Scroll, ScrollTrackRow or ScrollTrackCol.
     void ScrollBarNotify(ChildName Bar, i32 Code);
     void MouseWheel(i32 Delta);
-    // The same for one of the bars, whichever the wheel turns for itself; positive toward the start of the table. Then
-    // so many of a bar's own steps at once, as fingers move it on a touchpad: lines, in smooth mode pixels; positive
-    // toward the end.
+    // A wheel for one of the bars, scrV or scrH: positive toward the start of the table.
     void MouseWheel(ChildName Bar, i32 Delta);
+    // So many of the bar's steps at once, as fingers move it on a touchpad: lines, or pixels in smooth mode. Positive
+    // toward the end of the table. Raises Scroll as the wheel does.
     void MoveScrollBar(ChildName Bar, i32 Steps);
     // The interval of the timer has passed (Container::SetTimer).
     void Tick();

@@ -123,8 +123,11 @@ bool Vornix::NextSelectedCols(i16& Col1, i16& Col2)
     const auto cols = control->selection.NextCols();
     if (!cols)
         return false;
-    Col1 = control->PublicCol(cols->first);
-    Col2 = control->PublicCol(cols->last);
+    const i16 first = control->PublicCol(cols->first);
+    const i16 last = control->PublicCol(cols->last);
+    control->selection.AdvanceWalk();
+    Col1 = first;
+    Col2 = last;
     return true;
 }
 
@@ -134,8 +137,11 @@ bool Vornix::NextSelectedRows(i16& Row1, i16& Row2)
     const auto rows = control->selection.NextRows();
     if (!rows)
         return false;
-    Row1 = control->PublicRow(rows->first);
-    Row2 = control->PublicRow(rows->last);
+    const i16 first = control->PublicRow(rows->first);
+    const i16 last = control->PublicRow(rows->last);
+    control->selection.AdvanceWalk();
+    Row1 = first;
+    Row2 = last;
     return true;
 }
 

@@ -46,18 +46,32 @@ void CurrentCellMover::Take(CellIndex cell)
     context_.current.CursorPosition = AddI32(context_.page.Offset(), cell.row);
 }
 
-CurrentCellMover::Answer CurrentCellMover::AskHost(CellIndex target)
+void CurrentCellMover::TakeCol(int col)
 {
-    if (!IsReal(target))
+    context_.current.Set(context_.current.Row(), col);
+}
+
+CellIndex CurrentCellMover::PublicPlaceOf(CellIndex cell) const
+{
+    return { cell.row - context_.store.FixedRows(), cell.col - context_.store.FixedCols() };
+}
+
+bool CurrentCellMover::IsStill(CellIndex cell, CellIndex chosenAs) const
+{
+    return IsReal(cell) && PublicPlaceOf(cell) == chosenAs;
+}
+
+CurrentCellMover::Answer CurrentCellMover::AskHost(CellIndex target, CellIndex chosenAs)
+{
+    if (!IsStill(target, chosenAs))
         return Answer::Gone;
     bool isCanceled = false;
-    context_.events.CellChange(
-        ToI16(target.row - context_.store.FixedRows()), ToI16(target.col - context_.store.FixedCols()), isCanceled);
+    context_.events.CellChange(ToI16(chosenAs.row), ToI16(chosenAs.col), isCanceled);
     if (isCanceled)
         return Answer::Refused;
     if (context_.current.HostMovedCurrent)
         return Answer::MovedByHost;
-    return IsReal(target) ? Answer::Take : Answer::Gone;
+    return IsStill(target, chosenAs) ? Answer::Take : Answer::Gone;
 }
 
 void CurrentCellMover::RepaintUnmarked()
@@ -92,9 +106,8 @@ void CurrentCellMover::BeginWrite()
     RepaintUnmarked();
 }
 
-void CurrentCellMover::EndWrite(CellIndex cell)
+void CurrentCellMover::EndWrite()
 {
-    Take(context_.spans.ParentOf(cell.row, cell.col));
     BringIntoView();
     Repaint();
     context_.current.HostMovedCurrent = true;
@@ -123,7 +136,21 @@ void CurrentCellMover::WriteCol(int Col)
             return;
         target = beside;
     }
-    EndWrite(target);
+    const CellIndex cell = context_.spans.ParentOf(target.row, target.col);
+    if (HasCurrent() && cell.row == current.Row())
+        TakeCol(cell.col);
+    else
+        Take(cell);
+    EndWrite();
+}
+
+bool CurrentCellMover::GotoListPosition(i32 position)
+{
+    // The page is found by a current cell that is not fixed.
+    if (!HasCurrent())
+        Take({ context_.store.FixedRows(), context_.store.FixedCols() });
+    context_.page.GotoListPosition(position);
+    return HasCurrent();
 }
 
 void CurrentCellMover::WriteRow(i32 Row)
@@ -135,25 +162,28 @@ void CurrentCellMover::WriteRow(i32 Row)
         return;
     if (!HasCurrent() && store.Cols() < 1)
         return;
-    const int rowBefore = current.Row();
-    CellIndex target { Row + store.FixedRows(), HasCurrent() ? current.Col() : store.FixedCols() };
-    if (context_.page.PageSize() > 0) {
-        // The page is found by a current cell that is not fixed.
-        if (!HasCurrent())
-            Take({ store.FixedRows(), target.col });
-        context_.page.GotoListPosition(Row);
-        if (!HasCurrent())
+    const bool isInPage = context_.page.PageSize() > 0;
+    CellIndex target { NoIndex, HasCurrent() ? current.Col() : store.FixedCols() };
+    // In the list the same row of the page is another place at another time.
+    const i32 before = !HasCurrent() ? NoIndex : isInPage ? current.CursorPosition : current.Row();
+    i32 now = NoIndex;
+    if (isInPage) {
+        if (!GotoListPosition(Row))
             return;
         target = Current();
+        now = current.CursorPosition;
+    } else {
+        target.row = now = Row + store.FixedRows();
     }
     if (store.HeightOf(target.row) == 0 || store.RowAt(target.row).Hidden) {
-        const int key = rowBefore <= target.row ? Keys::Down : Keys::Up;
+        const int key = before <= now ? Keys::Down : Keys::Up;
         const CellIndex beside = step_.From(target, key).cell;
         if (beside.row == target.row)
             return;
         target = beside;
     }
-    EndWrite(target);
+    Take(context_.spans.ParentOf(target.row, target.col));
+    EndWrite();
 }
 
 void CurrentCellMover::WritePos(i32 Row, int Col)
@@ -170,8 +200,10 @@ void CurrentCellMover::WritePos(i32 Row, int Col)
     } else {
         target.row = Row + store.FixedRows();
     }
-    if (IsReal(target))
-        EndWrite(target);
+    if (!IsReal(target))
+        return;
+    Take(context_.spans.ParentOf(target.row, target.col));
+    EndWrite();
 }
 
 } // namespace vornix

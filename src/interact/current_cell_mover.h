@@ -1,6 +1,6 @@
-// Moves the current cell: what hosts write, and what the steps of keys and mouse have in common. No events but those of
-// painting and of paging are raised; behind each of these the cell is tested again. Internal indices unless said
-// otherwise.
+// Moves the current cell: what hosts write, and what the steps of keys and mouse have in common. The events of painting
+// and of paging are raised, and AfterEdit where bringing a cell into view closes an open editor; behind each of these the
+// cell is tested again. Internal indices unless said otherwise.
 #pragma once
 
 #include "interact/cell_step.h"
@@ -43,10 +43,16 @@ public:
     CellIndex Current() const { return { context_.current.Row(), context_.current.Col() }; }
     // Takes the cell as it is, and its place in the list. Nothing is painted.
     void Take(CellIndex cell);
+    // The same within the row of the current cell, whose place in the list stays: the row may have left the page.
+    void TakeCol(int col);
 
-    // Asks the host with CellChange whether a cell is to become the current one.
+    // How hosts know a cell. It tells a cell that was chosen from one that stands at its indices later.
+    CellIndex PublicPlaceOf(CellIndex cell) const;
+    // Asks the host with CellChange whether a cell is to become the current one. Gone when there is no such cell any
+    // more, or another one in its place; without `chosenAs` only what changes while the host is asked counts.
     enum class Answer { Take, Refused, MovedByHost, Gone };
-    Answer AskHost(CellIndex target);
+    Answer AskHost(CellIndex target) { return AskHost(target, PublicPlaceOf(target)); }
+    Answer AskHost(CellIndex target, CellIndex chosenAs);
 
     // Paints the current cell without its mark. Nothing while the gate is closed.
     void RepaintUnmarked();
@@ -58,8 +64,11 @@ public:
 
 private:
     void BeginWrite();
-    void EndWrite(CellIndex cell);
+    void EndWrite();
     bool IsInList(i32 Row) const;
+    // False when no current cell came of it.
+    bool GotoListPosition(i32 position);
+    bool IsStill(CellIndex cell, CellIndex chosenAs) const;
 
     MoverContext context_;
     CellStep step_;

@@ -33,7 +33,8 @@ public:
     // Brings a place of the list into the page and the current row to it; without a current cell that is not fixed
     // there is none afterwards. Raises PopulateGrid.
     virtual void GotoListPosition(i32 position) = 0;
-    // Like RollPage, with the current row staying at its index.
+    // Like RollPage, and the current row goes with its entry: its index falls by as much as the page has shifted, and its
+    // place in the list is told anew from there.
     virtual void RollPageWithCurrent() = 0;
 };
 

@@ -73,8 +73,12 @@ std::optional<LineRange> GridSelection::NextLines(SelectionKind kind)
     LineRange lines;
     if (ranges_.Mode() != kind || !ranges_.SelectItem(walkSlot_, lines.first, lines.last))
         return std::nullopt;
-    walkSlot_ = AddI16(walkSlot_, 1);
     return lines;
+}
+
+void GridSelection::AdvanceWalk()
+{
+    walkSlot_ = AddI16(walkSlot_, 1);
 }
 
 std::optional<std::pair<CellIndex, CellIndex>> GridSelection::FirstCells()

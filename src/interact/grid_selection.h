@@ -49,8 +49,10 @@ public:
 
     // -- Reading --
 
-    // The next ranges since the walk began, whatever has become of the selection meanwhile.
+    // The next ranges since the walk began, whatever has become of the selection meanwhile. A range is read again until
+    // the walk advances.
     void BeginWalk() { walkSlot_ = 0; }
+    void AdvanceWalk();
     std::optional<LineRange> NextCols() { return NextLines(SelectionKind::Cols); }
     std::optional<LineRange> NextRows() { return NextLines(SelectionKind::Rows); }
     // The first rectangle, its corners as they were given. Begins the walk anew.

@@ -113,6 +113,7 @@ Keyboard::Move Keyboard::AskAndMove(int key)
     const CellIndex target = step_.From(context_.mover.Current(), key).cell;
     if (target == context_.mover.Current())
         return Move::SameCell;
+    const CellIndex chosenAs = context_.mover.PublicPlaceOf(target);
 
     context_.selection.Anchor = target;
     context_.selection.End = target;
@@ -122,7 +123,7 @@ Keyboard::Move Keyboard::AskAndMove(int key)
             return Move::Lost;
     }
     context_.mover.RepaintUnmarked();
-    if (AskHost(target)) {
+    if (AskHost(target, chosenAs)) {
         context_.mover.Take(context_.spans.ParentOf(target.row, target.col));
         ScrollByKey(key);
     }
@@ -147,11 +148,11 @@ void Keyboard::FollowList()
     context_.page.GotoListPosition(SubtractI32(current.CursorPosition, context_.store.FixedRows()));
 }
 
-bool Keyboard::AskHost(CellIndex target)
+bool Keyboard::AskHost(CellIndex target, CellIndex chosenAs)
 {
     if (context_.current.IsValid() && context_.current.Row() != target.row)
         context_.events.ValidateRow();
-    return context_.mover.AskHost(target) == CurrentCellMover::Answer::Take;
+    return context_.mover.AskHost(target, chosenAs) == CurrentCellMover::Answer::Take;
 }
 
 void Keyboard::ScrollByKey(int key)
@@ -180,7 +181,7 @@ bool Keyboard::TakeFirstCol(int key)
         return false;
     layout.SetSmoothOffset(0);
     context_.scroll.SetFirstCol(
-        key == Keys::Left ? col : std::max(layout.FirstColForLast(lastOfSpan), layout.FirstScrollCol()));
+        key == Keys::Left ? col : context_.scrolling.Positions().ScrollingColForLast(lastOfSpan));
     return true;
 }
 
@@ -199,7 +200,7 @@ bool Keyboard::TakeFirstRow(int key)
     const int lastOfSpan = row + context_.spans.RowsCovered(row, col) - 1;
     if (lastOfSpan <= scroll.LastRow())
         return false;
-    scroll.SetFirstRow(std::max<int>(context_.layout.FirstRowForLast(lastOfSpan), context_.store.FixedRows()));
+    scroll.SetFirstRow(context_.scrolling.Positions().ScrollingRowForLast(lastOfSpan));
     return true;
 }
 
@@ -245,16 +246,19 @@ void Keyboard::OpenEditor(int key)
 template <typename Target> void Keyboard::JumpTo(const Target& targetFrom)
 {
     CurrentCellMover& mover = context_.mover;
-    const GridStore& store = context_.store;
     context_.selection.EndDrag();
-    if (!mover.HasCurrent() && store.Rows() >= 1 && store.Cols() >= 1)
-        mover.Take({ store.FixedRows(), store.FixedCols() });
+    const CellIndex first { context_.store.FixedRows(), context_.store.FixedCols() };
+    if (!mover.HasCurrent() && mover.IsReal(first))
+        mover.Take(first);
     if (!mover.HasCurrent())
         return;
     const CellIndex target = targetFrom(mover.Current());
     if (!mover.IsReal(target))
         return;
-    mover.Take(target);
+    if (target.row == mover.Current().row)
+        mover.TakeCol(target.col);
+    else
+        mover.Take(target);
     context_.selection.Anchor = target;
     context_.selection.End = target;
     if (!mover.BringIntoView())

@@ -49,7 +49,7 @@ private:
     Move AskAndMove(int key);
     void EmptySelection();
     void FollowList();
-    bool AskHost(CellIndex target);
+    bool AskHost(CellIndex target, CellIndex chosenAs);
     void ScrollByKey(int key);
     bool TakeFirstCol(int key);
     bool TakeFirstRow(int key);

@@ -76,6 +76,12 @@ void SelectCollection::AddRange(i32 first, i32 last)
         AddItem({ first, last, 0, 0, true, first == last });
 }
 
+SelectedRange& SelectCollection::Item(int slot)
+{
+    answers_.clear();
+    return items_[static_cast<std::size_t>(slot)];
+}
+
 void SelectCollection::AddItem(const SelectedRange& item)
 {
     const i16 count = ToI16(count_ + 1);
@@ -86,7 +92,7 @@ void SelectCollection::AddItem(const SelectedRange& item)
     const i16 next = ToI16(nextFreeSlot_ + 1);
     if (nextFreeSlot_ >= SlotCount())
         items_.emplace_back();
-    items_[static_cast<std::size_t>(nextFreeSlot_)] = item;
+    Item(nextFreeSlot_) = item;
     if (written_ != nullptr)
         written_->push_back(nextFreeSlot_);
     nextFreeSlot_ = next;
@@ -154,6 +160,14 @@ bool SelectCollection::IsLineSelected(SelectionKind mode, i32 index) const
 {
     if (Mode() != mode)
         return false;
+    const auto [answer, isNew] = answers_.try_emplace(index, false);
+    if (isNew)
+        answer->second = IsInAnyRange(index);
+    return answer->second;
+}
+
+bool SelectCollection::IsInAnyRange(i32 index) const
+{
     for (int slot = 0; slot < SlotCount(); ++slot) {
         const SelectedRange& item = Slot(slot);
         if (item.isActive && item.left <= index && index <= item.right)
@@ -198,7 +212,7 @@ void SelectCollection::RemoveLines(i32 first, i32 last)
 
 void SelectCollection::FreeSlot(int slot)
 {
-    items_[static_cast<std::size_t>(slot)].isActive = false;
+    Item(slot).isActive = false;
     count_ = ToI16(count_ - 1);
     nextFreeSlot_ = ToI16(std::min<int>(nextFreeSlot_, slot));
 }
@@ -239,7 +253,7 @@ void SelectCollection::UnSelectRange(i32 index)
     if (count_ == 0)
         return;
     for (int slot = 0; slot < SlotCount(); ++slot) {
-        SelectedRange& item = items_[static_cast<std::size_t>(slot)];
+        SelectedRange& item = Item(slot);
         if (!item.isActive)
             continue;
         if (item.isSingle) {
@@ -271,7 +285,7 @@ template <typename Action> void SelectCollection::ForEachPresent(const Action& a
     const int slots = SlotCount();
     for (int slot = 0; slot < slots; ++slot) {
         if (Slot(slot).isActive && !written.Contains(slot))
-            action(slot, items_[static_cast<std::size_t>(slot)]);
+            action(slot, Item(slot));
     }
 }
 
@@ -330,10 +344,13 @@ void SelectCollection::DeleteItems(i32 position, i32 count)
             const i32 right = item.right;
             if (position > left)
                 AddRange(left, position - 1); // `item` is no longer valid
-            // The part in front may have gone to this very slot: then it is gone.
-            SelectedRange& rest = items_[static_cast<std::size_t>(slot)];
+            // The part in front may have gone to this very slot: then it is gone, and what it was is not said of the rest.
+            SelectedRange& rest = Item(slot);
+            const bool isOverwritten = rest.right != right;
             rest.left = last + 1 - count;
             rest.right = right - count;
+            if (isOverwritten)
+                rest.isSingle = rest.left == rest.right;
         }
     });
 }

@@ -1,12 +1,14 @@
 // What is selected: rectangles of cells, or ranges of columns, or ranges of rows, by internal indices.
 //
-// Ranges lie in slots. A removed range leaves its slot free, and the next one to be added goes to the lowest slot freed
-// since, the one after that to the slot behind it, live or not: an overwritten range is gone while Count goes on
-// rising. Hosts know the selection by these counts and slots.
+// Ranges lie in slots. A range to be added goes to the next free slot, which is the slot behind it from then on; a range
+// that is removed takes the next free slot back to its own when that is lower. So the slot behind a refilled one is
+// written next, live or not: an overwritten range is gone while Count goes on rising. UnselectItems alone frees no slot,
+// and goes on counting what it covers. Hosts know the selection by these counts and slots.
 #pragma once
 
 #include "vornix/types.h"
 
+#include <unordered_map>
 #include <vector>
 
 namespace vornix {
@@ -52,7 +54,7 @@ public:
 
     // Slots keep what they hold; the next range starts over.
     void RemoveAll();
-    // Whole ranges that reach over the interval between first and last; ranges of one line never do.
+    // Whole ranges that begin before `last` and end behind `first`: a line in common at an end is not enough.
     void RemoveCols(i32 first, i32 last);
     void RemoveRows(i32 first, i32 last);
 
@@ -78,6 +80,8 @@ public:
 private:
     class WrittenSlots;
 
+    // For writing: what is known of the lines is forgotten.
+    SelectedRange& Item(int slot);
     void AddItem(const SelectedRange& item);
     void AddRange(i32 first, i32 last);
     void AddLines(SelectionKind mode, bool reset, i32 first, i32 last);
@@ -86,6 +90,7 @@ private:
     void FreeSlot(int slot);
     i32 CountLines(SelectionKind mode) const;
     bool IsLineSelected(SelectionKind mode, i32 index) const;
+    bool IsInAnyRange(i32 index) const;
     bool HasLines() const { return mode_ != SelectionKind::Cells && count_ >= 1; }
     // The slots that are live when the walk begins; what the action adds is not visited.
     template <typename Action> void ForEachPresent(const Action& action);
@@ -96,6 +101,8 @@ private:
     SelectionKind mode_ = SelectionKind::None;
     // Slots written since the walk began; null outside of one.
     std::vector<int>* written_ = nullptr;
+    // Lines asked for since a range was last written: a paint asks for the same few, cell by cell.
+    mutable std::unordered_map<i32, bool> answers_;
 };
 
 } // namespace vornix

@@ -32,6 +32,11 @@ bool HeadlessChild::SetFocus()
     return true;
 }
 
+void HeadlessCorner::MouseDown(i16 /*button*/, i16 /*shift*/, float /*x*/, float /*y*/)
+{
+    SetFocus();
+}
+
 bool HeadlessChild::IsUsable() const
 {
     return visible_ && enabled_ && (!frame_ || frame_->IsUsable());

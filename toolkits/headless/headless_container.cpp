@@ -15,6 +15,7 @@ constexpr int TwipsAPixel = 15;
 constexpr u32 ClientEdge = 512;
 constexpr u32 StaticEdge = 131072;
 constexpr int LongestSide = 32767;
+constexpr int SplitHandleWidth = 6;
 
 constexpr std::array<std::string_view, 8> ChildNames {
     "scrV",
@@ -91,14 +92,16 @@ HeadlessContainer::HeadlessContainer(const HeadlessOptions& options)
     MakeWindow(ClientSize());
     if (!window_)
         throw std::bad_alloc();
-    const auto addressOf = [](HeadlessChild& child) { return &child; };
-    const auto behindBars = std::ranges::transform(bars_, children_.begin(), addressOf).out;
-    std::ranges::transform(otherChildren_, behindBars, addressOf);
+    children_ = { &bars_[0], &bars_[1], &editorWindows_[0], &editorWindows_[1], &editorWindows_[2], &corner_,
+        &splitWindows_[0], &splitWindows_[1] };
+    Child(ChildName::picSplitCol).Move({ 0, 0, SplitHandleWidth, 0 });
     windows_ = std::make_unique<WindowStack>(*this, children_);
     person_ = std::make_unique<Person>(*this, *windows_);
     grid_ = std::make_unique<Vornix>(*this, log_);
     for (HeadlessScrollBar& bar : bars_)
         bar.TellTo(*grid_);
+    for (HeadlessPictureBox& window : splitWindows_)
+        window.TellTo(*grid_, scale_, colors_);
     const MemoryBag emptyBag;
     if (options.design && !options.bag)
         grid_->InitProperties();
@@ -175,7 +178,7 @@ bool HeadlessContainer::HasFocus() const
 
 PointerLocation HeadlessContainer::LocatePointer() const
 {
-    return {};
+    return windows_->LocatePointer();
 }
 
 bool HeadlessContainer::IsKeyDown(int code) const

@@ -1,21 +1,25 @@
 // What the container passes on of pointer and keyboard.
 #include "person.h"
 #include "vornix/headless_container.h"
+#include "window_stack.h"
 
 namespace vornix {
 
 void HeadlessContainer::MouseDown(float x, float y, i16 button, i16 shift)
 {
+    windows_->MovePointer({ x, y });
     grid_->MouseDown(button, shift, x, y);
 }
 
 void HeadlessContainer::MouseMove(float x, float y, i16 button, i16 shift)
 {
+    windows_->MovePointer({ x, y });
     grid_->MouseMove(button, shift, x, y);
 }
 
 void HeadlessContainer::MouseUp(float x, float y, i16 button, i16 shift)
 {
+    windows_->MovePointer({ x, y });
     grid_->MouseUp(button, shift, x, y);
 }
 

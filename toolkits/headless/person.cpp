@@ -109,6 +109,7 @@ void Person::Move(PointerPlace place, i16 shift)
         if (Holds(button))
             buttons = static_cast<i16>(buttons | button);
     }
+    windows_.MovePointer(place);
     Tell(Under(place), [&](InputWindow& window) {
         const PointerPlace on = On(window, place);
         window.MouseMove(buttons, shift, on.x, on.y);

@@ -17,12 +17,6 @@
 
 namespace vornix {
 
-// In pixels of the control's client area.
-struct PointerPlace {
-    float x = 0;
-    float y = 0;
-};
-
 class Person {
 public:
     Person(HeadlessContainer& host, WindowStack& windows)

@@ -56,7 +56,8 @@ void ControlWindow::KeyUp(i16& code, i16& shift)
 WindowStack::WindowStack(HeadlessContainer& host, std::span<HeadlessChild* const> children)
     : host_(host)
     , control_(host)
-    , order_(children.begin(), children.end())
+    , children_(children.begin(), children.end())
+    , order_(children_)
 {
     const auto at = [&](ChildName name) { return children[static_cast<std::size_t>(name)]; };
     for (HeadlessChild* const child : children) {
@@ -67,7 +68,7 @@ WindowStack::WindowStack(HeadlessContainer& host, std::span<HeadlessChild* const
 
 InputWindow* WindowStack::TopAt(float x, float y)
 {
-    if (!isShown_ || !Contains(control_.Area(), x, y))
+    if (!IsSeenAt(x, y))
         return nullptr;
     if (HeadlessChild* const child = TopChildAt(x, y, nullptr))
         return child;
@@ -83,6 +84,25 @@ HeadlessChild* WindowStack::TopChildAt(float x, float y, const HeadlessChild* fr
         return inside ? inside : child;
     }
     return nullptr;
+}
+
+ChildName WindowStack::NameOf(const HeadlessChild& child) const
+{
+    return static_cast<ChildName>(std::ranges::find(children_, &child) - children_.begin());
+}
+
+PointerLocation WindowStack::LocatePointer() const
+{
+    if (!pointer_ || !IsSeenAt(pointer_->x, pointer_->y))
+        return {};
+    PointerLocation location;
+    location.window = PointerLocation::Window::Control;
+    location.place = { static_cast<int>(pointer_->x), static_cast<int>(pointer_->y) };
+    if (const HeadlessChild* const child = TopChildAt(pointer_->x, pointer_->y, nullptr)) {
+        location.window = PointerLocation::Window::Child;
+        location.child = NameOf(*child);
+    }
+    return location;
 }
 
 InputWindow* WindowStack::Focused()
@@ -132,7 +152,10 @@ void WindowStack::RaiseChild(HeadlessChild& child)
 
 void WindowStack::FocusChild(HeadlessChild& child)
 {
-    GiveFocus(&child);
+    const ChildName name = NameOf(child);
+    GiveFocus(name == ChildName::cPivot ? nullptr : &child);
+    if (!host_.Grid().IsTerminated())
+        host_.Grid().EnterChildFocus(name);
 }
 
 } // namespace vornix

@@ -1,8 +1,9 @@
-// The control's window and its children: which lies on top at a place, and which has the focus.
+// The control's window and its children: which lies on top at a place, where the pointer is, and which has the focus.
 #pragma once
 
 #include "vornix/headless_child.h"
 
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -31,6 +32,12 @@ private:
     HeadlessContainer& host_;
 };
 
+// In pixels of the control's client area.
+struct PointerPlace {
+    float x = 0;
+    float y = 0;
+};
+
 class WindowStack : public ChildParent {
 public:
     // The children by their names in ChildName, the later above the earlier.
@@ -39,6 +46,10 @@ public:
     InputWindow& TheControl() { return control_; }
     // Null outside the client area, and where the control is hidden. What cannot be used lets through what lies below.
     InputWindow* TopAt(float x, float y);
+
+    // Where the pointer is from now on, by its latest notification. Before the first one it is elsewhere.
+    void MovePointer(PointerPlace place) { pointer_ = place; }
+    PointerLocation LocatePointer() const;
 
     // Whether the control is seen at all; the children are not without it.
     bool IsShown() const { return isShown_; }
@@ -55,17 +66,23 @@ public:
     void ExitFocus();
 
     void RaiseChild(HeadlessChild& child) override;
+    // The control is told. Keys on the corner between the bars are the control's own.
     void FocusChild(HeadlessChild& child) override;
 
 private:
+    bool IsSeenAt(float x, float y) const { return isShown_ && Contains(control_.Area(), x, y); }
     HeadlessChild* TopChildAt(float x, float y, const HeadlessChild* frame) const;
+    ChildName NameOf(const HeadlessChild& child) const;
     // To the control itself where no child is given.
     void GiveFocus(HeadlessChild* child);
 
     HeadlessContainer& host_;
     ControlWindow control_;
+    // By their names.
+    std::vector<HeadlessChild*> children_;
     // From the bottom up; those in a frame count among themselves.
     std::vector<HeadlessChild*> order_;
+    std::optional<PointerPlace> pointer_;
     bool isShown_ = false;
     bool hasFocus_ = false;
     HeadlessChild* focusedChild_ = nullptr;

@@ -1,8 +1,9 @@
-// The child windows of a container without a screen: rectangles with flags that take notifications and do nothing with
-// them.
+// The child windows of a container without a screen: rectangles with flags. What most of them do with notifications is
+// nothing.
 #pragma once
 
 #include "vornix/platform/container.h"
+#include "vornix/raster_surface.h"
 
 namespace vornix {
 
@@ -49,6 +50,8 @@ public:
     bool IsEnabled() const override { return enabled_; }
     void Raise() override;
     bool SetFocus() override;
+    // What the control has drawn on the child; null where it draws nothing.
+    RasterSurface* Canvas() override { return nullptr; }
 
     // Whether a person sees it and can use it.
     bool IsUsable() const;
@@ -61,6 +64,12 @@ private:
     bool enabled_ = true;
     ChildParent* parent_ = nullptr;
     const HeadlessChild* frame_ = nullptr;
+};
+
+// The square between the bars: a press gives it the focus, which it hands on.
+class HeadlessCorner final : public HeadlessChild {
+public:
+    void MouseDown(i16 button, i16 shift, float x, float y) override;
 };
 
 // Whether the point lies in the rectangle.

@@ -4,6 +4,7 @@
 
 #include "vornix/event_log.h"
 #include "vornix/headless_child.h"
+#include "vornix/headless_picture_box.h"
 #include "vornix/headless_scroll_bar.h"
 #include "vornix/memory_stores.h"
 #include "vornix/platform/container.h"
@@ -98,14 +99,17 @@ public:
     i16 KeyUp(i16 code, i16 shift = 0);
     // 120 for each notch away from the user.
     void Wheel(i32 delta);
-    // One tick of the timer, whether it runs or not.
+    // One tick of the timer, whether it runs or not; no time passes here by itself. The control then looks where the
+    // pointer is: where the latest notification put it, one of the above or of what a person does, and elsewhere before
+    // the first one, outside the client area, and while the control is hidden.
     void Tick();
 
     // What a person does, in the platform's order. The window on top at a place gets the notifications of the pointer,
     // in its own coordinates: a child that is visible and enabled, else the control; from the press to the release they
     // all go to the window of the press. Outside the client area there is no window, and nothing arrives. A press on
     // the control gives it the focus first (EnterFocus when the focus was elsewhere). Buttons and keys are held, for
-    // IsKeyDown, from their press to their release. Children take notifications and do nothing with them.
+    // IsKeyDown, from their press to their release. The bars (HeadlessScrollBar) and the handle of the split tell the
+    // control what is done to them, the corner between the bars takes the focus; other children do nothing.
     //
     // A control that a handler closes or hides gets no further notification, and a hidden one none at all, nor the
     // focus; one that is closed from the start is error 5, as are buttons, sums of keys and numbers of steps that there are not, and places that are not finite.
@@ -178,6 +182,7 @@ public:
     void PictureChanged(const Rect&) override { }
     bool SetFocus() override;
     void SetPointerShape(PointerShape shape) override { pointer_ = shape; }
+    // By the windows that lie there; one that is hidden or disabled lets through what is below.
     PointerLocation LocatePointer() const override;
     bool IsKeyDown(int code) const override;
     void SetTimer(int interval, bool enabled) override;
@@ -206,8 +211,11 @@ private:
     std::vector<std::string> propertyChanges_;
     std::vector<MessageBoxRecord> messageBoxes_;
     std::array<HeadlessScrollBar, 2> bars_ { HeadlessScrollBar(ChildName::scrV), HeadlessScrollBar(ChildName::scrH) };
-    std::array<HeadlessChild, 6> otherChildren_;
-    // By their names in ChildName, the bars first.
+    std::array<HeadlessChild, 3> editorWindows_;
+    HeadlessCorner corner_;
+    std::array<HeadlessPictureBox, 2> splitWindows_ { HeadlessPictureBox(ChildName::picSplitCol),
+        HeadlessPictureBox(ChildName::picSplitMove) };
+    // By their names in ChildName: the bars, the editors and their frame, the corner, those of the split.
     std::array<HeadlessChild*, 8> children_ {};
     std::u16string clipboard_;
     std::set<int> keysDown_;

@@ -99,8 +99,10 @@ void ScrollBar::Paint()
 {
     const Rect place = window_.Place();
     Device* const canvas = window_.Canvas();
-    if (canvas && place.Height() != 0)
-        canvas->FillRect({ 0, 0, place.Width(), place.Height() }, canvas->GetBkColor());
+    if (!canvas || place.Height() == 0)
+        return;
+    canvas->FillRect({ 0, 0, place.Width(), place.Height() }, canvas->GetBkColor());
+    window_.CanvasChanged();
 }
 
 void ScrollBar::Notify(i32 code)

@@ -91,6 +91,22 @@ TEST_F(EnsureVisible, BringsTheWholeSpanIntoSight)
     EXPECT_EQ(FirstCol(), 8);
 }
 
+TEST_F(EnsureVisible, OfASpanLargerThanTheViewItsEndComesFirstAndItsParentNext)
+{
+    control.spans.SetRowSpan(40, 10, 40);
+    control.spans.SetColSpan(40, 10, 6);
+    EXPECT_TRUE(Ensure(42, 11));
+    EXPECT_EQ(control.scroll.LastRow(), 79);
+    EXPECT_EQ(FirstRow(), 59) << "a view of 21 rows, the asked one before it";
+    EXPECT_EQ(control.scroll.LastCol(), 15);
+    EXPECT_EQ(FirstCol(), 12);
+    EXPECT_TRUE(Ensure(40, 10));
+    EXPECT_EQ(FirstRow(), 40);
+    EXPECT_EQ(FirstCol(), 10);
+    EXPECT_FALSE(Ensure(40, 10));
+    EXPECT_FALSE(Ensure(60, 13)) << "in sight, for all that the span goes on behind it";
+}
+
 TEST_F(EnsureVisible, TheCaptionNeverScrolls)
 {
     control.layout.Settings.CaptionEnabled = true;

@@ -1,5 +1,6 @@
 #include "layout/scroll_bar.h"
 
+#include "support/fake_device.h"
 #include "vornix/automation.h"
 
 #include <gmock/gmock.h>
@@ -48,6 +49,11 @@ public:
     bool IsEnabled() const override { return enabled_; }
     void Raise() override { }
     bool SetFocus() override { return false; }
+    Device* Canvas() override { return canvas; }
+    void CanvasChanged() override { ++shown; }
+
+    Device* canvas = nullptr;
+    int shown = 0;
 
 private:
     Rect place_;
@@ -207,6 +213,36 @@ TEST_F(ScrollBarLogic, ADragTracksAndChangesAtItsEnd)
     EXPECT_EQ(bar.Value(), 65);
 }
 
+TEST_F(ScrollBarLogic, AThumbHeldOutsideTheRangeIsAtItsEnd)
+{
+    native.track = 200;
+    bar.DispatchMessage(ThumbTrack);
+    native.track = -200;
+    bar.DispatchMessage(ThumbTrack);
+    EXPECT_THAT(Said(), ElementsAre("scroll 90", "scroll 10"));
+    native.track = 60;
+    bar.SetInfo(10, 20, 30, 1);
+    bar.DispatchMessage(EndScroll);
+    EXPECT_THAT(Said(), ElementsAre("change 30 0")) << "the range of the end, not of the drag";
+    EXPECT_EQ(bar.Value(), 30);
+}
+
+TEST_F(ScrollBarLogic, AnActionThatIsOverHasNoEnd)
+{
+    bar.SetSmoothScroll(true);
+    bar.DispatchMessage(LineDown);
+    bar.DispatchMessage(LineDown);
+    native.track = 60;
+    bar.DispatchMessage(ThumbTrack);
+    Said();
+    bar.EndAction();
+    bar.DispatchMessage(EndScroll);
+    EXPECT_THAT(Said(), IsEmpty());
+    bar.SetValue(50);
+    bar.DispatchMessage(LineDown);
+    EXPECT_THAT(Said(), ElementsAre("change 52 0")) << "the first step again";
+}
+
 TEST_F(ScrollBarLogic, TheBarEndsUpWhereTheHandlerLeavesTheValue)
 {
     receiver.handler = [](i32& value) { value = 33; };
@@ -321,6 +357,62 @@ TEST_F(ScrollBarComponent, RaisesItsEventsOnlyWhileItIsShown)
     bar.SetValue(5);
     bar.Notify(LineDown);
     EXPECT_THAT(receiver.said, ElementsAre("change 1 0", "change 6 0"));
+}
+
+TEST_F(ScrollBarComponent, MovesUnseenWhileItIsHidden)
+{
+    bar.Hide();
+    bar.Notify(LineDown);
+    EXPECT_EQ(bar.Value(), 1);
+    bar.Notify(PageDown);
+    EXPECT_EQ(bar.Value(), 1) << "how far a page goes nobody says";
+    bar.Notify(Bottom);
+    EXPECT_EQ(bar.Value(), 100);
+    native.track = 40;
+    bar.Notify(ThumbTrack);
+    EXPECT_EQ(bar.Value(), 40);
+    bar.Notify(EndScroll);
+    EXPECT_EQ(bar.Value(), 40);
+    EXPECT_THAT(receiver.said, IsEmpty());
+}
+
+TEST_F(ScrollBarComponent, CoversItsAreaOnACanvasOfTheControl)
+{
+    const auto screen = std::make_shared<FakeScreen>();
+    FakeDevice canvas(screen, "bar", { 100, 17 });
+    canvas.SetBkColor(0x123456);
+    screen->journal.clear();
+    window.Move({ 20, 300, 120, 317 });
+    bar.Paint();
+    EXPECT_EQ(window.shown, 0) << "the toolkit draws the bar";
+    window.canvas = &canvas;
+    bar.Paint();
+    EXPECT_THAT(screen->journal, ElementsAre("bar.FillRect 0,0,100,17 #123456"));
+    EXPECT_EQ(window.shown, 1);
+    window.Move({ 20, 300, 120, 300 });
+    bar.Paint();
+    EXPECT_EQ(screen->journal.size(), 1u) << "no height, nothing to cover";
+    EXPECT_EQ(window.shown, 1);
+    window.Move({ 20, 300, 20, 301 });
+    bar.Paint();
+    EXPECT_EQ(screen->journal.size(), 2u) << "the width is not asked for";
+}
+
+TEST_F(ScrollBarComponent, TakesNoActionAcrossUnSubclass)
+{
+    native.track = 40;
+    bar.Notify(ThumbTrack);
+    bar.UnSubclass();
+    bar.Subclass();
+    bar.Notify(EndScroll);
+    EXPECT_THAT(receiver.said, ElementsAre("scroll 40")) << "the drag is over";
+    bar.SetSmoothScroll(true);
+    bar.Notify(LineDown);
+    bar.Notify(LineDown);
+    bar.UnSubclass();
+    bar.Subclass();
+    bar.Notify(LineDown);
+    EXPECT_EQ(bar.Value(), 40 + 2 + 4 + 2);
 }
 
 TEST_F(ScrollBarComponent, AnswersBetweenSubclassAndUnSubclass)

@@ -18,10 +18,10 @@ public:
 
 } // namespace
 
-Lines LinesOf(const EventLog& log)
+Lines LinesOf(const std::vector<LoggedEvent>& events)
 {
     Lines lines;
-    for (const LoggedEvent& event : log.Events()) {
+    for (const LoggedEvent& event : events) {
         std::ostringstream line;
         line << event.name;
         for (const auto& [name, value] : event.arguments)
@@ -66,7 +66,7 @@ LiveGridTest::~LiveGridTest()
 
 Lines LiveGridTest::Said()
 {
-    const Lines lines = LinesOf(log);
+    const Lines lines = LinesOf(log.Events());
     log.Clear();
     return lines;
 }

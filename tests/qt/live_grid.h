@@ -20,7 +20,7 @@ namespace vornix {
 using Lines = std::vector<std::string>;
 
 // "MouseDown Button=1 Shift=0 x=5 y=6" for each event.
-Lines LinesOf(const EventLog& log);
+Lines LinesOf(const std::vector<LoggedEvent>& events);
 
 // 100 rows of 20 pixels and 20 columns of 60 besides a fixed one each, 401 by 301 pixels, both bars in normal mode.
 void FillLiveTable(Vornix& grid);

@@ -10,6 +10,8 @@
 #include <QApplication>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QStyle>
+#include <QStyleOptionSlider>
 
 namespace {
 
@@ -62,18 +64,39 @@ void GridScroll(benchmark::State& state, bool isPage, Until until)
     ScrollBy(state, BarOf(widget, Qt::Vertical), widget, isPage, until);
 }
 
-// The user drags the thumb by a pixel for every picture, and back from the ends.
+void SendMouse(QWidget& widget, QEvent::Type type, QPoint place)
+{
+    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    const Qt::MouseButtons buttons = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+    QMouseEvent event(type, place, widget.mapToGlobal(place), button, buttons, Qt::NoModifier);
+    QApplication::sendEvent(&widget, &event);
+}
+
+QPoint ThumbOf(QScrollBar& bar)
+{
+    QStyleOptionSlider option;
+    option.initFrom(&bar);
+    option.orientation = bar.orientation();
+    option.minimum = bar.minimum();
+    option.maximum = bar.maximum();
+    option.pageStep = bar.pageStep();
+    option.sliderPosition = bar.sliderPosition();
+    option.subControls = QStyle::SC_All;
+    return bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, &bar).center();
+}
+
+// The user holds the thumb and moves it by a pixel of the table for every picture, and back from the ends.
 void DragThumb(benchmark::State& state, QScrollBar& bar, QWidget& view, Until until)
 {
+    SendMouse(bar, QEvent::MouseButtonPress, ThumbOf(bar));
     int step = 1;
-    bar.setSliderDown(true);
     for (auto _ : state) {
         if (bar.sliderPosition() + step > bar.maximum() || bar.sliderPosition() + step < bar.minimum())
             step = -step;
         bar.setSliderPosition(bar.sliderPosition() + step);
         Finish(view, until);
     }
-    bar.setSliderDown(false);
+    SendMouse(bar, QEvent::MouseButtonRelease, ThumbOf(bar));
 }
 
 void TableSmoothStep(benchmark::State& state, Until until)
@@ -88,14 +111,6 @@ void GridSmoothStep(benchmark::State& state, Until until)
 {
     QVornix& widget = ShownGrid();
     DragThumb(state, BarOf(widget, Qt::Horizontal), widget, until);
-}
-
-void SendMouse(QWidget& widget, QEvent::Type type, QPoint place)
-{
-    const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
-    const Qt::MouseButtons buttons = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
-    QMouseEvent event(type, place, widget.mapToGlobal(place), button, buttons, Qt::NoModifier);
-    QApplication::sendEvent(&widget, &event);
 }
 
 // A drag that grows and shrinks a rectangle of cells by three rows and a column at every move.

@@ -11,24 +11,6 @@ namespace {
 
 constexpr std::int32_t LargestSide = 32767;
 
-const char* ShapeName(PointerShape shape)
-{
-    switch (shape) {
-    case PointerShape::SizeWE:
-        return "size_we";
-    case PointerShape::SizeNS:
-        return "size_ns";
-    default:
-        return "default";
-    }
-}
-
-vornix_child_info Describe(const ChildWindow& child)
-{
-    const Rect place = child.Place();
-    return { child.IsVisible(), child.IsEnabled(), place.left, place.top, place.Width(), place.Height() };
-}
-
 } // namespace
 
 } // namespace vornix::c
@@ -96,18 +78,6 @@ std::int32_t vornix_host_is_closed(vornix_grid* grid, std::int32_t* closed)
     });
 }
 
-std::int32_t vornix_host_child(vornix_grid* grid, const char* name, vornix_child_info* info)
-{
-    return GridCall(grid, [&](Call& call) {
-        Require(name);
-        Require(info);
-        const HeadlessChild* const child = call->Container().FindChild(name);
-        if (child == nullptr)
-            Raise(ErrorNumber::InvalidArgument, "No child window has this name");
-        *info = Describe(*child);
-    });
-}
-
 std::int32_t vornix_host_get_clipboard(vornix_grid* grid, vornix_text* text)
 {
     return GridCall(grid, [&](Call& call) {
@@ -125,7 +95,7 @@ std::int32_t vornix_host_pointer_shape(vornix_grid* grid, const char** shape)
 {
     return GridCall(grid, [&](Call& call) {
         Require(shape);
-        *shape = ShapeName(call->Container().Pointer());
+        *shape = NameOf(call->Container().Pointer()).data();
     });
 }
 

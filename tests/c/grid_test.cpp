@@ -290,6 +290,69 @@ TEST(CGrid, TellsOfItsChildWindows)
     EXPECT_EQ(vornix_host_child(grid.get(), "scrX", &info), 5);
 }
 
+TEST(CGrid, TellsOfItsBars)
+{
+    const GridPtr grid = MakeSmallGrid();
+    ASSERT_EQ(Let(grid.get(), "Rows", { Integer(500) }), 0);
+    vornix_bar_info info {};
+    ASSERT_EQ(vornix_host_bar(grid.get(), "scrV", &info), 0);
+    EXPECT_EQ(info.min, 1) << "behind the fixed row";
+    EXPECT_EQ(info.value, 1);
+    EXPECT_EQ(info.page, 1);
+    EXPECT_GT(info.max, 400);
+    EXPECT_EQ(vornix_host_bar(grid.get(), "scrH", &info), 0);
+    EXPECT_EQ(vornix_host_bar(grid.get(), "txtTmp", &info), 438);
+    EXPECT_EQ(vornix_host_bar(grid.get(), "picSplitCol", &info), 438);
+    EXPECT_EQ(vornix_host_bar(grid.get(), "scrX", &info), 5);
+    EXPECT_EQ(vornix_host_bar(grid.get(), nullptr, &info), 5);
+    EXPECT_EQ(vornix_host_bar(grid.get(), "scrV", nullptr), 5);
+}
+
+TEST(CGrid, HearsWhatIsDoneToItsBars)
+{
+    const GridPtr grid = MakeSmallGrid();
+    ASSERT_EQ(Let(grid.get(), "Rows", { Integer(500) }), 0);
+    ASSERT_EQ(vornix_host_notify_bar(grid.get(), "scrV", VORNIX_SB_LINEDOWN, nullptr), 0);
+    ASSERT_EQ(vornix_host_notify_bar(grid.get(), "scrV", VORNIX_SB_ENDSCROLL, nullptr), 0);
+    EXPECT_EQ(Get(grid.get(), "FirstRow").ToInteger(), 1);
+    ASSERT_EQ(Let(grid.get(), "ScrollVBar", { Integer(2) }), 0);
+    const std::int32_t held = 40;
+    ASSERT_EQ(vornix_host_notify_bar(grid.get(), "scrV", VORNIX_SB_THUMBTRACK, &held), 0);
+    EXPECT_EQ(Get(grid.get(), "FirstRow").ToInteger(), 39);
+    vornix_bar_info info {};
+    ASSERT_EQ(vornix_host_bar(grid.get(), "scrV", &info), 0);
+    EXPECT_EQ(info.value, 40);
+    ASSERT_EQ(vornix_host_notify_bar(grid.get(), "scrV", VORNIX_SB_TOP, nullptr), 0);
+    EXPECT_EQ(Get(grid.get(), "FirstRow").ToInteger(), 0);
+    for (const std::int32_t code : { -1, 9 })
+        EXPECT_EQ(vornix_host_notify_bar(grid.get(), "scrV", code, nullptr), 5) << code;
+    EXPECT_EQ(vornix_host_notify_bar(grid.get(), "fraEdit", VORNIX_SB_TOP, nullptr), 438);
+    EXPECT_EQ(vornix_host_notify_bar(grid.get(), nullptr, VORNIX_SB_TOP, nullptr), 5);
+    ASSERT_EQ(vornix_host_close(grid.get()), 0);
+    EXPECT_EQ(vornix_host_notify_bar(grid.get(), "scrV", VORNIX_SB_TOP, nullptr), 5);
+}
+
+TEST(CGrid, LooksForThePointerAtATick)
+{
+    const GridPtr grid = MakeSmallGrid();
+    const auto lastEvent = [&] {
+        std::size_t count = 0;
+        EXPECT_EQ(vornix_host_log_count(grid.get(), &count), 0);
+        std::int32_t number = 0;
+        vornix_value arguments[8] {};
+        std::size_t given = 0;
+        EXPECT_EQ(vornix_host_log_at(grid.get(), count - 1, &number, arguments, 8, &given), 0);
+        return std::string(vornix_describe_event(number)->name);
+    };
+    ASSERT_EQ(vornix_host_mouse_move(grid.get(), 5, 5, 0, 0), 0);
+    ASSERT_EQ(vornix_host_tick(grid.get()), 0);
+    EXPECT_EQ(lastEvent(), "CellOver");
+    ASSERT_EQ(vornix_host_click_at(grid.get(), -5, -5, 1, 0), 0) << "where the control hears nothing of it";
+    EXPECT_EQ(lastEvent(), "CellOver");
+    ASSERT_EQ(vornix_host_tick(grid.get()), 0);
+    EXPECT_EQ(lastEvent(), "CellOut");
+}
+
 TEST(CGrid, HasAClipboardAndAPointer)
 {
     const GridPtr grid = MakeSmallGrid();
@@ -398,7 +461,7 @@ TEST(CGrid, TakesWhatAPersonDoes)
     EXPECT_EQ(vornix_host_press(grid.get(), "Nonsense", 0), 5);
     EXPECT_EQ(vornix_host_press_code(grid.get(), 113, 0), 0);
     EXPECT_EQ(vornix_host_wheel(grid.get(), 120), 0);
-    EXPECT_EQ(vornix_host_tick(grid.get()), 445);
+    EXPECT_EQ(vornix_host_tick(grid.get()), 0);
     for (const auto lifecycle :
         { vornix_host_hide, vornix_host_show, vornix_host_paint, vornix_host_enter_focus, vornix_host_exit_focus })
         EXPECT_EQ(lifecycle(grid.get()), 0);

@@ -330,7 +330,7 @@ void HostileHost::MoreQuestions()
     const char* name = nullptr;
     vornix_text text {};
     vornix_text title {};
-    switch (chance_.Below(6)) {
+    switch (chance_.Below(7)) {
     case 0:
         return Count(vornix_host_property_change_at(grid_, chance_.Below(20), &name), "property_change_at");
     case 1:
@@ -343,6 +343,13 @@ void HostileHost::MoreQuestions()
         vornix_setting setting { View(values_.AnyText()), View(u"s"), View(u"k"), View(values_.AnyText()) };
         Count(vornix_host_save_setting(grid_, &setting), "save_setting");
         return Count(vornix_host_setting_at(grid_, chance_.Below(4), &setting), "setting_at");
+    }
+    case 5: {
+        const char* const bar = chance_.OneIn(4) ? "cPivot" : chance_.OneIn(2) ? "scrV" : "scrH";
+        const std::int32_t held = chance_.Between(-32768, 32767);
+        vornix_bar_info info {};
+        Count(vornix_host_notify_bar(grid_, bar, chance_.Between(-1, 9), chance_.OneIn(2) ? &held : nullptr), "notify");
+        return Count(vornix_host_bar(grid_, bar, &info), "bar");
     }
     default: {
         vornix_child_info info {};

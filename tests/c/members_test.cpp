@@ -265,6 +265,26 @@ std::map<std::string, Calling> PlaceCallings()
     };
 }
 
+std::map<std::string, Calling> PointerCallings()
+{
+    const auto pressed = [](vornix_grid* grid) { EXPECT_EQ(vornix_host_mouse_down(grid, 5, 5, 2, 5), 0); };
+    const auto onBoundary = [](vornix_grid* grid) {
+        LetOk(grid, "ColWidth", { Integer(-1), Integer(60) });
+        LetOk(grid, "ColWidth", { Integer(0), Integer(60) });
+        EXPECT_EQ(vornix_host_mouse_move(grid, 118, 5, 0, 0), 0);
+    };
+    const auto sizing = [=](vornix_grid* grid) {
+        onBoundary(grid);
+        EXPECT_EQ(vornix_host_mouse_down(grid, 118, 5, 1, 0), 0);
+    };
+    return {
+        { "GetMouseButton", { "i16 2", {}, pressed } },
+        { "GetMouseShift", { "i16 5", {}, pressed } },
+        { "MousePointer", { "i32 99", {}, onBoundary } },
+        { "IsSizingMode", { "true", {}, sizing } },
+    };
+}
+
 std::map<std::string, Calling> LookCallings()
 {
     const auto clearLog = [](vornix_grid* grid) { EXPECT_EQ(vornix_host_clear_log(grid), 0); };
@@ -292,7 +312,8 @@ std::map<std::string, Calling> LookCallings()
 std::map<std::string, Calling> AllCallings()
 {
     std::map<std::string, Calling> all;
-    for (auto&& part : { SpanCallings(), LineCallings(), SelectionCallings(), PlaceCallings(), LookCallings() })
+    for (auto&& part :
+        { SpanCallings(), LineCallings(), SelectionCallings(), PlaceCallings(), PointerCallings(), LookCallings() })
         all.insert(part.begin(), part.end());
     return all;
 }

@@ -378,12 +378,134 @@ class TestChildren(GridTest):
             lambda: child.items,
             lambda: child.list_index,
             lambda: child.click_item(0),
-            lambda: child.min,
-            lambda: child.max,
-            lambda: child.value,
-            lambda: child.notify(0),
         ):
             self.fails(445, use)
+
+
+class TestBars(GridTest):
+    def setUp(self) -> None:
+        super().setUp()
+        self.g.Rows = 300
+        self.g.Cols = 40
+        self.g.ScrollVBar = self.g.ScrollHBar = vornix.vxNormalScroll
+        self.g.host.clear_log()
+        self.bar = self.g.host.child("scrV")
+
+    def said(self) -> List[str]:
+        return [name for name, _ in self.g.host.log]
+
+    def test_ranges_are_internal_indices(self) -> None:
+        self.assertEqual((self.bar.min, self.bar.value), (1, 1))
+        self.g.FirstRow = 7
+        self.assertEqual(self.bar.value, 8)
+        self.g.LastRow = 299
+        self.assertEqual(self.bar.value, self.bar.max)
+
+    def test_steps_and_pages(self) -> None:
+        page = self.g.LastRow + 1
+        for code, row in ((1, 1), (1, 2), (0, 1), (0, 0), (3, page), (2, 0)):
+            self.bar.notify(code)
+            self.bar.notify(8)
+            self.assertEqual(self.g.FirstRow, row)
+        self.assertEqual(self.said(), ["Scroll"] * 6)
+
+    def test_the_ends(self) -> None:
+        self.bar.notify(7)
+        self.assertEqual((self.bar.value, self.g.LastRow), (self.bar.max, 299))
+        self.bar.notify(6)
+        self.assertEqual((self.bar.value, self.g.FirstRow), (1, 0))
+
+    def test_a_drag_of_the_thumb_scrolls_at_its_end(self) -> None:
+        self.bar.notify(5, 31)
+        self.bar.notify(5, track_pos=41)
+        self.assertEqual(self.g.FirstRow, 0)
+        self.assertEqual(self.g.host.log[-1], ("ScrollTrackRow", {"Row": 40}))
+        self.bar.notify(4)
+        self.bar.notify(8)
+        self.assertEqual(self.g.FirstRow, 40)
+        self.assertEqual(self.said(), ["ScrollTrackRow", "ScrollTrackRow", "Scroll"])
+
+    def test_a_bar_without_a_user_hears_nothing(self) -> None:
+        self.g.ScrollVEnabled = False
+        self.assertIs(self.bar.enabled, False)
+        self.bar.notify(1)
+        self.g.ScrollVEnabled = True
+        self.g.Redraw = False
+        self.bar.notify(1)
+        self.g.Redraw = True
+        self.assertEqual(self.g.FirstRow, 0)
+        self.bar.notify(1)
+        self.assertEqual(self.g.FirstRow, 1)
+
+    def test_a_person_scrolls_by_the_arrows_the_trough_and_the_thumb(self) -> None:
+        host, bar = self.g.host, self.bar
+        x, bottom = bar.left + 5, bar.top + bar.height
+        page = self.g.LastRow + 1
+        host.click_at(x, bottom - 5)
+        self.assertEqual(self.g.FirstRow, 1)
+        host.click_at(x, bar.top + 5)
+        self.assertEqual(self.g.FirstRow, 0)
+        host.click_at(x, bottom - bar.width - 5)
+        self.assertEqual(self.g.FirstRow, page)
+        self.g.FirstRow = 0
+        host.drag(x, bar.top + bar.width + 2, x, 1000)
+        self.assertEqual(bar.value, bar.max)
+
+    def test_other_codes_and_positions(self) -> None:
+        for code in (-1, 9, 100):
+            self.fails(5, self.bar.notify, code)
+        self.fails(6, self.bar.notify, 5, 2**31)
+        self.fails(13, self.bar.notify, "line")
+        self.fails(13, self.bar.notify, 5, "place")
+
+    def test_other_children_are_no_bars(self) -> None:
+        for name in ("txtTmp", "cboTmp", "fraEdit", "cPivot", "picSplitCol", "picSplitMove"):
+            child = self.g.host.child(name)
+            for use in (
+                lambda: child.min,
+                lambda: child.max,
+                lambda: child.value,
+                lambda: child.notify(0),
+            ):
+                self.fails(438, use)
+
+    def test_a_handler_that_raises_comes_out_of_the_notification(self) -> None:
+        @self.g.on("Scroll")
+        def fail(e: vornix.events.Scroll) -> None:
+            raise LookupError("in the handler")
+
+        with self.assertRaises(LookupError):
+            self.bar.notify(1)
+        self.assertEqual(self.g.FirstRow, 1)
+
+
+class TestSplit(GridTest):
+    def test_a_person_drags_the_handle(self) -> None:
+        g = self.g
+        g.Cols = 20
+        g.ShowSplit = True
+        handle = g.host.child("picSplitCol")
+        self.assertTrue(handle.visible)
+        g.host.clear_log()
+        edge = sum(g.ColWidth[col] for col in range(-1, 2))
+        g.host.drag(handle.left + 2, handle.top + 5, edge + 5, handle.top + 5)
+        self.assertEqual(g.host.log, [("SplitCols", {"Cols": 2})])
+        self.assertEqual(g.SplitCols, 2)
+        self.assertFalse(g.host.child("picSplitMove").visible)
+
+
+class TestPointerShape(GridTest):
+    def test_the_shape_says_what_can_be_sized(self) -> None:
+        host = self.g.host
+        self.assertEqual(host.pointer_shape, "default")
+        host.mouse_move(self.g.ColWidth[-1] + self.g.ColWidth[0] - 2, 5)
+        self.assertEqual(host.pointer_shape, "size_we")
+        host.mouse_move(5, self.g.RowHeight[-1] + self.g.RowHeight[0] - 2)
+        self.assertEqual(host.pointer_shape, "size_ns")
+        host.click_at(-5, -5)
+        self.assertEqual(host.pointer_shape, "size_ns")
+        host.tick()
+        self.assertEqual(host.pointer_shape, "default")
 
 
 class TestRecords(GridTest):

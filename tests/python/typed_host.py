@@ -33,6 +33,8 @@ def use(g: vornix.Grid) -> None:
     g.off("CellChange", refuse)
     g.host.key_press("a")
     left: int = g.host.child("scrV").left
+    bar = g.host.child("scrV")
+    bar.notify(5, track_pos=bar.min + bar.max - bar.value)
     print(place, size, parent, merged, texts, left)
 
     @g.on("KeyDown")
@@ -64,6 +66,8 @@ def misuse(g: vornix.Grid) -> Any:
     g.on("NoSuch", print)  # wrong
     g.on("KeyDown", refuse)  # wrong
     g.host.log = []  # wrong
+    g.host.child("scrV").value = 3  # wrong
+    g.host.child("scrV").notify()  # wrong
     vornix.vxCheckBox = 3  # wrong
     return vornix.vxNoSuch  # wrong
 

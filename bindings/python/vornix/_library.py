@@ -158,6 +158,10 @@ class PictureInfo(Structure):
     ]
 
 
+class BarInfo(Structure):
+    _fields_ = [("min", c_int32), ("max", c_int32), ("page", c_int32), ("value", c_int32)]
+
+
 class ChildInfo(Structure):
     _fields_ = [
         ("visible", c_int32),
@@ -237,6 +241,8 @@ _STATUS_FUNCTIONS = {
     "vornix_host_press": [_handle, c_char_p, c_int16],
     "vornix_host_press_code": [_handle, c_int16, c_int16],
     "vornix_host_child": [_handle, c_char_p, POINTER(ChildInfo)],
+    "vornix_host_bar": [_handle, c_char_p, POINTER(BarInfo)],
+    "vornix_host_notify_bar": [_handle, c_char_p, c_int32, _i32_out],
     "vornix_host_clear_log": [_handle],
     "vornix_host_log_count": [_handle, _size_out],
     "vornix_host_log_at": [_handle, c_size_t, _i32_out, _values, c_size_t, _size_out],

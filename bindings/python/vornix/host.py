@@ -27,8 +27,9 @@ class Host(Unique):
     """What a form and a person do to the control, and what the control says and shows.
 
     Places are pixels of the client area. Buttons are 1 left, 2 right, 4 middle; shift is a sum of
-    1 Shift, 2 Ctrl and 4 Alt. What a person does reaches the control only while it is shown; single
-    notifications always do.
+    1 Shift, 2 Ctrl and 4 Alt. What a person does reaches the control only while it is shown, and the
+    window on top there: a bar scrolls by its arrows, its trough and its thumb, the handle of the
+    split is dragged. Single notifications always reach the control.
     """
 
     __slots__ = ("_session",)
@@ -112,7 +113,8 @@ class Host(Unique):
         self._session.call(library.vornix_host_wheel, to_i32(delta))
 
     def tick(self) -> None:
-        """One tick of the control's timer."""
+        """One tick of the control's timer, whether it runs or not: the control looks whether the
+        pointer, which is where the latest notification or person put it, is still over it."""
         self._session.call(library.vornix_host_tick)
 
     def key_down(self, code: int, shift: int = 0) -> int:
@@ -336,7 +338,7 @@ class Child(Unique):
         """The height in pixels."""
         return int(self._info().height)
 
-    # What editors and bars have besides. None of it is built yet: error 445.
+    # What editors have besides. None of it is built yet: error 445.
 
     def _not_built(self, what: str) -> NoReturn:
         self._session.require_open()
@@ -395,24 +397,38 @@ class Child(Unique):
         """Clicks an item of a combo box."""
         self._not_built("The list")
 
+    # What bars have besides. Of other children it is error 438.
+
+    def _bar(self) -> _library.BarInfo:
+        info = _library.BarInfo()
+        self._session.call(library.vornix_host_bar, to_name(self._name), ctypes.byref(info))
+        return info
+
     @property
     def min(self) -> int:
         """The lowest position of a bar."""
-        self._not_built("The range")
+        return int(self._bar().min)
 
     @property
     def max(self) -> int:
         """The highest position of a bar."""
-        self._not_built("The range")
+        return int(self._bar().max)
 
     @property
     def value(self) -> int:
         """The position of a bar."""
-        self._not_built("The position")
+        return int(self._bar().value)
 
     def notify(self, code: int, track_pos: Optional[int] = None) -> None:
-        """The platform reports what was done to a bar: one of the SB_ codes, 0 to 8."""
-        self._not_built("The bar")
+        """What its user does to a bar, as a number of the platform; nothing else follows from it.
+
+        0 and 1 a line up and down, 2 and 3 a page, 4 the thumb let go (not used), 5 the thumb
+        dragged to track_pos, 6 to the top, 7 to the bottom, 8 behind each of the others. A bar that
+        is disabled or hidden, or whose grid has Redraw off, hears nothing. Error 5 for other codes.
+        """
+        held = None if track_pos is None else ctypes.byref(ctypes.c_int32(to_i32(track_pos)))
+        call = library.vornix_host_notify_bar
+        self._session.call(call, to_name(self._name), to_i32(code), held)
 
     def __repr__(self) -> str:
         whose = _whose(self._session)

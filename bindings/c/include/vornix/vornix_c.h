@@ -348,13 +348,15 @@ VORNIX_API int32_t vornix_host_mouse_up(vornix_grid* grid, float x, float y, int
 VORNIX_API int32_t vornix_host_click(vornix_grid* grid);
 VORNIX_API int32_t vornix_host_dbl_click(vornix_grid* grid);
 VORNIX_API int32_t vornix_host_wheel(vornix_grid* grid, int32_t delta);
+/* One tick of the control's timer, whether it runs or not: the control looks whether the pointer is still over it. The
+ * pointer is where the latest notification or person put it; elsewhere before the first one. */
 VORNIX_API int32_t vornix_host_tick(vornix_grid* grid);
 VORNIX_API int32_t vornix_host_key_down(vornix_grid* grid, int16_t* code, int16_t shift);
 VORNIX_API int32_t vornix_host_key_press(vornix_grid* grid, int16_t* character);
 VORNIX_API int32_t vornix_host_key_up(vornix_grid* grid, int16_t* code, int16_t shift);
 
-/* What a person does: the window on top at the place gets the notifications in the platform's order; keys go to what
- * has the focus. A key is a name ("Left", "F2", "Escape", "Delete", "Back", "Return", "Tab", ...). */
+/* What a person does: the window on top at the place gets the notifications in the platform's order, and a bar scrolls
+ * by its arrows, its trough and its thumb; keys go to what has the focus. A key is a name ("Left", "F2", "Escape", "Delete", "Back", "Return", "Tab", ...). */
 VORNIX_API int32_t vornix_host_click_at(vornix_grid* grid, float x, float y, int16_t button, int16_t shift);
 VORNIX_API int32_t vornix_host_dbl_click_at(vornix_grid* grid, float x, float y, int16_t button, int16_t shift);
 VORNIX_API int32_t vornix_host_drag(
@@ -373,6 +375,31 @@ typedef struct vornix_child_info {
 } vornix_child_info;
 /* "scrV", "scrH", "txtTmp", "cboTmp", "fraEdit", "cPivot", "picSplitCol", "picSplitMove"; error 5 for other names. */
 VORNIX_API int32_t vornix_host_child(vornix_grid* grid, const char* name, vornix_child_info* info);
+
+typedef struct vornix_bar_info {
+    int32_t min;
+    int32_t max;
+    int32_t page;
+    int32_t value;
+} vornix_bar_info;
+/* Of the bars "scrV" and "scrH"; error 438 for the other children. */
+VORNIX_API int32_t vornix_host_bar(vornix_grid* grid, const char* name, vornix_bar_info* info);
+/* What its user does to a bar, nothing implied: a notification by its number. */
+enum {
+    VORNIX_SB_LINEUP = 0,
+    VORNIX_SB_LINEDOWN = 1,
+    VORNIX_SB_PAGEUP = 2,
+    VORNIX_SB_PAGEDOWN = 3,
+    VORNIX_SB_THUMBPOSITION = 4, /* the thumb is let go: not used */
+    VORNIX_SB_THUMBTRACK = 5, /* the thumb is dragged */
+    VORNIX_SB_TOP = 6,
+    VORNIX_SB_BOTTOM = 7,
+    VORNIX_SB_ENDSCROLL = 8 /* behind each of the others */
+};
+/* track_position: where the thumb is held, limited to the range; null where it was. A disabled bar has no user; a hidden
+ * one, and one of a control whose Redraw is off, goes unheard. Error 5 for another number. */
+VORNIX_API int32_t vornix_host_notify_bar(
+    vornix_grid* grid, const char* name, int32_t code, const int32_t* track_position);
 
 /* What the control said since the log was cleared: events as they were raised, handled or not, and the names of the
  * properties that PropertyChanged reported. */

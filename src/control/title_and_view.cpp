@@ -93,7 +93,9 @@ void Vornix::SetShowSplit(bool Value)
         control->funnel.RecalcLayout(false);
     else
         control->funnel.PaintSplitBar();
-    if (Value && control->container.Child(ChildName::scrH).IsVisible())
+    // A handler of the paint may have switched it off again.
+    const bool isShown = layout.Settings.ShowSplit && !control->IsClosed();
+    if (isShown && control->container.Child(ChildName::scrH).IsVisible())
         control->container.Child(ChildName::picSplitCol).Show(true);
     control->Report("ShowSplit");
 }

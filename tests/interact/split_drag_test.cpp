@@ -66,6 +66,27 @@ TEST_F(SplitDragTest, ALineFollowsThePointer)
     EXPECT_FALSE(Line().IsVisible());
 }
 
+TEST_F(SplitDragTest, TheLineIsDrawnAnewWhereverItGoes)
+{
+    const auto isInverted = [this] {
+        const Device* const canvas = Line().Canvas();
+        const int left = Line().Place().left;
+        for (int y = 0; canvas && y < 183; ++y) {
+            if (canvas->GetPixel(1, y) != (host->Pixel(left + 1, y) ^ 0xFFFFFF))
+                return false;
+        }
+        return canvas != nullptr;
+    };
+    for (i16 Row = 0; Row < 8; ++Row)
+        Grid().SetCellBackColor(Row, 1, 0x123456 + Row);
+    Press(3);
+    EXPECT_TRUE(isInverted());
+    Move(200);
+    EXPECT_TRUE(isInverted());
+    Move(40);
+    EXPECT_TRUE(isInverted());
+}
+
 TEST_F(SplitDragTest, WithoutAPressThereIsNoDrag)
 {
     Move(200);

@@ -604,9 +604,10 @@ public:
     bool IsSizingMode() const;
     // Public row, in virtual mode the place in the list, and public column; NoIndex without a current cell. Written, the
     // editor closes without an event, the cell moves, snaps to the parent of its span and comes into view; the selection
-    // stays, and neither CellChange nor ValidateRow is raised. A hidden line gives way to the next visible one in the
-    // direction of the move. Fixed lines and lines that there are not are ignored, but for the mark of the current cell,
-    // which is off until the cell is painted again.
+    // stays, and neither CellChange nor ValidateRow is raised. A hidden line, or one without a size, gives way to the next
+    // visible one in the direction of the move: where only hidden rows are left the value is ignored, while a column goes
+    // on in the row behind or before, and is ignored where there is none. Fixed lines and lines that there are not are
+    // ignored, but for the mark of the current cell, which is off until the cell is painted again.
     i32 CurrentRow() const;
     void SetCurrentRow(i32 Value);
     i16 CurrentCol() const;

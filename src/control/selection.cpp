@@ -94,10 +94,12 @@ bool Vornix::GetSelectedCells(i16& Row1, i16& Col1, i16& Row2, i16& Col2)
     if (!cells)
         return false;
     const auto& [first, second] = *cells;
-    Row1 = control->PublicRow(first.row);
-    Col1 = control->PublicCol(first.col);
-    Row2 = control->PublicRow(second.row);
-    Col2 = control->PublicCol(second.col);
+    const auto [firstRow, firstCol] = std::pair(control->PublicRow(first.row), control->PublicCol(first.col));
+    const auto [secondRow, secondCol] = std::pair(control->PublicRow(second.row), control->PublicCol(second.col));
+    Row1 = firstRow;
+    Col1 = firstCol;
+    Row2 = secondRow;
+    Col2 = secondCol;
     return true;
 }
 

@@ -86,6 +86,54 @@ TEST_F(GridSelectionTest, CollapsingLeavesTheDragAlone)
     EXPECT_EQ(Shown().size(), 2u * 8u);
 }
 
+TEST_F(GridSelectionTest, ResetForgetsAllOfATableThatIsNoMore)
+{
+    selection.Ranges().AddCols(true, 3, 4);
+    selection.Ranges().AddCols(false, 6, 6);
+    selection.Anchor = { 2, 3 };
+    selection.End = { 4, 5 };
+    selection.PressKind = SelectionKind::Rows;
+    selection.BeginDrag();
+    selection.DragBetweenCorners();
+    selection.DragRowsToPaintedEnd(2);
+    selection.AdvanceWalk();
+    ASSERT_EQ(selection.LineAt(2), 6);
+
+    selection.Reset();
+    EXPECT_EQ(selection.Ranges().Count(), 0);
+    EXPECT_EQ(selection.Ranges().Mode(), SelectionKind::None);
+    EXPECT_EQ(selection.Anchor, (CellIndex { NoIndex, NoIndex }));
+    EXPECT_EQ(selection.End, (CellIndex { NoIndex, NoIndex }));
+    EXPECT_EQ(selection.PressKind, SelectionKind::None);
+    EXPECT_FALSE(selection.IsDragging());
+    EXPECT_EQ(selection.DragRows().first, 0);
+    EXPECT_EQ(selection.DragCols().last, 0);
+    selection.PaintRangeChanged(5, 5);
+    EXPECT_EQ(selection.DragRows().last, 0) << "no drag follows the paint";
+    selection.Ranges().AddCols(true, 4, 4);
+    selection.Ranges().AddCols(false, 5, 5);
+    EXPECT_EQ(selection.NextCols()->first, 4) << "the walk begins with the first";
+    EXPECT_EQ(selection.LineAt(1), 5) << "and so does the count";
+    EXPECT_EQ(Shown().size(), 2 * 7u);
+}
+
+TEST_F(GridSelectionTest, ARangeIsReadAgainUntilTheWalkAdvances)
+{
+    selection.Ranges().AddRows(true, 1, 2);
+    selection.Ranges().AddRows(false, 5, 5);
+    selection.BeginWalk();
+    for (int times = 0; times < 2; ++times) {
+        const auto rows = selection.NextRows();
+        ASSERT_TRUE(rows);
+        EXPECT_EQ(std::pair(rows->first, rows->last), std::pair(1, 2));
+    }
+    selection.AdvanceWalk();
+    EXPECT_EQ(selection.NextRows()->first, 5);
+    EXPECT_FALSE(selection.NextCols()) << "of the other kind";
+    selection.AdvanceWalk();
+    EXPECT_FALSE(selection.NextRows());
+}
+
 TEST_F(GridSelectionTest, ShowsWhatIsSelectedByItsKind)
 {
     selection.Ranges().AddCells(true, 2, 3, 3, 4);

@@ -47,6 +47,26 @@ TEST_F(SelectedLook, RectanglesAreSeenWhereTheyAre)
     EXPECT_THAT(Seen(), IsEmpty());
 }
 
+// Only keys that extend a selection from a fixed cell draw such a rectangle.
+TEST_F(SelectedLook, ARectangleDrawnOverFixedCellsIsSeenBehindThem)
+{
+    constexpr i16 right = 39;
+    constexpr i16 down = 40;
+    Grid().SetCellSelection(true);
+    Grid().CurrentPos(0, 0);
+    host->KeyDown(right); // selecting by keys is for cells from now on
+    Grid().CurrentPos(-1, -1);
+    host->KeyDown(right);
+    for (const i16 code : { down, down, right })
+        host->KeyDown(code, 1);
+    EXPECT_EQ(Grid().SelectCountCell(), 6);
+    EXPECT_FALSE(Grid().CellSelected(-1, 0));
+    EXPECT_FALSE(Grid().CellSelected(-1, 1));
+    EXPECT_TRUE(Grid().CellSelected(0, 0));
+    EXPECT_TRUE(Grid().CellSelected(1, 1));
+    EXPECT_THAT(Seen(), ElementsAre(CellPlace { 0, 0 }, CellPlace { 0, 1 }, CellPlace { 1, 0 }, CellPlace { 1, 1 }));
+}
+
 TEST_F(SelectedLook, LinesReachIntoTheFillersButNotIntoFixedCells)
 {
     Grid().SetRowSelected(2, true);

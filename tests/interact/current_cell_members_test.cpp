@@ -161,6 +161,34 @@ TEST_F(CurrentCellMembers, AHiddenLastRowIsNotReached)
     EXPECT_EQ(Current(), (CellPlace { 1, 1 }));
 }
 
+TEST_F(CurrentCellMembers, AHiddenLineWithNoneToGiveWayToMakesNoCurrentCell)
+{
+    Table(1, 4, 1, 1);
+    Grid().SetColHide(3, true);
+    Grid().SetCurrentCol(3);
+    EXPECT_EQ(Current(), Nowhere);
+    Table(5, 4, 1, 1);
+    Grid().SetRowHide(4, true);
+    Grid().SetCurrentRow(4);
+    EXPECT_EQ(Current(), Nowhere);
+    Grid().SetRowHide(0, true);
+    Grid().SetCurrentRow(0);
+    EXPECT_EQ(Current(), (CellPlace { 1, 0 }));
+}
+
+TEST_F(CurrentCellMembers, ARowWithoutHeightIsHiddenToo)
+{
+    Grid().SetRowHeight(2, 0);
+    ASSERT_FALSE(Grid().RowHide(2));
+    Grid().SetCurrentRow(2);
+    EXPECT_EQ(Current(), (CellPlace { 3, 0 }));
+    Grid().SetCurrentRow(2);
+    EXPECT_EQ(Current(), (CellPlace { 1, 0 }));
+    Grid().SetRowHeight(0, 0);
+    Grid().SetCurrentRow(0);
+    EXPECT_EQ(Current(), (CellPlace { 1, 0 })) << "no row above it";
+}
+
 TEST_F(CurrentCellMembers, SnapToTheParentOfASpan)
 {
     Grid().SetRowSpan(1, 1, 2);

@@ -75,7 +75,11 @@ public:
     i32 Offset() const override { return offset; }
     i32 Length() const override { return length; }
     void RollPage() override { calls_.push_back("RollPage"); }
-    void RollPageWithCurrent() override { calls_.push_back("RollPageWithCurrent"); }
+    void RollPageWithCurrent() override
+    {
+        calls_.push_back("RollPageWithCurrent");
+        roll();
+    }
     void GotoListPosition(i32 position) override
     {
         calls_.push_back("GotoListPosition " + std::to_string(position));
@@ -86,6 +90,7 @@ public:
     i32 offset = 0;
     i32 length = 0;
     std::function<void(i32)> then = [](i32) {};
+    std::function<void()> roll = [] {};
 
 private:
     Calls& calls_;
@@ -139,11 +144,11 @@ private:
 // 6 rows and 4 columns behind one fixed line of each kind: internal indices are one above public ones.
 class KeyboardDesk : public testing::Test {
 protected:
-    explicit KeyboardDesk(i32 rows = 6, i32 cols = 4)
+    explicit KeyboardDesk(i32 rows = 6, i32 cols = 4, i32 fixedRows = 1)
     {
         bag.WriteProperty("Rows", rows);
         bag.WriteProperty("Cols", cols);
-        bag.WriteProperty("FixedRows", 1);
+        bag.WriteProperty("FixedRows", fixedRows);
         bag.WriteProperty("FixedCols", 1);
         control.ReadSettings(bag);
         control.Load();

@@ -196,5 +196,40 @@ TEST_F(KeyboardAndEditor, ADragThatWaitsIsDroppedByEveryMove)
     EXPECT_TRUE(control.selection.IsDragging());
 }
 
+class KeyboardWithoutCells : public KeyboardDesk {
+protected:
+    KeyboardWithoutCells()
+        : KeyboardDesk(0, 0)
+    {
+    }
+};
+
+TEST_F(KeyboardWithoutCells, ADragThatWaitsIsDroppedByStepsThatStopEarlyToo)
+{
+    for (const int shift : { Shifts::None, Shifts::Ctrl }) {
+        for (const int key : { Keys::Home, Keys::End, Keys::PageDown, Keys::PageUp, Keys::Up, Keys::Down }) {
+            const bool isPage = key == Keys::PageDown || key == Keys::PageUp;
+            const bool isArrow = key == Keys::Up || key == Keys::Down;
+            control.selection.BeginDrag();
+            Press(key, shift);
+            const bool isStep = shift == Shifts::None ? !isArrow : !isPage;
+            EXPECT_EQ(control.selection.IsDragging(), !isStep) << key << " with " << shift;
+        }
+    }
+}
+
+TEST_F(KeyboardWithoutCells, BeforeThereIsATableNothingIsCurrent)
+{
+    Control early { host, events };
+    bag.WriteProperty("Rows", 5);
+    bag.WriteProperty("Cols", 5);
+    early.ReadSettings(bag);
+    for (int key = Keys::Space; key <= Keys::Down; ++key) {
+        for (const int shift : { Shifts::None, Shifts::Shift, Shifts::Ctrl })
+            EXPECT_FALSE(ErrorOf([&] { early.keyboard.KeyDown(key, shift); })) << key;
+    }
+    EXPECT_FALSE(early.current.IsValid());
+}
+
 } // namespace
 } // namespace vornix

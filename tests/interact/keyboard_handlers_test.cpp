@@ -118,12 +118,18 @@ protected:
         for (const auto& [code, shift] : keys) {
             if (Grid().IsTerminated())
                 return;
+            const bool wasBody = IsInBody();
             const std::optional<int> error = ErrorOf([&, code = code, shift = shift] { host->KeyDown(code, shift); });
             EXPECT_TRUE(!error || std::string_view(deed.name) == "fails") << *error;
-            if (!Grid().IsTerminated())
-                CheckCurrent();
+            if (Grid().IsTerminated())
+                return;
+            CheckCurrent();
+            const bool isHostsMove = std::string_view(deed.name) == "moves it to a fixed one";
+            EXPECT_TRUE(!wasBody || isHostsMove || IsInBody() || Current() == Nowhere)
+                << "no key leads from the body to a fixed cell: " << code << " with " << shift;
         }
     }
+    bool IsInBody() { return Current().Row >= 0 && Current().Col >= 0; }
     void CheckCurrent()
     {
         const i32 Row = Grid().CurrentRow();

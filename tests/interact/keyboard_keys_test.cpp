@@ -84,6 +84,17 @@ TEST_F(KeyboardKeys, HiddenLinesArePassedOver)
     EXPECT_EQ(Key(Code::Up), (Lines { "ValidateRow", "CellChange Row=0 Col=0 bCancel=0" }));
 }
 
+TEST_F(KeyboardKeys, AWrapIntoAHiddenRowIsLeftUpAndDown)
+{
+    Grid().SetRowHide(2, true);
+    Grid().CurrentPos(1, 3);
+    EXPECT_EQ(Key(Code::Right), (Lines { "ValidateRow", "CellChange Row=2 Col=0 bCancel=0" })) << "by index";
+    EXPECT_EQ(Key(Code::Down), (Lines { "ValidateRow", "CellChange Row=3 Col=0 bCancel=0" }));
+    EXPECT_EQ(Key(Code::Left), (Lines { "ValidateRow", "CellChange Row=2 Col=3 bCancel=0" }));
+    EXPECT_EQ(Key(Code::Up), (Lines { "ValidateRow", "CellChange Row=1 Col=3 bCancel=0" }));
+    EXPECT_EQ(Key(Code::Down), (Lines { "ValidateRow", "CellChange Row=3 Col=3 bCancel=0" })) << "over it";
+}
+
 TEST_F(KeyboardKeys, DownLeavesASpanBelowItsLastRow)
 {
     Grid().SetRowSpan(1, 1, 3);
@@ -127,6 +138,65 @@ TEST_F(KeyboardKeys, AMoveOfTheHostTakesThePlaceOfTheKeys)
     handlers.OnValidateRow = [&] { Grid().SetCurrentCol(0); };
     EXPECT_EQ(Key(Code::Up), (Lines { "ValidateRow", "CellChange Row=3 Col=3 bCancel=0" }));
     EXPECT_EQ(Current(), (CellPlace { 4, 0 }));
+}
+
+TEST_F(KeyboardKeys, EitherLineThatTheHostWritesIsItsMove)
+{
+    handlers.OnCellChange = [&](i16, i16, bool&) { Grid().SetCurrentRow(4); };
+    Grid().CurrentPos(1, 1);
+    Key(Code::Right);
+    EXPECT_EQ(Current(), (CellPlace { 4, 1 }));
+    handlers.OnCellChange = [&](i16, i16, bool&) { Grid().SetCurrentCol(3); };
+    Key(Code::Up);
+    EXPECT_EQ(Current(), (CellPlace { 4, 3 }));
+}
+
+TEST_F(KeyboardKeys, AValueThatIsRefusedIsNoMoveOfTheHost)
+{
+    handlers.OnCellChange = [&](i16, i16, bool&) {
+        Grid().SetCurrentRow(9999);
+        Grid().SetCurrentCol(-1);
+        Grid().CurrentPos(0, 9999);
+    };
+    Grid().CurrentPos(1, 1);
+    Key(Code::Right);
+    EXPECT_TRUE(IsMarkedAlone(1, 2));
+}
+
+TEST_F(KeyboardKeys, AMoveOfTheHostStaysWhenItRefusesToo)
+{
+    handlers.OnCellChange = [&](i16, i16, bool& bCancel) {
+        Grid().CurrentPos(4, 3);
+        bCancel = true;
+    };
+    Grid().CurrentPos(1, 1);
+    Key(Code::Right);
+    EXPECT_TRUE(IsMarkedAlone(4, 3));
+}
+
+TEST_F(KeyboardKeys, ATargetThatBecomesAnotherCellIsNotTaken)
+{
+    const std::vector<std::function<void()>> changes { [&] { Grid().SetFixedRows(4); }, [&] { Grid().SetFixedCols(3); },
+        [&] { Grid().SetFixedRows(0); }, [&] { Grid().SetFixedCols(0); } };
+    for (const auto& change : changes) {
+        for (const i16 code : { Code::Left, Code::Right, Code::Up, Code::Down }) {
+            Table(5, 4, 1, 1);
+            Grid().CurrentPos(0, 0);
+            Key(Code::Down);
+            Key(Code::Right);
+            ASSERT_EQ(Current(), (CellPlace { 1, 1 }));
+            handlers.OnCellChange = [&](i16, i16, bool&) { change(); };
+            Key(code);
+            EXPECT_EQ(Current(), (CellPlace { 1, 1 })) << "where the cell is now";
+            handlers.OnCellChange = nullptr;
+        }
+        Table(5, 4, 1, 1);
+        Grid().CurrentPos(1, 1);
+        handlers.OnValidateRow = change;
+        EXPECT_EQ(Key(Code::Down), Lines { "ValidateRow" }) << "it is not asked for either";
+        EXPECT_EQ(Current(), (CellPlace { 1, 1 }));
+        handlers.OnValidateRow = nullptr;
+    }
 }
 
 TEST_F(KeyboardKeys, TheMarkGoesWithTheCell)
@@ -288,6 +358,22 @@ TEST_F(KeyboardKeys, TheyLeaveTheSelectionAndArrowsEmptyIt)
     EXPECT_FALSE(Grid().CellSelected(1, 1));
     EXPECT_EQ(Grid().SelectCountCell(), 0);
     EXPECT_TRUE(IsMarkedAlone(1, 2));
+}
+
+TEST_F(KeyboardKeys, UnderACaptionTheyAreTheSame)
+{
+    Grid().SetCaption(u"Title");
+    Grid().SetCaptionEnabled(true);
+    Grid().CurrentPos(0, 0);
+    EXPECT_EQ(Key(Code::Up), Lines {}) << "the caption is no row of the body";
+    EXPECT_EQ(Key(Code::Down), (Lines { "ValidateRow", "CellChange Row=1 Col=0 bCancel=0" }));
+    EXPECT_EQ(Key(Code::Right), Lines { "CellChange Row=1 Col=1 bCancel=0" });
+    EXPECT_TRUE(IsMarkedAlone(1, 1));
+    EXPECT_EQ(Key(Code::Home, 2), Lines {});
+    EXPECT_EQ(Current(), (CellPlace { 0, 0 }));
+    Grid().CurrentPos(-1, 1);
+    EXPECT_EQ(Key(Code::Right), Lines { "CellChange Row=-1 Col=2 bCancel=0" });
+    EXPECT_EQ(Key(Code::Down), (Lines { "ValidateRow", "CellChange Row=0 Col=2 bCancel=0" }));
 }
 
 TEST_F(KeyboardKeys, ReachTheEndsOfTheLongestTable)

@@ -78,6 +78,94 @@ TEST_F(KeyboardScrolling, AColumnCutOffAtTheLeftIsSquared)
     EXPECT_EQ(Key(Code::Right), Lines { "CellChange Row=3 Col=6 bCancel=0" });
 }
 
+TEST_F(KeyboardScrolling, RightOntoAColumnCutOffAtTheLeftBringsItWhole)
+{
+    Grid().SetScrollHBar(vxScrollSmooth);
+    Grid().SetFirstCol(5);
+    Grid().ScrollBarNotify(ChildName::scrH, 1);
+    Grid().ScrollBarNotify(ChildName::scrH, 8);
+    ASSERT_EQ(Grid().FirstCol(), 5);
+    ASSERT_FALSE(Grid().IsVisibleCol(5));
+    // A current cell before the view, to which nothing has scrolled.
+    Grid().SetRedraw(false);
+    const i32 value = host->HorizontalBar().Value();
+    Grid().CurrentPos(3, 4);
+    Grid().SetFirstCol(5);
+    Grid().SetRedraw(true);
+    Grid().ScrollBarNotify(ChildName::scrH, 1);
+    Grid().ScrollBarNotify(ChildName::scrH, 8);
+    ASSERT_EQ(host->HorizontalBar().Value(), value);
+    ASSERT_FALSE(Grid().IsVisibleCol(5));
+    EXPECT_EQ(Key(Code::Right), (Lines { "CellChange Row=3 Col=5 bCancel=0", "Scroll" }));
+    EXPECT_TRUE(Grid().IsVisibleCol(5));
+    EXPECT_EQ(Grid().LastCol(), 5) << "as the last whole one";
+    EXPECT_EQ(Grid().FirstCol(), 2);
+}
+
+TEST_F(KeyboardScrolling, TheCaptionTakesPartInNoScroll)
+{
+    Grid().SetCaption(u"Title");
+    Grid().SetCaptionEnabled(true);
+    const i16 last = Grid().LastRow();
+    Grid().CurrentPos(last, 0);
+    EXPECT_EQ(Key(Code::Down).back(), "Scroll");
+    EXPECT_EQ(Grid().FirstRow(), 1);
+    EXPECT_TRUE(IsMarkedAlone(static_cast<i16>(last + 1), 0));
+    Grid().SetFirstCol(10);
+    Grid().CurrentPos(-1, 20);
+    EXPECT_EQ(Grid().FirstCol(), 10) << "one cell over the whole width";
+}
+
+class KeyboardBesideASplit : public KeyboardScrolling {
+protected:
+    KeyboardBesideASplit()
+    {
+        Grid().SetShowSplit(true);
+        Grid().SetSplitCols(2);
+        Grid().SetFirstCol(10);
+        host->ClearLog();
+    }
+};
+
+TEST_F(KeyboardBesideASplit, LeftIntoTheSplitColumnsScrollsNothing)
+{
+    Grid().CurrentPos(3, 1);
+    EXPECT_EQ(Key(Code::Left), Lines { "CellChange Row=3 Col=0 bCancel=0" });
+    EXPECT_EQ(Key(Code::Right), Lines { "CellChange Row=3 Col=1 bCancel=0" });
+    EXPECT_EQ(Grid().FirstCol(), 10);
+    Grid().CurrentPos(3, 2);
+    Grid().SetFirstCol(10);
+    EXPECT_EQ(Key(Code::Left), Lines { "CellChange Row=3 Col=1 bCancel=0" });
+    EXPECT_EQ(Grid().FirstCol(), 10);
+    EXPECT_TRUE(IsMarkedAlone(3, 1));
+}
+
+TEST_F(KeyboardBesideASplit, RightOutOfTheSplitColumnsBringsTheFirstThatScrolls)
+{
+    Grid().CurrentPos(3, 1);
+    EXPECT_EQ(Key(Code::Right), (Lines { "CellChange Row=3 Col=2 bCancel=0", "Scroll" }));
+    EXPECT_EQ(Grid().FirstCol(), 2);
+    EXPECT_TRUE(IsMarkedAlone(3, 2));
+}
+
+TEST_F(KeyboardBesideASplit, LeftBeforeTheViewScrollsToTheColumn)
+{
+    Grid().CurrentPos(3, 10);
+    EXPECT_EQ(Key(Code::Left), (Lines { "CellChange Row=3 Col=9 bCancel=0", "Scroll" }));
+    EXPECT_EQ(Grid().FirstCol(), 9);
+}
+
+TEST_F(KeyboardBesideASplit, TheWrapsLeadIntoTheSplitColumnsAndOutOfThem)
+{
+    Grid().CurrentPos(3, 39);
+    const i16 first = Grid().FirstCol();
+    EXPECT_EQ(Key(Code::Right), (Lines { "ValidateRow", "CellChange Row=4 Col=0 bCancel=0" }));
+    EXPECT_EQ(Grid().FirstCol(), first) << "it is in sight";
+    Grid().SetFirstCol(10);
+    EXPECT_EQ(Key(Code::Left), (Lines { "ValidateRow", "CellChange Row=3 Col=39 bCancel=0" }));
+    EXPECT_TRUE(Grid().IsVisibleCol(39));
+}
+
 TEST_F(KeyboardScrolling, AWholeSpanComesIntoView)
 {
     const i16 last = Grid().LastRow();

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QStyleOptionSlider>
 #include <QTest>
+#include <QtTest/qtestspontaneevent.h>
 #include <QWheelEvent>
 
 #include <sstream>
@@ -143,7 +144,10 @@ bool LiveGridTest::Wheel(QPoint angle, QPoint pixels, Qt::KeyboardModifiers keys
         target = &window;
     QWheelEvent event(
         target->mapFrom(&window, place), window.mapToGlobal(place), pixels, angle, Qt::NoButton, keys, phase, false);
-    QApplication::sendEvent(target, &event);
+    // What nobody takes goes on to the parent only when it comes from a platform.
+    if (phase == Qt::NoScrollPhase)
+        QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(target, &event);
     return event.isAccepted();
 }
 

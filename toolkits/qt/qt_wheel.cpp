@@ -97,11 +97,12 @@ void QtWheel::MoveByPixels(ChildName bar, i32 pixels)
     });
 }
 
-// How many lines from the first one on, or back before it, the way covers.
+// How many lines from the first one on, or back before it, the way covers. Hidden ones count with a line behind them.
 i32 QtWheel::LinesIn(
     Rest& pixels, i32 first, i32 count, i16 (*sizeOf)(const Vornix& grid, i16 line), const Vornix& grid)
 {
     i32 at = first;
+    i32 reached = first;
     while (pixels.Kept() != 0) {
         const bool isForward = pixels.Kept() < 0;
         const i32 line = isForward ? at : at - 1;
@@ -114,8 +115,10 @@ i32 QtWheel::LinesIn(
             break;
         pixels.Use(isForward ? -size : size);
         at += isForward ? 1 : -1;
+        if (size > 0)
+            reached = at;
     }
-    return at - first;
+    return reached - first;
 }
 
 } // namespace vornix

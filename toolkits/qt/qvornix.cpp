@@ -275,8 +275,11 @@ void QVornix::PressTab(QKeyEvent& event)
 {
     const bool hadFocus = hasFocus();
     keyboard_->Press(event);
-    const bool isMine = hadFocus && hasFocus();
-    if (!event.isAccepted() && isMine && focusNextPrevChild(IsForward(event)))
+    if (event.isAccepted())
+        return;
+    // Where a handler has moved the focus, it is not to go on from there.
+    const bool isMoved = hadFocus && !hasFocus();
+    if (isMoved || focusNextPrevChild(IsForward(event)))
         event.accept();
 }
 

@@ -1,6 +1,7 @@
 // The grid's bars as Qt's own, used by the pointer, by Qt's menus and by assistive tools.
 #include "live_grid.h"
 
+#include <QDialog>
 #include <QTest>
 
 namespace vornix {
@@ -137,6 +138,22 @@ TEST_F(QtScrollBarTest, AHeldArrowRepeatsAndEndsWithTheRelease)
     const int first = Grid().FirstRow();
     QTest::qWait(150);
     EXPECT_TRUE(RowsAgree(first));
+}
+
+TEST_F(QtScrollBarTest, ARepetitionEndsWhereAnotherWindowTookTheRelease)
+{
+    const QPoint arrow = PartOf(V(), QStyle::SC_ScrollBarAddLine);
+    QDialog dialog(&window);
+    Press(arrow);
+    dialog.open();
+    Release(arrow);
+    dialog.close();
+    Settle();
+    const int first = Grid().FirstRow();
+    QTest::qWait(800); // longer than until the first repetition
+    EXPECT_TRUE(RowsAgree(first));
+    ClickOn(V(), QStyle::SC_ScrollBarAddLine);
+    EXPECT_TRUE(RowsAgree(first + 1));
 }
 
 // The horizontal bar of a grid that was loaded in smooth mode doubles its step until it is told of the end.

@@ -1,6 +1,7 @@
 #include "qt_scroll_bar.h"
 
 #include <QEvent>
+#include <QGuiApplication>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
@@ -51,7 +52,9 @@ public:
 protected:
     void mousePressEvent(QMouseEvent* event) override
     {
-        owner_.Hold();
+        // The right button brings up a menu, which takes the release for itself.
+        if (event->button() != Qt::RightButton)
+            owner_.Hold();
         QScrollBar::mousePressEvent(event);
     }
 
@@ -60,6 +63,15 @@ protected:
         QScrollBar::mouseReleaseEvent(event);
         if (event->buttons() == Qt::NoButton)
             owner_.LetGo();
+    }
+
+    // A handler may have brought up a window that took the release.
+    void timerEvent(QTimerEvent* event) override
+    {
+        if (!owner_.isHeld_ || QGuiApplication::mouseButtons() != Qt::NoButton)
+            return QScrollBar::timerEvent(event);
+        setRepeatAction(SliderNoAction);
+        owner_.LetGo();
     }
 
     void hideEvent(QHideEvent* event) override

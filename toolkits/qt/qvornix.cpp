@@ -1,6 +1,7 @@
 #include "vornix/qvornix.h"
 
 #include "picture_painter.h"
+#include "qt_accessible_news.h"
 #include "qt_container.h"
 #include "qt_keyboard.h"
 #include "qt_pointer.h"
@@ -59,6 +60,7 @@ QVornix::QVornix(VornixEvents& events, QWidget* parent)
     , pointer_(std::make_unique<QtPointer>(container_->Setting()))
     , wheel_(std::make_unique<QtWheel>(container_->Setting(), *container_))
     , keyboard_(std::make_unique<QtKeyboard>(container_->Setting()))
+    , accessibleNews_(std::make_unique<QtAccessibleNews>(*this, *container_))
 {
     container_->Attach(grid_.get());
     setMouseTracking(true);

@@ -12,6 +12,7 @@ class QPainter;
 
 namespace vornix {
 
+class QtAccessibleNews;
 class QtContainer;
 class QtKeyboard;
 class QtPointer;
@@ -26,6 +27,9 @@ class QtWheel;
 //
 // Pointer, wheel and keys are the grid's. Keys that neither the grid nor a handler uses go on to the form; Tab moves the
 // focus unless a handler of KeyDown sets its code to 0. The context menu is left to the host.
+//
+// Assistive tools find a table: fixed rows and columns are its headers, the title is its name unless accessibleName is
+// set, and the current cell has the focus.
 //
 // Inside an event of the grid the widget is deleted by deleteLater() only; Grid().Terminate() closes the grid at once
 // and leaves a widget that shows its last picture.
@@ -82,6 +86,7 @@ private:
     std::unique_ptr<QtPointer> pointer_;
     std::unique_ptr<QtWheel> wheel_;
     std::unique_ptr<QtKeyboard> keyboard_;
+    std::unique_ptr<QtAccessibleNews> accessibleNews_;
     bool painting_ = false;
 };
 

@@ -23,7 +23,7 @@ public:
     // The place of its row in the list that virtual mode shows a page of; kept by those who move the cell.
     i32 CursorPosition = 0;
     // The host, or the step of a key, has moved the cell. Cleared by a step that is about to ask the host whether the
-    // cell may move, and by a press; set behind the question, it takes the place of the step's own move.
+    // cell may move, by a press and by a release; set behind the question, it takes the place of the step's own move.
     bool HostMovedCurrent = false;
     // Events are on their way that may move the cell.
     bool IsEventGuardSet() const { return eventGuard_; }

@@ -112,20 +112,20 @@ std::optional<i32> GridSelection::LineAt(i32 place)
 void GridSelection::EndDrag()
 {
     dragging_ = false;
-    colsFollowPaint_ = false;
-    rowsFollowPaint_ = false;
+    colOfFollowing_.reset();
+    rowOfFollowing_.reset();
 }
 
 void GridSelection::SetDragCols(LineRange cols)
 {
     dragCols_ = cols;
-    colsFollowPaint_ = false;
+    colOfFollowing_.reset();
 }
 
 void GridSelection::SetDragRows(LineRange rows)
 {
     dragRows_ = rows;
-    rowsFollowPaint_ = false;
+    rowOfFollowing_.reset();
 }
 
 void GridSelection::DragBetweenCorners()
@@ -134,16 +134,16 @@ void GridSelection::DragBetweenCorners()
     SetDragRows(Ordered(Anchor.row, End.row));
 }
 
-void GridSelection::DragColsToPaintedEnd(int first)
+void GridSelection::DragColsToPaintedEnd(int col)
 {
-    dragCols_.first = first;
-    colsFollowPaint_ = true;
+    colOfFollowing_ = col;
+    dragCols_ = Ordered(col, dragCols_.last);
 }
 
-void GridSelection::DragRowsToPaintedEnd(int first)
+void GridSelection::DragRowsToPaintedEnd(int row)
 {
-    dragRows_.first = first;
-    rowsFollowPaint_ = true;
+    rowOfFollowing_ = row;
+    dragRows_ = Ordered(row, dragRows_.last);
 }
 
 // A span over several columns is no cell of a column, and one over several rows none of a row. Rectangles are asked for
@@ -182,10 +182,10 @@ bool GridSelection::IsInDrag(const Cell& cell, int row, int col) const
 
 void GridSelection::PaintRangeChanged(int paintLastRow, int paintLastCol)
 {
-    if (colsFollowPaint_)
-        dragCols_.last = paintLastCol;
-    if (rowsFollowPaint_)
-        dragRows_.last = paintLastRow;
+    if (colOfFollowing_)
+        dragCols_ = Ordered(*colOfFollowing_, paintLastCol);
+    if (rowOfFollowing_)
+        dragRows_ = Ordered(*rowOfFollowing_, paintLastRow);
 }
 
 } // namespace vornix

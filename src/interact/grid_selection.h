@@ -80,9 +80,9 @@ public:
     void SetDragRows(LineRange rows);
     // Covers what lies between the corners.
     void DragBetweenCorners();
-    // Covers all from here on, to the last line of every paint to come.
-    void DragColsToPaintedEnd(int first);
-    void DragRowsToPaintedEnd(int first);
+    // Covers all between this line and the last one of every paint to come.
+    void DragColsToPaintedEnd(int col);
+    void DragRowsToPaintedEnd(int row);
 
     // -- For the painter --
 
@@ -106,8 +106,9 @@ private:
     bool dragging_ = false;
     LineRange dragCols_;
     LineRange dragRows_;
-    bool colsFollowPaint_ = false;
-    bool rowsFollowPaint_ = false;
+    // The end that stands while the other one follows the paint.
+    std::optional<int> colOfFollowing_;
+    std::optional<int> rowOfFollowing_;
 };
 
 } // namespace vornix

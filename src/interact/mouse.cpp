@@ -40,6 +40,7 @@ void Mouse::ForgetPressUnlessHeld()
 
 void Mouse::Reset()
 {
+    context_.sizing.End();
     hit_ = hover_ = downHit_ = Nowhere;
     context_.pressed = {};
     isOffCells_ = true;
@@ -169,9 +170,10 @@ bool Mouse::MoveCurrentToPress(i16 shift)
     const CellIndex target = Pressed();
     if (mover.HasCurrent() && mover.Current() == target && shift != Shifts::Shift)
         return true;
+    const bool leavesRow = LeavesRow();
     if (context_.editor.IsEditorOpen())
         context_.editor.CloseEditor();
-    if (LeavesRow())
+    if (leavesRow)
         context_.events.ValidateRow();
     const CurrentCellMover::Answer answer = mover.AskHost(target);
     if (answer == CurrentCellMover::Answer::Take)

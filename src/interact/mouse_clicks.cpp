@@ -52,7 +52,7 @@ void Mouse::ReleaseOnCell()
     Raise(&VornixEvents::CellUp, Pressed());
     if (ModeOf(Pressed()) == vxCommandButton)
         RepaintCell(Pressed());
-    isClickArmed_ = true;
+    isClickArmed_ = context_.mover.IsReal(Pressed());
 }
 
 // -- The clicks --
@@ -62,7 +62,7 @@ void Mouse::Click()
     if (!isClickArmed_)
         return context_.events.Click();
     TurnPressedCell();
-    if (hit_ == downHit_)
+    if (hit_ == downHit_ && context_.mover.IsReal(Pressed()))
         Raise(&VornixEvents::CellClick, Pressed());
     if (shift_ == Shifts::None)
         context_.mover.BringIntoView();
@@ -117,7 +117,7 @@ void Mouse::DblClick()
     if (context_.sizing.IsCursorShown())
         FitLine();
     inDblClick_ = true;
-    if (!isOffCells_ && downHit_.row >= 0 && downHit_.col >= 0)
+    if (!isOffCells_ && downHit_ != Nowhere)
         Raise(&VornixEvents::CellDblClick, downHit_);
     context_.events.DblClick();
     shift_ = 0;

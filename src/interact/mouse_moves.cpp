@@ -63,7 +63,7 @@ void Mouse::HoverAlong(i16 button, CellIndex before, Point at)
 
     if (before.row >= 0 && before.col >= 0)
         LeaveCell(before);
-    if (!isOffCells_)
+    if (!isOffCells_ && IsHovering())
         return EnterCell();
     context_.pressed.isShown = false;
     hover_ = Nowhere;

@@ -16,6 +16,11 @@ LineRange Ordered(int a, int b)
     return { std::min(a, b), std::max(a, b) };
 }
 
+LineRange UpTo(int last, LineRange range)
+{
+    return { std::min(range.first, last), std::min(range.last, last) };
+}
+
 } // namespace
 
 // -- The press --
@@ -75,13 +80,14 @@ bool MouseSelection::IsSelected(CellIndex cell) const
     return false;
 }
 
-// Both corners to the cell; of lines, the other axis stays.
+// Both corners to the cell; of lines, the other axis stays where there is one, so that keys can go on from there.
 void MouseSelection::SetCorners(CellIndex cell)
 {
     GridSelection& selection = context_.selection;
-    if (selection.PressKind != SelectionKind::Rows)
+    const bool hasCorners = context_.mover.IsReal(selection.Anchor) && context_.mover.IsReal(selection.End);
+    if (selection.PressKind != SelectionKind::Rows || !hasCorners)
         selection.Anchor.col = selection.End.col = cell.col;
-    if (selection.PressKind != SelectionKind::Cols)
+    if (selection.PressKind != SelectionKind::Cols || !hasCorners)
         selection.Anchor.row = selection.End.row = cell.row;
     selection.DragBetweenCorners();
 }
@@ -104,12 +110,8 @@ void MouseSelection::BeginDrag(CellIndex cell)
 void MouseSelection::ExtendTo(CellIndex cell)
 {
     PlaceAnchor(cell);
-    GridSelection& selection = context_.selection;
-    if (selection.PressKind != SelectionKind::Rows)
-        selection.End.col = cell.col;
-    if (selection.PressKind != SelectionKind::Cols)
-        selection.End.row = cell.row;
-    selection.DragBetweenCorners();
+    context_.selection.End = cell;
+    context_.selection.DragBetweenCorners();
     AddDragged(true);
 }
 
@@ -127,11 +129,11 @@ void MouseSelection::PlaceAnchor(CellIndex cell)
             selection.Anchor = context_.mover.Current();
         return;
     case SelectionKind::Rows:
-        if (!isSameKind || selection.Anchor.row < 0)
+        if (!isSameKind || selection.Anchor.row < 0 || selection.Anchor.row >= context_.store.MaxRow())
             selection.Anchor.row = cell.row;
         return;
     case SelectionKind::Cols:
-        if (!isSameKind || selection.Anchor.col < 0)
+        if (!isSameKind || selection.Anchor.col < 0 || selection.Anchor.col >= context_.store.MaxCol())
             selection.Anchor.col = cell.col;
         return;
     case SelectionKind::None:
@@ -154,11 +156,12 @@ void MouseSelection::ToggleLine(CellIndex cell)
         AddDragged(false);
 }
 
+// Without the lines that a handler has taken away meanwhile; the filler may be among them, as the paint has it.
 void MouseSelection::AddDragged(bool reset)
 {
     GridSelection& selection = context_.selection;
-    const LineRange rows = selection.DragRows();
-    const LineRange cols = selection.DragCols();
+    const LineRange rows = UpTo(context_.store.MaxRow(), selection.DragRows());
+    const LineRange cols = UpTo(context_.store.MaxCol(), selection.DragCols());
     switch (selection.PressKind) {
     case SelectionKind::Cells:
         return selection.Ranges().AddCells(reset, rows.first, cols.first, rows.last, cols.last);
@@ -192,14 +195,16 @@ void MouseSelection::Drag(const HitResult& hit, int x, int y)
     const int firstCol = DragAcross(x);
     const int firstRow = DragDown(y);
     const bool movedAcross = firstCol >= store.FixedCols() && context_.scrolling.SetFirstCol(firstCol);
-    const bool movedDown = firstRow >= store.FixedRows() && context_.scrolling.SetFirstRow(firstRow);
+    // A handler of the paint in between may have taken rows away.
+    const bool movedDown = firstRow >= store.FixedRows()
+        && context_.scrolling.SetFirstRow(std::min<int>(firstRow, store.LastRowIndex()));
     if (!movedAcross && !movedDown)
         context_.repainter.RepaintUnderGate();
 }
 
 // What the drag covers across, and the column that comes first then; one that does not scroll when the view stays. With
-// a bar that goes below 0 all there is shows. Beyond the left edge the end is tested by its row, which is one of the
-// store by now, so that it may lie before the first column.
+// a bar that goes below 0 all there is shows. Beyond the left edge the end is tested by its row, which is never below 0
+// by now, so that it may lie before the first column.
 int MouseSelection::DragAcross(int x)
 {
     GridSelection& selection = context_.selection;
@@ -265,7 +270,7 @@ void MouseSelection::Commit(CellIndex cell, int shift, bool hasMoved)
     context_.repainter.RepaintUnderGate();
 }
 
-// A press on what is selected leaves it alone, when the pointer stayed.
+// A press on what is selected leaves the pressed one alone of it; it stays whole when the pointer has moved.
 void MouseSelection::TakeDragged(CellIndex cell, bool hasMoved)
 {
     if (context_.selection.IsDragging())

@@ -123,6 +123,45 @@ TEST_F(MouseClick, BringsTheCurrentCellIntoViewUnlessAKeyIsHeld)
     EXPECT_EQ(Grid().FirstRow(), 0);
 }
 
+TEST_F(MouseClick, OfTheMiddleButtonEndsLikeOneOfTheLeftThatWasThere)
+{
+    Grid().SetColMode(2, vxCheckBox);
+    ClickOn(1, 2);
+    host->ClearLog();
+    Press(1, 2, Held::None, 4);
+    Release(1, 2, Held::None, 4);
+    host->Click();
+    EXPECT_EQ(SaidNames(), (Lines { "MouseDown", "MouseUp", "CellUp", "TextChange", "CellClick", "Click" }));
+}
+
+TEST_F(MouseClick, OnATableThatTheHandlerMadeAnewIsTheGridsAlone)
+{
+    handlers.OnCellUp = [&](i16, i16) { Grid().ReadProperties(MemoryBag()); };
+    Press(1, 2);
+    Release(1, 2);
+    host->ClearLog();
+    host->Click();
+    EXPECT_EQ(SaidNames(), Lines { "Click" });
+    handlers.OnCellUp = nullptr;
+    MouseTable(5, 5);
+    Grid().SetColMode(2, vxCheckBox);
+    handlers.OnTextChange = [&](i16, i16) { Grid().ReadProperties(MemoryBag()); };
+    Press(1, 2);
+    Release(1, 2);
+    host->ClearLog();
+    host->Click();
+    EXPECT_EQ(host->Count("CellClick"), 0);
+}
+
+TEST_F(MouseClick, TwiceBringsTheCurrentCellIntoView)
+{
+    SmallWindow();
+    ClickOn(1, 1);
+    Grid().SetFirstRow(50);
+    host->DblClick();
+    EXPECT_EQ(Grid().FirstRow(), 1);
+}
+
 TEST_F(MouseClick, WithoutAPressIsTheGridsAlone)
 {
     host->Click();

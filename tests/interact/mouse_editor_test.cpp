@@ -83,6 +83,16 @@ TEST_F(MouseBesideEditor, AClickDoesNotOpenItWhereTheHostMovedOnOrAKeyIsHeld)
     EXPECT_EQ(Click(), (Calls { "CellClick 3 1", "Click" }));
 }
 
+TEST_F(MouseBesideEditor, TheRowIsTheOneBeforeTheEditorClosed)
+{
+    editor.OpenEditor(2, 2);
+    editor.then = [&](const std::string& call) {
+        if (call == "CloseEditor")
+            mover.Take({ 3, 1 });
+    };
+    EXPECT_EQ(Press(3, 2), (Calls { "MouseDown", "CellDown 2 1", "CloseEditor", "ValidateRow", "CellChange 2 1" }));
+}
+
 TEST_F(MouseBesideEditor, ADisabledCellStaysShut)
 {
     Disable(3, 2);

@@ -40,9 +40,13 @@ TEST_F(MouseHover, EndsOffTheCells)
     EXPECT_EQ(SaidNames(), (Lines { "MouseMove", "CellOver" }));
 }
 
-TEST_F(MouseHover, AButtonRisesAndSinksWithThePointer)
+class MouseButtons : public MouseHover, public testing::WithParamInterface<i32> { };
+
+INSTANTIATE_TEST_SUITE_P(Modes, MouseButtons, testing::Values(vxCommandButton, vxPressButton));
+
+TEST_P(MouseButtons, RiseAndSinkWithThePointer)
 {
-    Grid().SetColMode(2, vxCommandButton);
+    Grid().SetColMode(2, GetParam());
     Press(1, 2);
     const ColorRef sunken = host->Pixel(30 + 240, 21 + 21);
     host->ClearLog();
@@ -57,7 +61,9 @@ TEST_F(MouseHover, AButtonRisesAndSinksWithThePointer)
     EXPECT_EQ(host->Pixel(30 + 240, 21 + 21), sunken);
     Release(1, 2);
     EXPECT_EQ(SaidNames(), (Lines { "MouseUp", "CellUp" }));
-    EXPECT_NE(host->Pixel(30 + 240, 21 + 21), sunken);
+    if (GetParam() == vxCommandButton) {
+        EXPECT_NE(host->Pixel(30 + 240, 21 + 21), sunken) << "the other one stays down by the click";
+    }
 }
 
 TEST_F(MouseHover, RaisesAllOfOneMoveInItsOrder)
@@ -110,6 +116,22 @@ TEST_F(MouseHover, SurvivesARowThatIsGone)
     Hover(0, 1);
     EXPECT_EQ(
         Said(), (Lines { "MouseMove Button=0 Shift=0 x=210 y=31", "CellOut Row=15 Col=1", "CellOver Row=0 Col=1" }));
+}
+
+TEST_F(MouseHover, EntersNoCellWhenAHandlerSizedALineMeanwhile)
+{
+    Hover(1, 1);
+    handlers.OnCellOut = [&](i16, i16) {
+        handlers.OnCellOut = nullptr;
+        host->Drag(149, 10, 180, 10);
+    };
+    Hover(1, 2);
+    for (const LoggedEvent& event : host->Log()) {
+        if (event.name == "CellOver") {
+            EXPECT_GE(event["Col"].ToDouble(), -1);
+        }
+    }
+    EXPECT_EQ(Grid().ColWidth(0), 150);
 }
 
 TEST_F(MouseHover, RepaintsTheCellThatIsLeft)

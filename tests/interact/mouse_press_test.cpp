@@ -140,7 +140,7 @@ TEST_F(MousePress, OfTheRightButtonEndsTheHoveringFirst)
     EXPECT_FALSE(host->IsTimerEnabled());
 }
 
-TEST_F(MousePress, OfTheRightButtonLeavesALeftOneArmed)
+TEST_F(MousePress, OfTheRightButtonLeavesAClickOfTheLeftOne)
 {
     Press(1, 2);
     host->ClearLog();

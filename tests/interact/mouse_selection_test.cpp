@@ -279,6 +279,73 @@ TEST_F(MouseSelects, WithCtrlAndAMoveTheLineStays)
     EXPECT_EQ(SelectedRows(), (Indices { 1 }));
 }
 
+TEST_F(MouseSelects, WithCtrlRowsFromTheBodyToo)
+{
+    Grid().SetSelectByRowCol(true);
+    ClickOn(1, 2);
+    ClickOn(4, 0, Held::Ctrl);
+    EXPECT_EQ(SelectedRows(), (Indices { 1, 4 }));
+    ClickOn(1, 3, Held::Ctrl);
+    EXPECT_EQ(SelectedRows(), (Indices { 4 }));
+}
+
+TEST_F(MouseSelects, ByTheKeyOfThePressWhateverIsHeldAtTheRelease)
+{
+    ClickOn(1, -1);
+    Press(4, -1, Held::Ctrl);
+    Release(4, -1, Held::None);
+    EXPECT_EQ(SelectedRows(), (Indices { 1, 4 }));
+}
+
+TEST_F(MouseSelects, SoThatKeysGoOnFromTheClick)
+{
+    Grid().SetSelectByRowCol(true);
+    ClickOn(3, 2);
+    EXPECT_EQ(SelectedRows(), (Indices { 3 }));
+    host->KeyDown(40, Held::Shift);
+    EXPECT_EQ(SelectedRows(), (Indices { 3, 4 }));
+}
+
+TEST_F(MouseSelects, WithShiftSoThatKeysGoOnFromThePress)
+{
+    Grid().SetCellSelection(true);
+    ClickOn(1, 1);
+    ClickOn(3, 2, Held::Shift);
+    host->KeyDown(39, Held::Shift);
+    EXPECT_EQ(SelectedCells(), (Cells { { 1, 1 }, { 3, 3 } }));
+}
+
+TEST_F(MouseSelects, WithShiftNothingOfAnAnchorThatIsGone)
+{
+    ClickOn(15, -1);
+    Grid().SetRows(5);
+    Grid().SetRowSelected(0, true);
+    ClickOn(2, -1, Held::Shift);
+    EXPECT_EQ(SelectedRows(), (Indices { 2 }));
+    EXPECT_EQ(Grid().SelectCountRow(), 1);
+}
+
+TEST_F(MouseSelects, NothingThatAHandlerTookAwayDuringTheDrag)
+{
+    Grid().SetCellSelection(true);
+    Press(1, 1);
+    DragTo(15, 3);
+    Grid().SetRows(4);
+    Release(3, 3);
+    i16 Row1 = 0, Col1 = 0, Row2 = 0, Col2 = 0;
+    ASSERT_TRUE(Grid().GetSelectedCells(Row1, Col1, Row2, Col2));
+    EXPECT_LE(Row2, 4);
+}
+
+TEST_F(MouseSelects, UpToTheFirstLinesWhereTheDragEndsOnFixedOnes)
+{
+    Grid().SetCellSelection(true);
+    Press(3, 2);
+    DragTo(-1, -1);
+    Release(-1, -1);
+    EXPECT_EQ(SelectedCells(), (Cells { { 0, 0 }, { 3, 2 } }));
+}
+
 TEST_F(MouseSelects, NothingNewWithShiftAndCtrlTogether)
 {
     Drag(1, -1, 2, -1);
@@ -354,6 +421,46 @@ TEST_F(MouseScrolls, UpToTheFirstRow)
     host->MouseUp(X(1), -500);
     EXPECT_TRUE(Grid().CellSelected(0, 1));
     EXPECT_TRUE(Grid().CellSelected(8, 1));
+}
+
+// The end is a fixed row then: the view stays, and the row counts among the selected ones.
+TEST_F(MouseScrolls, UpOntoTheFixedRowAtTheTop)
+{
+    Press(2, 1);
+    host->MouseMove(X(1), -1, 1);
+    EXPECT_EQ(Grid().FirstRow(), 0);
+    host->MouseUp(X(1), -1);
+    i16 Row1 = 0, Col1 = 0, Row2 = 0, Col2 = 0;
+    ASSERT_TRUE(Grid().GetSelectedCells(Row1, Col1, Row2, Col2));
+    EXPECT_EQ((CellPlace { Row1, Col1 }), (CellPlace { -1, 1 }));
+    EXPECT_EQ((CellPlace { Row2, Col2 }), (CellPlace { 2, 1 }));
+}
+
+TEST_F(MouseScrolls, UpAndThenOutBelow)
+{
+    Grid().SetFirstRow(50);
+    host->MouseDown(X(1), Y(3));
+    for (int i = 0; i < 3; ++i)
+        host->MouseMove(X(1), -100, 1);
+    EXPECT_EQ(Grid().FirstRow(), 0);
+    host->MouseMove(X(1), 201, 1);
+    EXPECT_TRUE(LooksSelected(7, 1)) << "up to the row of the press";
+    host->MouseUp(X(1), 201);
+    EXPECT_TRUE(Grid().CellSelected(53, 1));
+    EXPECT_TRUE(Grid().CellSelected(20, 1));
+    EXPECT_GT(Grid().SelectCountCell(), 0);
+}
+
+TEST_F(MouseScrolls, LeftFromTheMiddleOfAColumn)
+{
+    host->HorizontalBar().Notify(5, 250);
+    host->HorizontalBar().Notify(8, 250);
+    ASSERT_EQ(Grid().FirstCol(), 2);
+    host->MouseDown(X(1), Y(1));
+    host->MouseMove(-10, Y(1), 1);
+    EXPECT_EQ(Grid().FirstCol(), 1);
+    host->MouseUp(-10, Y(1));
+    EXPECT_TRUE(Grid().CellSelected(1, 1));
 }
 
 TEST_F(MouseScrolls, RightOneColumnAMove)

@@ -118,6 +118,7 @@ const std::vector<Deed>& Deeds()
         { "lets go", [](HeadlessContainer& host) { host.MouseUp(100, 60); } },
         { "moves the pointer away", [](HeadlessContainer& host) { host.MouseMove(-50, 300, 1); } },
         { "clicks", [](HeadlessContainer& host) { host.ClickAt(100, 60); } },
+        { "sizes a line", [](HeadlessContainer& host) { host.Drag(69, 10, 90, 10, 1, 0, 2); } },
         { "presses a key", [](HeadlessContainer& host) { host.KeyDown(40); } },
         { "ticks", [](HeadlessContainer& host) { host.Tick(); } },
         { "makes the table anew", [](HeadlessContainer& host) { host.Grid().ReadProperties(MemoryBag()); } },
@@ -258,6 +259,8 @@ protected:
         }
         EXPECT_GE(grid.FirstRow(), 0);
         EXPECT_GE(grid.FirstCol(), 0);
+        EXPECT_LE(grid.FirstRow(), grid.Rows());
+        EXPECT_LE(grid.FirstCol(), grid.Cols());
         EXPECT_GE(grid.SplitCols(), 0);
         EXPECT_LE(grid.SplitCols(), grid.Cols());
         if (grid.Redraw())

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""The viewer's window on a display of its own: it opens, shows a picture, follows a new size, and closes.
+"""The viewer's window on a display of its own: it opens, shows a picture, follows a new size, is used, and closes.
 
     viewer_window_test.py VORNIX_VIEW
 
@@ -26,7 +26,7 @@ class Display:
         read_end, write_end = os.pipe()
         self.server = subprocess.Popen(
             ["Xvfb", "-displayfd", str(write_end), "-screen", "0", "1400x900x24", "-fbdir", self.folder.name,
-             "-nolisten", "tcp", "-noreset"],
+             "-nocursor", "-nolisten", "tcp", "-noreset"],
             pass_fds=[write_end], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         os.close(write_end)
         with os.fdopen(read_end) as pipe:
@@ -78,6 +78,110 @@ def colours(display, left, top, width, height):
     return {pixel & 0xFFFFFF for row in display.picture()[top:top + height] for pixel in row[left:left + width]}
 
 
+class User:
+    """Pointer and keys on the window at the corner of the display, and what is seen of it."""
+
+    # Of the table in the window at 900 by 600: the scrolling cells without the bars, and one row number.
+    CELLS = (50, 60, 820, 480)
+    FIRST_ROW_NUMBER = (10, 62, 30, 20)
+
+    def __init__(self, display, program):
+        self.display = display
+        self.program = program
+
+    def seen(self, left, top, width, height):
+        return [row[left:left + width] for row in self.display.picture()[top:top + height]]
+
+    def do(self, *arguments):
+        xdotool(self.display, *map(str, arguments))
+
+    def drag(self, start, end, steps=8):
+        self.do("mousemove", *start, "mousedown", 1)
+        for step in range(1, steps + 1):
+            self.do("mousemove", *(a + (b - a) * step // steps for a, b in zip(start, end)))
+        self.do("mouseup", 1)
+
+    def sees_change(self, what, area, before):
+        """What is seen then."""
+        wait_for(what, lambda: self.seen(*area) != before, self.program)
+        return self.settled(area)
+
+    def sees_again(self, what, area, before):
+        wait_for(what, lambda: self.seen(*area) == before, self.program)
+
+    def settled(self, area):
+        seen = self.seen(*area)
+        while True:
+            time.sleep(0.3)
+            now = self.seen(*area)
+            if now == seen:
+                return now
+            seen = now
+
+
+def use(user):
+    start = user.settled(user.CELLS)
+    number = user.seen(*user.FIRST_ROW_NUMBER)
+
+    user.do("mousemove", 300, 300, "click", 5)
+    user.sees_change("the wheel scrolls the rows", user.FIRST_ROW_NUMBER, number)
+    user.do("click", 4)
+    user.sees_again("the wheel scrolls back", user.CELLS, start)
+
+    user.do("keydown", "shift", "click", 5, "keyup", "shift")
+    user.sees_change("with Shift it scrolls the columns", user.CELLS, start)
+    user.do("keydown", "shift", "click", 4, "keyup", "shift")
+    user.sees_again("and back", user.CELLS, start)
+
+    user.drag((891, 65), (891, 300))
+    user.sees_change("the thumb scrolls the rows", user.FIRST_ROW_NUMBER, number)
+    user.drag((891, 300), (891, 40))
+    user.sees_again("and back to the first one", user.CELLS, start)
+
+    user.do("mousemove", 300, 150, "click", 1)
+    clicked = user.sees_change("a click selects a cell", user.CELLS, start)
+    user.do("key", "Down")
+    moved = user.sees_change("a key moves the current cell and takes the selection away", user.CELLS, clicked)
+    user.do("key", "Down")
+    user.sees_change("the next one moves it on", user.CELLS, moved)
+    user.do("key", "Up")
+    user.sees_again("and another one back", user.CELLS, moved)
+
+    selected = (210, 180, 100, 100)
+    plain = user.seen(*selected)
+    user.drag((300, 150), (340, 300))
+    user.sees_change("dragging selects cells", selected, plain)
+    user.do("mousemove", 600, 450, "click", 1)
+    user.sees_again("a click takes the selection away", selected, plain)
+
+    headers = (50, 36, 820, 20)
+    before = user.seen(*headers)
+    edge = edge_of_column(before) + headers[0]
+    user.drag((edge - 1, 46), (edge + 30, 46))
+    sized = user.sees_change("an edge of a column is dragged", headers, before)
+    # The line at the edge is the column's own last pixel, left of the pointer.
+    assert edge_of_column(sized) + headers[0] == edge + 29, "the edge is where it was let go"
+
+    line = (60, 60, 300, 100)
+    assert not upright_line(user.seen(*line)), "nothing is split yet"
+    user.drag((2, 568), (150, 400))
+    wait_for("the split is where its handle was let go", lambda: upright_line(user.seen(*line)), user.program)
+
+
+def edge_of_column(headers):
+    """The first column of one colour, other than the ground beside it, from top to bottom."""
+    for x in range(1, len(headers[0])):
+        colour = headers[0][x]
+        if colour != headers[0][x - 1] and all(row[x] == colour for row in headers):
+            return x
+    raise AssertionError("the headers have no edge")
+
+
+def upright_line(picture):
+    """Whether a black line goes through from top to bottom."""
+    return any(all(row[x] & 0xFFFFFF == 0 for row in picture) for x in range(len(picture[0])))
+
+
 def check(program_path, display):
     environment = {**os.environ, "DISPLAY": display.name, "QT_QPA_PLATFORM": "xcb"}
     for name in ("WAYLAND_DISPLAY", "QT_SCALE_FACTOR"):
@@ -90,6 +194,9 @@ def check(program_path, display):
         # Grounds, lines and smoothed letters; an empty window has one colour.
         wait_for("a picture in the window", lambda: len(colours(display, 0, 0, 900, 560)) > 50, program)
         assert colours(display, 950, 650, 400, 200) == {0}, "nothing is drawn beside the window"
+
+        xdotool(display, "windowfocus", "--sync", window)
+        use(User(display, program))
 
         xdotool(display, "windowsize", window, "1300", "850")
         wait_for("the new size", lambda: geometry(display, window) == (1300, 850), program)
@@ -115,7 +222,7 @@ def main():
         return LEFT_OUT
     with Display() as display:
         check(sys.argv[1], display)
-    print("the window opened, showed its picture at three sizes, and closed")
+    print("the window opened, was used, showed its picture at three sizes, and closed")
     return 0
 
 

@@ -5,10 +5,11 @@ exact signature that the line of the member gives, so that a member which is mis
 arguments does not compile.
 """
 
+from dataclasses import dataclass
 from typing import List, Sequence, Tuple, Union
 
 import cpp
-from iface import Argument, Event, Interface, Member
+from iface import Argument, ControlClass, Event, Interface, Member
 
 _KINDS = {
     "property": "Property",
@@ -18,14 +19,46 @@ _KINDS = {
 }
 
 
+@dataclass(frozen=True)
+class Target:
+    """A control in C++: its class, the headers that declare it and its tables, and the functions
+    that give the tables out."""
+
+    owner: str
+    headers: Tuple[str, ...]
+    functions: Tuple[str, ...]
+
+
+def giving_functions(members: str, events: str, find: str, codes: str, owner: str) -> Tuple[str, ...]:
+    """The functions of these names that give the tables out."""
+    gives = [
+        (f"std::span<const MemberInfo> {members}()", "MemberTable"),
+        (f"std::span<const EventInfo> {events}()", "EventTable"),
+        (f"const MemberInfo* {find}(std::string_view name)", "MemberNames.Find(name, MemberTable)"),
+        (f"std::span<const MemberCode<{owner}>> {codes}()", "CodeTable"),
+    ]
+    lines: List[str] = []
+    for head, value in gives:
+        lines += ["", head, "{", f"    return {value};", "}"]
+    return tuple(lines[1:])
+
+
+GRID = Target(
+    "Vornix",
+    ("vornix/members.h", "vornix/vornix.h"),
+    giving_functions("Members", "Events", "FindMember", "MemberCodes", "Vornix"),
+)
+
+
 def emit(interface: Interface) -> str:
-    grid = interface.grid
+    return source_of(interface, interface.grid, GRID)
+
+
+def source_of(interface: Interface, control: ControlClass, target: Target) -> str:
+    """The source of the tables of one control."""
+    headers = ["control/member_code.h", "control/member_thunks.h", "control/name_index.h"]
     lines = [
-        '#include "control/member_code.h"',
-        '#include "control/member_thunks.h"',
-        '#include "control/name_index.h"',
-        '#include "vornix/members.h"',
-        '#include "vornix/vornix.h"',
+        *(f'#include "{header}"' for header in [*headers, *target.headers]),
         "",
         "#include <array>",
         "",
@@ -35,19 +68,28 @@ def emit(interface: Interface) -> str:
         "",
         "// The arguments of members and events, one array for each list that occurs.",
     ]
-    lists = argument_lists([*grid.members, *grid.events])
+    lists = argument_lists([*control.members, *control.events])
     for number, arguments in enumerate(lists):
         lines += argument_array(interface, number, arguments)
-    members = [member_info(interface, lists, member) for member in grid.members]
+    members = [member_info(interface, lists, member) for member in control.members]
     lines += ["", *table("MemberInfo", "MemberTable", members)]
-    events = [event_info(lists, event) for event in grid.events]
+    events = [event_info(lists, event) for event in control.events]
     lines += ["", *table("EventInfo", "EventTable", events)]
     lines += ["", "// What arguments that were left out are."]
-    for member in grid.members:
+    for member in control.members:
         lines += default_array(member)
-    codes = [member_code(interface, member) for member in grid.members]
-    lines += ["", *table("MemberCode", "CodeTable", codes)]
-    lines += FUNCTIONS
+    codes = [member_code(interface, target.owner, member) for member in control.members]
+    lines += ["", *table(f"MemberCode<{target.owner}>", "CodeTable", codes)]
+    lines += [
+        "",
+        "constexpr NameIndex<MemberTable.size()> MemberNames(MemberTable);",
+        "",
+        "} // namespace",
+        "",
+        *target.functions,
+        "",
+        "} // namespace vornix",
+    ]
     return cpp.source(lines)
 
 
@@ -55,33 +97,6 @@ def table(element: str, name: str, elements: List[str]) -> List[str]:
     head = f"constexpr std::array<{element}, {len(elements)}> {name} {{ {{"
     return [head, *(f"    {each}," for each in elements), "} };"]
 
-
-FUNCTIONS = """
-constexpr NameIndex<MemberTable.size()> MemberNames(MemberTable);
-
-} // namespace
-
-std::span<const MemberInfo> Members()
-{
-    return MemberTable;
-}
-
-std::span<const EventInfo> Events()
-{
-    return EventTable;
-}
-
-const MemberInfo* FindMember(std::string_view name)
-{
-    return MemberNames.Find(name, MemberTable);
-}
-
-std::span<const MemberCode> MemberCodes()
-{
-    return CodeTable;
-}
-
-} // namespace vornix""".split("\n")
 
 ArgumentLists = List[Tuple[Argument, ...]]
 
@@ -150,10 +165,13 @@ def default_value(text: str) -> str:
     return f"DefaultValue(std::in_place_type<i32>, {int(text)})"
 
 
-def member_code(interface: Interface, member: Member) -> str:
+def member_code(interface: Interface, owner: str, member: Member) -> str:
     """One element of the table of code: what reads or calls, what writes, the defaults."""
-    read = thunk(read_pointer(interface, member)) if reads(member) else "nullptr"
-    write = thunk(write_pointer(interface, member)) if writes(member) else "nullptr"
+    read = write = "nullptr"
+    if reads(member):
+        read = thunk(owner, read_pointer(interface, owner, member))
+    if writes(member):
+        write = thunk(owner, write_pointer(interface, owner, member))
     defaults = f"{member.name}Defaults" if defaults_of(member) else "{}"
     return f"{{ {read}, {write}, {defaults} }}"
 
@@ -166,26 +184,27 @@ def writes(member: Member) -> bool:
     return member.is_writable and not member.pending_write
 
 
-def thunk(member: str) -> str:
-    return f"&Thunk<{member}>::Call"
+def thunk(owner: str, member: str) -> str:
+    return f"&Thunk<{owner}, {member}>::Call"
 
 
-def read_pointer(interface: Interface, member: Member) -> str:
+def read_pointer(interface: Interface, owner: str, member: Member) -> str:
     result = cpp.value_type(interface, member.result) if member.result else "void"
     kind = "Method" if member.is_method else "Getter"
-    return pointer(result, parameter_types(interface, member), kind, member.name)
+    return pointer(owner, result, parameter_types(interface, member), kind, member.name)
 
 
-def write_pointer(interface: Interface, member: Member) -> str:
+def write_pointer(interface: Interface, owner: str, member: Member) -> str:
     value = cpp.parameter_type(interface, member.result or "")
     parameters = [*parameter_types(interface, member), value]
-    return pointer("void", parameters, "Method", f"Set{member.name}")
+    return pointer(owner, "void", parameters, "Method", f"Set{member.name}")
 
 
 def parameter_types(interface: Interface, member: Member) -> List[str]:
     return [cpp.argument_type(interface, argument) for argument in member.arguments]
 
 
-def pointer(result: str, parameters: List[str], kind: str, name: str) -> str:
+def pointer(owner: str, result: str, parameters: List[str], kind: str, name: str) -> str:
     """A pointer to a C++ member that has exactly this signature."""
-    return f"Signature<{result}({cpp.joined(parameters)})>::{kind}(&Vornix::{name})"
+    function = f"{result}({cpp.joined(parameters)})"
+    return f"Signature<{owner}, {function}>::{kind}(&{owner}::{name})"

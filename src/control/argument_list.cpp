@@ -17,8 +17,8 @@ Variant ToVariant(const DefaultValue& value)
 
 } // namespace
 
-ArgumentList::ArgumentList(const MemberInfo& member, const MemberCode& code, bool isWriting, std::span<Variant> given,
-    std::span<const std::string_view> names)
+ArgumentList::ArgumentList(const MemberInfo& member, std::span<const DefaultValue> defaults, bool isWriting,
+    std::span<Variant> given, std::span<const std::string_view> names)
     : member_(member)
     , isWriting_(isWriting)
     , given_(given)
@@ -29,7 +29,7 @@ ArgumentList::ArgumentList(const MemberInfo& member, const MemberCode& code, boo
     if (isGiven_)
         return;
     Order(names);
-    FillIn(code);
+    FillIn(defaults);
 }
 
 bool ArgumentList::IsComplete(std::span<const std::string_view> names) const
@@ -68,15 +68,15 @@ void ArgumentList::Place(std::size_t place, Variant& value)
     ordered_[place] = value;
 }
 
-void ArgumentList::FillIn(const MemberCode& code)
+void ArgumentList::FillIn(std::span<const DefaultValue> defaults)
 {
-    const std::size_t required = member_.arguments.size() - code.defaults.size();
+    const std::size_t required = member_.arguments.size() - defaults.size();
     for (std::size_t place = 0; place < ordered_.size(); ++place) {
         if (!ordered_[place].IsMissing())
             continue;
         if (place < required || place >= member_.arguments.size())
             RaiseError(ErrorNumber::WrongArgumentCount);
-        ordered_[place] = ToVariant(code.defaults[place - required]);
+        ordered_[place] = ToVariant(defaults[place - required]);
         origins_[place] = nullptr;
     }
 }

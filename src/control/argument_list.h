@@ -16,8 +16,8 @@ public:
     // Names are those of the last values given. In a writing call the value stands behind the member's own arguments and
     // its name is "Value". Errors 450 for too few or too many, or one that is given twice, and 448 for a name that the
     // member does not have.
-    ArgumentList(const MemberInfo& member, const MemberCode& code, bool isWriting, std::span<Variant> given,
-        std::span<const std::string_view> names);
+    ArgumentList(const MemberInfo& member, std::span<const DefaultValue> defaults, bool isWriting,
+        std::span<Variant> given, std::span<const std::string_view> names);
     ArgumentList(const ArgumentList&) = delete;
     ArgumentList& operator=(const ArgumentList&) = delete;
 
@@ -32,7 +32,7 @@ private:
     std::size_t PlaceOf(std::string_view name) const;
     void Order(std::span<const std::string_view> names);
     void Place(std::size_t place, Variant& value);
-    void FillIn(const MemberCode& code);
+    void FillIn(std::span<const DefaultValue> defaults);
 
     const MemberInfo& member_;
     const bool isWriting_;

@@ -1,4 +1,5 @@
-// The code behind the members of the control, beside their descriptions in vornix/members.h.
+// The code behind the members of a control, beside their descriptions in vornix/members.h: of the grid, or of one of the
+// controls that come with it.
 #pragma once
 
 #include "vornix/automation.h"
@@ -9,24 +10,27 @@
 
 namespace vornix {
 
+class ScrollBar;
 class Vornix;
 
 // Calls a member with arguments that are complete and in its order, for a writing call with the value behind them. Those
 // by reference are written back once the member has returned.
-using MemberThunk = Variant (*)(Vornix& control, std::span<Variant> arguments, const Locale& locale);
+template <typename Control>
+using MemberThunk = Variant (*)(Control& control, std::span<Variant> arguments, const Locale& locale);
 
 // What an argument is that was left out.
 using DefaultValue = std::variant<bool, i32, std::u16string_view>;
 
-struct MemberCode {
+template <typename Control> struct MemberCode {
     // Reads a property or calls a method; null where that cannot be done or is pending, as for `write`.
-    MemberThunk read = nullptr;
-    MemberThunk write = nullptr;
+    MemberThunk<Control> read = nullptr;
+    MemberThunk<Control> write = nullptr;
     // Of the optional arguments, which are the last ones.
     std::span<const DefaultValue> defaults;
 };
 
-// In the order of Members().
-std::span<const MemberCode> MemberCodes();
+// In the order of Members(), and of ScrollBarMembers().
+std::span<const MemberCode<Vornix>> MemberCodes();
+std::span<const MemberCode<ScrollBar>> ScrollBarCodes();
 
 } // namespace vornix

@@ -1,9 +1,8 @@
-// Makes thunks of late binding out of pointers to the control's members: arguments become the types that the member
+// Makes thunks of late binding out of pointers to a control's members: arguments become the types that the member
 // takes, what it gives becomes a value.
 #pragma once
 
 #include "vornix/automation.h"
-#include "vornix/vornix.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -16,11 +15,11 @@
 namespace vornix {
 
 // Takes pointers to members of exactly one signature: with other arguments, or another result, nothing compiles.
-template <typename Function> struct Signature;
+template <typename Control, typename Function> struct Signature;
 
-template <typename Result, typename... Parameters> struct Signature<Result(Parameters...)> {
-    using Member = Result (Vornix::*)(Parameters...);
-    using ConstMember = Result (Vornix::*)(Parameters...) const;
+template <typename Control, typename Result, typename... Parameters> struct Signature<Control, Result(Parameters...)> {
+    using Member = Result (Control::*)(Parameters...);
+    using ConstMember = Result (Control::*)(Parameters...) const;
 
     static constexpr ConstMember Getter(ConstMember member) { return member; }
     static constexpr Member Method(Member member) { return member; }
@@ -140,9 +139,9 @@ private:
     Variant given_;
 };
 
-template <auto member> class Thunk {
+template <typename Control, auto member> class Thunk {
 public:
-    static Variant Call(Vornix& control, std::span<Variant> arguments, const Locale& locale)
+    static Variant Call(Control& control, std::span<Variant> arguments, const Locale& locale)
     {
         return Step(control, arguments, locale, member);
     }
@@ -150,20 +149,20 @@ public:
 private:
     template <typename Result, typename... Parameters>
     static Variant Step(
-        Vornix& control, std::span<Variant> arguments, const Locale& locale, Result (Vornix::*)(Parameters...))
+        Control& control, std::span<Variant> arguments, const Locale& locale, Result (Control::*)(Parameters...))
     {
         return Step<Result, Parameters...>(control, arguments, locale, std::index_sequence_for<Parameters...>());
     }
 
     template <typename Result, typename... Parameters>
     static Variant Step(
-        Vornix& control, std::span<Variant> arguments, const Locale& locale, Result (Vornix::*)(Parameters...) const)
+        Control& control, std::span<Variant> arguments, const Locale& locale, Result (Control::*)(Parameters...) const)
     {
         return Step<Result, Parameters...>(control, arguments, locale, std::index_sequence_for<Parameters...>());
     }
 
     template <typename Result, typename... Parameters, std::size_t... place>
-    static Variant Step(Vornix& control, [[maybe_unused]] std::span<Variant> arguments,
+    static Variant Step(Control& control, [[maybe_unused]] std::span<Variant> arguments,
         [[maybe_unused]] const Locale& locale, std::index_sequence<place...> /*places*/)
     {
         // In braces the arguments are converted from left to right, so that the first bad one makes the error.

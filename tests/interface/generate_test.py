@@ -66,7 +66,7 @@ class CommandLine(Folder):
         self.assertFalse((self.folder / "out.h").exists())
 
     def test_begins_every_source_with_where_it_is_from(self) -> None:
-        sources = "member_table event_funnel event_functions c_constants constant_checks"
+        sources = "member_table scroll_bar_table event_funnel event_functions c_constants constant_checks"
         for emitter in sources.split():
             output = self.folder / emitter
             self.assertEqual(run(str(IFACE), "--emit", emitter, str(output)).returncode, 0)

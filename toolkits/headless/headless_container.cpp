@@ -98,8 +98,8 @@ HeadlessContainer::HeadlessContainer(const HeadlessOptions& options)
     windows_ = std::make_unique<WindowStack>(*this, children_);
     person_ = std::make_unique<Person>(*this, *windows_);
     grid_ = std::make_unique<Vornix>(*this, log_);
-    for (HeadlessScrollBar& bar : bars_)
-        bar.TellTo(*grid_);
+    VerticalBar().TellTo([this](i32 code) { grid_->ScrollBarNotify(ChildName::scrV, code); });
+    HorizontalBar().TellTo([this](i32 code) { grid_->ScrollBarNotify(ChildName::scrH, code); });
     for (HeadlessPictureBox& window : splitWindows_)
         window.TellTo(*grid_, scale_, colors_);
     const MemoryBag emptyBag;

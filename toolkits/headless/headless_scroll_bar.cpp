@@ -1,6 +1,6 @@
 #include "vornix/headless_scroll_bar.h"
 
-#include "vornix/vornix.h"
+#include "vornix/automation.h"
 
 #include <algorithm>
 
@@ -20,8 +20,8 @@ void HeadlessScrollBar::Notify(i32 code, std::optional<i32> trackPosition)
         return;
     if (trackPosition)
         trackPosition_ = Limited(*trackPosition);
-    if (grid_)
-        grid_->ScrollBarNotify(name_, code);
+    if (receiver_)
+        receiver_(code);
 }
 
 void HeadlessScrollBar::SetInfo(const ScrollBarInfo& info)

@@ -3,11 +3,11 @@
 
 #include "vornix/headless_child.h"
 
+#include <functional>
 #include <optional>
+#include <utility>
 
 namespace vornix {
-
-class Vornix;
 
 class HeadlessScrollBar final : public HeadlessChild, public NativeScrollBar {
 public:
@@ -15,8 +15,8 @@ public:
         : name_(name)
     {
     }
-    // The control that is told what the user does.
-    void TellTo(Vornix& grid) { grid_ = &grid; }
+    // Who is told what the user does, as the numbers of Notify.
+    void TellTo(std::function<void(i32 code)> receiver) { receiver_ = std::move(receiver); }
 
     i32 Min() const { return info_.min; }
     i32 Max() const { return info_.max; }
@@ -58,7 +58,7 @@ private:
     double Along(float x, float y) const;
 
     ChildName name_;
-    Vornix* grid_ = nullptr;
+    std::function<void(i32 code)> receiver_;
     ScrollBarInfo info_;
     i32 trackPosition_ = 0;
     Press latestPress_;

@@ -1,13 +1,10 @@
 #include "window.h"
 
-#include "present.h"
-#include "vornix/qvornix.h"
+#include "viewer_window.h"
 
 #include <QApplication>
 #include <QKeySequence>
-#include <QMainWindow>
 #include <QShortcut>
-#include <QStatusBar>
 
 #include <cstdio>
 #include <cstdlib>
@@ -66,19 +63,6 @@ void CloseOn(QKeySequence::StandardKey key, QWidget& window)
     QObject::connect(shortcut, &QShortcut::activated, &window, &QWidget::close);
 }
 
-// What a picture has no use for.
-void GiveToUser(Vornix& grid)
-{
-    grid.SetRedraw(false);
-    grid.SetScrollHBar(vxScrollTrack);
-    grid.SetScrollVBar(vxScrollTrack);
-    grid.SetCellSelection(true);
-    grid.SetSelectMode(vxBoth);
-    grid.SetResizeMode(vxBoth);
-    grid.SetShowSplit(true);
-    grid.SetRedraw(true);
-}
-
 } // namespace
 
 int ShowWindow(const Table& table, const ViewerOptions& options, const std::function<int()>& withoutDisplay)
@@ -88,17 +72,10 @@ int ShowWindow(const Table& table, const ViewerOptions& options, const std::func
     Arguments arguments;
     const std::unique_ptr<QApplication> application = MakeApplication(arguments, withoutDisplay);
 
-    QMainWindow window;
-    auto* const grid = new QVornix(&window);
-    window.setCentralWidget(grid);
-    window.setWindowTitle(QString::fromStdU16String(table.Name()) + QStringLiteral(" - Vornix"));
-    window.statusBar()->showMessage(QString::fromStdString(StatusLine(table)));
+    ViewerWindow window(table);
     window.resize(options.width, options.height);
     CloseOn(QKeySequence::Quit, window);
     CloseOn(QKeySequence::Close, window);
-
-    PresentTable(grid->Grid(), grid->MeasuringDevice(), grid->Colors(), table);
-    GiveToUser(grid->Grid());
     window.show();
     return QApplication::exec();
 }

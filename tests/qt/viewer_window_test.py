@@ -84,6 +84,8 @@ class User:
     # Of the table in the window at 900 by 600: the scrolling cells without the bars, and one row number.
     CELLS = (50, 60, 820, 480)
     FIRST_ROW_NUMBER = (10, 62, 30, 20)
+    # Below the table, where the current cell and the extent of the selection are told.
+    STATUS = (0, 581, 400, 17)
 
     def __init__(self, display, program):
         self.display = display
@@ -138,6 +140,13 @@ def use(user):
     user.drag((891, 300), (891, 40))
     user.sees_again("and back to the first one", user.CELLS, start)
 
+    first_cell = user.settled(user.STATUS)
+    user.do("key", "Right")
+    second_cell = user.sees_change("the line below names the cell that a key has moved to", user.STATUS, first_cell)
+    user.do("key", "Left")
+    user.sees_again("and the first cell again", user.STATUS, first_cell)
+
+    start = user.settled(user.CELLS)
     user.do("mousemove", 300, 150, "click", 1)
     clicked = user.sees_change("a click selects a cell", user.CELLS, start)
     user.do("key", "Down")
@@ -147,10 +156,12 @@ def use(user):
     user.do("key", "Up")
     user.sees_again("and another one back", user.CELLS, moved)
 
+    one_cell = user.sees_change("the line below has followed the mouse and the keys", user.STATUS, second_cell)
     selected = (210, 180, 100, 100)
     plain = user.seen(*selected)
     user.drag((300, 150), (340, 300))
     user.sees_change("dragging selects cells", selected, plain)
+    user.sees_change("the line below tells how many", user.STATUS, one_cell)
     user.do("mousemove", 600, 450, "click", 1)
     user.sees_again("a click takes the selection away", selected, plain)
 

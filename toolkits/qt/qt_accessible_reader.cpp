@@ -42,6 +42,8 @@ std::optional<AccessibleBlock> SelectedCells(Vornix& grid)
     AccessibleBlock block;
     if (!grid.GetSelectedCells(block.first.Row, block.first.Col, block.last.Row, block.last.Col))
         return std::nullopt;
+    block.first.Row = std::max<i16>(block.first.Row, 0);
+    block.first.Col = std::max<i16>(block.first.Col, 0);
     block.last.Row = std::min(block.last.Row, Narrow(grid.Rows() - 1));
     block.last.Col = std::min(block.last.Col, Narrow(grid.Cols() - 1));
     const bool isEmpty = block.first.Row > block.last.Row || block.first.Col > block.last.Col;

@@ -1,0 +1,49 @@
+// The window of the viewer: the grid, and below it a line about the current cell, the selection and the table.
+#pragma once
+
+#include "table.h"
+#include "vornix/event_handlers.h"
+#include "vornix/qvornix.h"
+
+#include <QMainWindow>
+
+class QLabel;
+
+namespace vornix::viewer {
+
+// A grid that tells when a person has done something with it.
+class UsedGrid final : public QVornix {
+    Q_OBJECT
+
+public:
+    using QVornix::QVornix;
+
+signals:
+    void Used();
+
+protected:
+    bool event(QEvent* event) override;
+};
+
+// The table can be selected from, its lines sized and its first columns split off, but not changed; the first cell is the
+// current one. Refers to the table for as long as it lives.
+class ViewerWindow final : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit ViewerWindow(const Table& table);
+    ~ViewerWindow() override;
+
+    UsedGrid& GridWidget() { return *grid_; }
+
+private:
+    QLabel* AddLabel(const char* name, int stretch);
+    void TellState();
+
+    EventHandlers handlers_;
+    UsedGrid* const grid_;
+    QLabel* currentCell_ = nullptr;
+    QLabel* selection_ = nullptr;
+};
+
+} // namespace vornix::viewer

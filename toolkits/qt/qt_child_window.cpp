@@ -32,6 +32,11 @@ QtChildWindow::QtChildWindow(QtSetting& setting, QPalette::ColorRole ground)
 
 QtChildWindow::~QtChildWindow()
 {
+    DropWidget();
+}
+
+void QtChildWindow::DropWidget()
+{
     if (window_)
         window_->removeEventFilter(watch_.get());
     delete window_;

@@ -20,6 +20,8 @@ public:
     QtChildWindow(const QtChildWindow&) = delete;
     QtChildWindow& operator=(const QtChildWindow&) = delete;
 
+    // The widget goes, and comes again when it is shown.
+    void DropWidget();
     // The client area has moved within the widget.
     void FollowParent() { ApplyPlace(); }
     // Colours or resolution are others.

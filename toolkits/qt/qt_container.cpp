@@ -107,6 +107,12 @@ QtContainer::QtContainer(QFrame& widget)
 
 QtContainer::~QtContainer() = default;
 
+void QtContainer::DropChildWidgets()
+{
+    for (const auto& child : children_)
+        child->DropWidget();
+}
+
 std::unique_ptr<QtChildWindow> QtContainer::MakeChild(ChildName name)
 {
     switch (name) {

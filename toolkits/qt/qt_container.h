@@ -22,6 +22,8 @@ public:
 
     // The control that hears of timer, bars and children; null again before it ends.
     void Attach(Vornix* grid) { setting_.grid.Attach(grid); }
+    // Before the parts of the widget go that hear of the pointer.
+    void DropChildWidgets();
     QtSetting& Setting() { return setting_; }
     // Whether Qt has told that the pointer is somewhere else.
     void SetPointerLeft(bool left) { pointerLeft_ = left; }

@@ -78,6 +78,7 @@ QVornix::~QVornix()
     container_->OnPictureChanged = nullptr;
     grid_->Terminate();
     container_->Attach(nullptr);
+    container_->DropChildWidgets();
 }
 
 Vornix& QVornix::Grid()

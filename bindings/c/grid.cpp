@@ -1,11 +1,11 @@
 #include "grid.h"
 
+#include "bag.h"
 #include "caller_settings.h"
 #include "grid_table.h"
 #include "handles.h"
 #include "values.h"
 
-#include <limits>
 #include <span>
 #include <string>
 
@@ -75,46 +75,6 @@ void Call::Finish()
 
 namespace {
 
-// An integer, or a colour without a sign: either is a pattern of 32 bits.
-i32 ToPattern(std::int64_t integer)
-{
-    if (integer < std::numeric_limits<i32>::min() || integer > std::numeric_limits<std::uint32_t>::max())
-        Raise(ErrorNumber::Overflow);
-    return static_cast<i32>(static_cast<std::uint32_t>(integer));
-}
-
-BagValue ToBagValue(const vornix_value& value)
-{
-    switch (value.type) {
-    case VORNIX_BOOLEAN:
-        return value.as.integer != 0;
-    case VORNIX_I16:
-    case VORNIX_I32:
-    case VORNIX_I64:
-        return ToPattern(value.as.integer);
-    case VORNIX_TEXT:
-        return ToText(value.as.text);
-    case VORNIX_FONT:
-        return ToVariant(value).ToFont();
-    case VORNIX_PICTURE:
-        return ToVariant(value).ToPicture();
-    default:
-        Raise(ErrorNumber::TypeMismatch, "A type that no bag holds");
-    }
-}
-
-MemoryBag ToBag(const vornix_grid_options& options)
-{
-    if (options.bag_count > 0)
-        Require(options.bag);
-    MemoryBag bag;
-    for (const vornix_bag_entry& entry : std::span(options.bag, options.bag_count)) {
-        Require(entry.name);
-        bag.WriteProperty(entry.name, ToBagValue(entry.value));
-    }
-    return bag;
-}
-
 std::shared_ptr<MemorySettings> ToSettings(const vornix_grid_options& options)
 {
     if (options.setting_count > 0)
@@ -169,7 +129,7 @@ vornix_grid_options Known(const vornix_grid_options* given)
 vornix_grid* MakeGrid(const vornix_grid_options& given)
 {
     HeadlessOptions options = ToHeadlessOptions(given);
-    const MemoryBag bag = given.has_bag ? ToBag(given) : MemoryBag();
+    const MemoryBag bag = given.has_bag ? ToBag(given.bag, given.bag_count) : MemoryBag();
     options.bag = given.has_bag ? &bag : nullptr;
 
     GridTable& table = GridTable::Instance();

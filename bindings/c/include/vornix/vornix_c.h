@@ -39,6 +39,7 @@ typedef struct vornix_picture vornix_picture;
 typedef struct vornix_array vornix_array;
 typedef struct vornix_object vornix_object;
 typedef struct vornix_surface vornix_surface;
+typedef struct vornix_scroll_bar vornix_scroll_bar;
 
 typedef struct vornix_text {
     const uint16_t* data; /* may be null when the length is 0 */
@@ -439,6 +440,40 @@ VORNIX_API int32_t vornix_host_image_size(vornix_grid* grid, int32_t* width, int
 VORNIX_API int32_t vornix_host_image(vornix_grid* grid, uint8_t* rgba, size_t length);
 /* Error 75 when the file cannot be written. */
 VORNIX_API int32_t vornix_host_save_png(vornix_grid* grid, const char* path);
+
+/* -- The scroll bar that comes with the grid, in a container of its own -- */
+
+/* A bar belongs to the thread that made it, and is not used any more once it has been destroyed. */
+typedef struct vornix_scroll_bar_options {
+    size_t size; /* sizeof(vornix_scroll_bar_options) */
+    int32_t orientation; /* of a new bar: 1 stands, all others lie */
+    int32_t length; /* pixels, up to 32767; 100 where 0 */
+    int32_t has_bag; /* what the bar was saved with; without one it is new */
+    const vornix_bag_entry* bag;
+    size_t bag_count;
+} vornix_scroll_bar_options;
+
+/* Events: Change(Value, Direction) and Scroll(Value), with Value by reference. As vornix_event_callback says otherwise. */
+enum { VORNIX_SCROLL_BAR_CHANGE = 1, VORNIX_SCROLL_BAR_SCROLL = 2 };
+typedef void (*vornix_scroll_bar_callback)(
+    void* user, vornix_scroll_bar* bar, int32_t number, vornix_value* arguments, size_t count);
+
+/* Options may be null. The bar is shown, and answers to its user once its member Subclass was called. */
+VORNIX_API int32_t vornix_scroll_bar_create(const vornix_scroll_bar_options* options, vornix_scroll_bar** bar);
+/* Inside one of its own calls (an event) this is error 5, and the bar stays. Null is nothing. */
+VORNIX_API int32_t vornix_scroll_bar_destroy(vornix_scroll_bar* bar);
+VORNIX_API int32_t vornix_scroll_bar_set_callback(
+    vornix_scroll_bar* bar, vornix_scroll_bar_callback callback, void* user);
+/* A member by its name, as vornix_invoke calls those of a grid. */
+VORNIX_API int32_t vornix_scroll_bar_invoke(vornix_scroll_bar* bar, const char* name, int32_t kind,
+    const vornix_value* arguments, size_t count, vornix_value* result);
+/* What its user does: VORNIX_SB_LINEUP to VORNIX_SB_ENDSCROLL, as for vornix_host_notify_bar. */
+VORNIX_API int32_t vornix_scroll_bar_notify(vornix_scroll_bar* bar, int32_t code, const int32_t* track_position);
+VORNIX_API int32_t vornix_scroll_bar_resize(vornix_scroll_bar* bar, int32_t width, int32_t height);
+/* What the bar saves: at most `capacity` entries are given, `count` says how many there are. Their names are valid until
+ * the bar is saved again. */
+VORNIX_API int32_t vornix_scroll_bar_save(
+    vornix_scroll_bar* bar, vornix_bag_entry* entries, size_t capacity, size_t* count);
 
 #ifdef __cplusplus
 }

@@ -1,0 +1,192 @@
+// The scroll bar that comes with the grid.
+#include "bag.h"
+#include "status.h"
+#include "values.h"
+
+#include "vornix/headless_bar_host.h"
+#include "vornix/vornix_c.h"
+
+#include <array>
+#include <memory>
+#include <optional>
+#include <span>
+#include <thread>
+#include <utility>
+#include <vector>
+
+// Hands the events to the callback of its host.
+struct vornix_scroll_bar final : private vornix::ScrollBarEvents {
+    explicit vornix_scroll_bar(vornix::HeadlessBarOptions options)
+        : host(Receiving(options, *this))
+    {
+    }
+
+    const std::thread::id thread = std::this_thread::get_id();
+    vornix_scroll_bar_callback callback = nullptr;
+    void* user = nullptr;
+    int depth = 0;
+    // Of a value that a callback left and that is none.
+    std::optional<vornix::AutomationError> failure;
+    vornix::HeadlessBarHost host;
+    // What the entries that were given out last refer to.
+    vornix::MemoryBag saved;
+
+private:
+    static vornix::HeadlessBarOptions Receiving(vornix::HeadlessBarOptions options, vornix::ScrollBarEvents& events)
+    {
+        options.events = &events;
+        return options;
+    }
+
+    void Change(vornix::i32& Value, vornix::i32 Direction) override
+    {
+        Raise(VORNIX_SCROLL_BAR_CHANGE, Value, { Value, Direction }, 2);
+    }
+    void Scroll(vornix::i32& Value) override { Raise(VORNIX_SCROLL_BAR_SCROLL, Value, { Value, 0 }, 1); }
+
+    void Raise(std::int32_t number, vornix::i32& value, std::array<vornix::i32, 2> given, std::size_t count)
+    {
+        if (callback == nullptr)
+            return;
+        std::array<vornix_value, 2> arguments {};
+        for (std::size_t place = 0; place < count; ++place) {
+            arguments[place].type = VORNIX_I32;
+            arguments[place].as.integer = given[place];
+        }
+        callback(user, this, number, arguments.data(), count);
+        try {
+            value = vornix::c::ToVariant(arguments[0]).ToI32();
+        } catch (const vornix::AutomationError& error) {
+            if (!failure)
+                failure = error;
+        }
+        for (vornix_value& argument : arguments)
+            vornix_value_clear(&argument);
+    }
+};
+
+namespace vornix::c {
+
+namespace {
+
+// The body of a function that calls a bar. What an event left that is no value fails the outermost call.
+template <typename Body> std::int32_t BarCall(vornix_scroll_bar* bar, const Body& body)
+{
+    return Guarded([&] {
+        Require(bar);
+        if (bar->thread != std::this_thread::get_id())
+            Raise(ErrorNumber::InvalidArgument, "Called from another thread than the one that made the scroll bar");
+        struct Depth {
+            int& depth;
+            explicit Depth(int& counter)
+                : depth(counter)
+            {
+                ++depth;
+            }
+            ~Depth() { --depth; }
+        } const inside(bar->depth);
+        body();
+        if (bar->depth > 1)
+            return;
+        if (const auto failure = std::exchange(bar->failure, std::nullopt))
+            throw *failure;
+    });
+}
+
+Variant Invoked(
+    vornix_scroll_bar& bar, const char* name, std::int32_t kind, const vornix_value* arguments, std::size_t count)
+{
+    Require(name);
+    if (kind < VORNIX_GET || kind > VORNIX_CALL)
+        Raise(ErrorNumber::InvalidArgument, "A kind of call that there is not");
+    if (count > 0)
+        Require(arguments);
+    std::vector<Variant> values;
+    for (const vornix_value& argument : std::span(arguments, count))
+        values.push_back(ToVariant(argument));
+    return bar.host.Invoke(name, static_cast<InvokeKind>(kind), values);
+}
+
+} // namespace
+
+} // namespace vornix::c
+
+using namespace vornix;
+using namespace vornix::c;
+
+std::int32_t vornix_scroll_bar_create(const vornix_scroll_bar_options* options, vornix_scroll_bar** bar)
+{
+    return Guarded([&] {
+        Require(bar);
+        HeadlessBarOptions given;
+        MemoryBag bag;
+        if (options != nullptr) {
+            if (options->size != sizeof(vornix_scroll_bar_options))
+                Raise(ErrorNumber::InvalidArgument, "The options have another size than this library knows");
+            given.orientation = options->orientation;
+            given.length = options->length == 0 ? given.length : options->length;
+            bag = options->has_bag ? ToBag(options->bag, options->bag_count) : bag;
+            given.bag = options->has_bag ? &bag : nullptr;
+        }
+        *bar = std::make_unique<vornix_scroll_bar>(given).release();
+    });
+}
+
+std::int32_t vornix_scroll_bar_destroy(vornix_scroll_bar* bar)
+{
+    return Guarded([&] {
+        if (bar != nullptr && bar->depth > 0)
+            Raise(ErrorNumber::InvalidArgument, "The scroll bar is in the middle of a call");
+        delete bar;
+    });
+}
+
+std::int32_t vornix_scroll_bar_set_callback(vornix_scroll_bar* bar, vornix_scroll_bar_callback callback, void* user)
+{
+    return BarCall(bar, [&] {
+        bar->callback = callback;
+        bar->user = user;
+    });
+}
+
+std::int32_t vornix_scroll_bar_invoke(vornix_scroll_bar* bar, const char* name, std::int32_t kind,
+    const vornix_value* arguments, std::size_t count, vornix_value* result)
+{
+    return BarCall(bar, [&] {
+        const Variant given = Invoked(*bar, name, kind, arguments, count);
+        if (result != nullptr)
+            *result = ToValue(given);
+    });
+}
+
+std::int32_t vornix_scroll_bar_notify(vornix_scroll_bar* bar, std::int32_t code, const std::int32_t* track_position)
+{
+    return BarCall(bar, [&] {
+        bar->host.Window().Notify(code, track_position == nullptr ? std::nullopt : std::optional(*track_position));
+    });
+}
+
+std::int32_t vornix_scroll_bar_resize(vornix_scroll_bar* bar, std::int32_t width, std::int32_t height)
+{
+    return BarCall(bar, [&] { bar->host.Resize(width, height); });
+}
+
+std::int32_t vornix_scroll_bar_save(
+    vornix_scroll_bar* bar, vornix_bag_entry* entries, std::size_t capacity, std::size_t* count)
+{
+    return BarCall(bar, [&] {
+        Require(count);
+        if (capacity > 0)
+            Require(entries);
+        bar->saved = bar->host.Save();
+        *count = bar->saved.values.size();
+        std::size_t place = 0;
+        for (const auto& [name, value] : bar->saved.values) {
+            if (place == capacity)
+                return;
+            entries[place].name = name.c_str();
+            entries[place].value = ToValue(Variant(std::get<i32>(value)));
+            ++place;
+        }
+    });
+}

@@ -4,6 +4,8 @@
 #include <QApplication>
 #include <QWheelEvent>
 
+#include <limits>
+
 namespace vornix {
 
 namespace {
@@ -195,6 +197,20 @@ TEST_F(QtWheelTest, PutDownAgainTheFingersStartAnew)
     EXPECT_EQ(Grid().FirstRow(), 0);
     Fingers({ 0, -10 });
     EXPECT_EQ(Grid().FirstRow(), 1);
+}
+
+TEST_F(QtWheelTest, StepsBeyondTheRangeEndAtItsEnds)
+{
+    constexpr i32 most = std::numeric_limits<i32>::max();
+    Grid().MoveScrollBar(ChildName::scrV, most);
+    EXPECT_EQ(Grid().FirstRow(), V().maximum() - 1);
+    Grid().MoveScrollBar(ChildName::scrV, most);
+    Grid().MoveScrollBar(ChildName::scrV, -most - 1);
+    EXPECT_EQ(Grid().FirstRow(), 0);
+    EXPECT_EQ(log.Count("Scroll"), 2);
+    Grid().MoveScrollBar(ChildName::cPivot, 3);
+    Grid().MouseWheel(ChildName::picSplitCol, -120);
+    EXPECT_EQ(log.Count("Scroll"), 2);
 }
 
 TEST_F(QtWheelTest, AHandlerMayCloseTheGridOrHaveTheWidgetDeletedLater)

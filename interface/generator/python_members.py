@@ -514,8 +514,9 @@ def event_stub(interface: Interface, event: Event) -> List[str]:
 
 PACKAGE_NAMES = {
     "_errors": ["AutomationError"],
-    "_grid": ["Grid", "ScrollBar", "TextBox"],
+    "_grid": ["Grid", "TextBox"],
     "_objects": ["Font", "Picture", "Surface"],
+    "_scroll_bar": ["ScrollBar"],
     "_version": ["__version__"],
 }
 

@@ -260,11 +260,10 @@ class TestEveryMember(GridTest):
 
 
 class TestCompanions(unittest.TestCase):
-    def test_they_are_not_built_yet(self) -> None:
-        for make in (vornix.TextBox, vornix.ScrollBar):
-            with self.assertRaises(vornix.AutomationError) as caught:
-                make()
-            self.assertEqual(caught.exception.number, 445)
+    def test_the_text_box_is_not_built_yet(self) -> None:
+        with self.assertRaises(vornix.AutomationError) as caught:
+            vornix.TextBox()
+        self.assertEqual(caught.exception.number, 445)
 
 
 if __name__ == "__main__":

@@ -35,7 +35,12 @@ def use(g: vornix.Grid) -> None:
     left: int = g.host.child("scrV").left
     bar = g.host.child("scrV")
     bar.notify(5, track_pos=bar.min + bar.max - bar.value)
-    print(place, size, parent, merged, texts, left)
+    with vornix.ScrollBar(1, length=80, bag=None) as own:
+        own.Value = own.Min + own.Max
+        own.on("Change", print)
+        own.host.notify(5, track_pos=own.Value)
+        saved = own.host.save()
+    print(place, size, parent, merged, texts, left, saved)
 
     @g.on("KeyDown")
     def key(e: vornix.events.KeyDown) -> None:
@@ -66,6 +71,7 @@ def misuse(g: vornix.Grid) -> Any:
     g.on("NoSuch", print)  # wrong
     g.on("KeyDown", refuse)  # wrong
     g.host.log = []  # wrong
+    vornix.ScrollBar().Min = 3  # wrong
     g.host.child("scrV").value = 3  # wrong
     g.host.child("scrV").notify()  # wrong
     vornix.vxCheckBox = 3  # wrong

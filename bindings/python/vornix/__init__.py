@@ -15,8 +15,9 @@ from . import events, host
 from ._constants import *
 from ._constants import __all__ as _constants
 from ._errors import AutomationError
-from ._grid import Grid, ScrollBar, TextBox
+from ._grid import Grid, TextBox
 from ._objects import Font, Picture, Surface
+from ._scroll_bar import ScrollBar
 from ._version import __version__
 
 __all__ = [

@@ -125,3 +125,14 @@ def path_bytes(path: Union[str, bytes, "os.PathLike[str]", "os.PathLike[bytes]"]
     if b"\0" in encoded:
         raise ValueError("embedded null byte in a path")
     return encoded
+
+
+def character_code(char: Union[str, int]) -> int:
+    """The code of a character, which may be given as the code."""
+    if not isinstance(char, str):
+        return to_i16(char)
+    if len(char) != 1:
+        raise AutomationError(INVALID_ARGUMENT, f"{char!r} is not one character")
+    code = ord(char)
+    # The upper half of 16 bits is negative.
+    return to_i16(code - 0x10000 if 0x8000 <= code <= 0xFFFF else code)

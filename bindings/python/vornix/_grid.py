@@ -4,38 +4,18 @@ import ctypes
 from typing import Any, List, Mapping, MutableMapping, Optional, TypeVar
 
 from . import _library
-from ._checks import to_bool, to_float, to_i16, to_i32, to_name, to_text
+from ._bag import make_bag
+from ._checks import to_bool, to_float, to_i16, to_i32, to_text
 from ._errors import INVALID_ARGUMENT, NOT_SUPPORTED, TYPE_MISMATCH, AutomationError
 from ._identity import Unique
 from ._members import GridMembers
-from ._objects import Font, Picture
 from ._session import CALL, GET, LET, Session, Settings
-from ._values import put
 from .events import EVENTS, GridEvents
 from .host import Host
 
-__all__ = ["Grid", "ScrollBar", "TextBox"]
+__all__ = ["Grid", "TextBox"]
 
 _KINDS = {"get": GET, "let": LET, "call": CALL}
-
-
-_BAG_KINDS = (bool, int, str, Font, Picture, type(None))
-
-
-def _make_bag(bag: Mapping[str, Any]) -> "ctypes.Array[_library.BagEntry]":
-    """What a control was saved with; None is no picture."""
-    if not isinstance(bag, Mapping):
-        raise AutomationError(TYPE_MISMATCH, f"A bag is a dict, not a {type(bag).__name__}")
-    made = (_library.BagEntry * len(bag))()
-    for entry, (name, value) in zip(made, bag.items()):
-        if not isinstance(value, _BAG_KINDS):
-            kind = type(value).__name__
-            raise AutomationError(TYPE_MISMATCH, f"{name} in the bag cannot be of type {kind}")
-        entry.name = to_name(name)
-        put(entry.value, value)
-        if value is None:
-            entry.value.type = _library.PICTURE
-    return made
 
 
 def _check_settings(settings: Any) -> None:
@@ -86,7 +66,7 @@ class Grid(GridMembers, GridEvents, Unique):
         size = to_i32(width), to_i32(height)
         if min(size) < 1:
             raise AutomationError(INVALID_ARGUMENT, f"A window cannot be {width} x {height}")
-        entries = _make_bag({} if bag is None else bag)
+        entries = make_bag({} if bag is None else bag)
         store: Settings = {} if settings is None else settings
         _check_settings(store)
         options = _library.GridOptions(
@@ -169,16 +149,5 @@ class TextBox:
         raise AutomationError(NOT_SUPPORTED, "vornix.TextBox is not built yet")
 
 
-class ScrollBar:
-    """A scroll bar. Not built yet: making one is error 445."""
-
-    __slots__ = ("__weakref__",)
-
-    def __init__(
-        self, orientation: int = 0, length: int = 100, *, bag: Optional[Mapping[str, Any]] = None
-    ) -> None:
-        raise AutomationError(NOT_SUPPORTED, "vornix.ScrollBar is not built yet")
-
-
-for _public in (Grid, TextBox, ScrollBar):
+for _public in (Grid, TextBox):
     _public.__module__ = "vornix"

@@ -125,6 +125,17 @@ class GridOptions(Structure):
     ]
 
 
+class ScrollBarOptions(Structure):
+    _fields_ = [
+        ("size", c_size_t),
+        ("orientation", c_int32),
+        ("length", c_int32),
+        ("has_bag", c_int32),
+        ("bag", POINTER(BagEntry)),
+        ("bag_count", c_size_t),
+    ]
+
+
 class TextBlock(Structure):
     _fields_ = [
         ("code_points", c_void_p),
@@ -214,6 +225,13 @@ _STATUS_FUNCTIONS = {
     "vornix_surface_fill": [_handle, c_uint32],
     "vornix_surface_pixel": [_handle, c_int32, c_int32, POINTER(c_uint32)],
     "vornix_surface_save_png": [_handle, c_char_p],
+    "vornix_scroll_bar_create": [POINTER(ScrollBarOptions), POINTER(_handle)],
+    "vornix_scroll_bar_destroy": [_handle],
+    "vornix_scroll_bar_set_callback": [_handle, c_void_p, c_void_p],
+    "vornix_scroll_bar_invoke": [_handle, c_char_p, c_int32, _values, c_size_t, _values],
+    "vornix_scroll_bar_notify": [_handle, c_int32, _i32_out],
+    "vornix_scroll_bar_resize": [_handle, c_int32, c_int32],
+    "vornix_scroll_bar_save": [_handle, POINTER(BagEntry), c_size_t, _size_out],
     "vornix_host_get_user_mode": [_handle, _i32_out],
     "vornix_host_set_user_mode": [_handle, c_int32],
     "vornix_host_resize": [_handle, c_int32, c_int32],

@@ -1,6 +1,6 @@
-"""A grid of the library: its calls, its handlers of events, and its end.
+"""The controls of the library: their calls, their handlers of events, and their end.
 
-Grid and host share one. Everything of it belongs to the thread that made it.
+A control and its host share one. Everything of it belongs to the thread that made it.
 """
 
 import ctypes
@@ -58,12 +58,12 @@ _members = _Members()
 # What starts an argument by reference that was left out, by its declared type.
 _STARTS: Mapping[int, Any] = {3: 0.0, 4: False, 5: ""}
 
-_live: "weakref.WeakValueDictionary[int, Session]" = weakref.WeakValueDictionary()
+_live: "weakref.WeakValueDictionary[int, Connection]" = weakref.WeakValueDictionary()
 _numbers = count(1)
 
 
 def _on_event(user: int, grid: int, number: int, arguments: Any, length: int) -> None:
-    """Every event of every grid that has handlers comes in here."""
+    """Every event of every control that has handlers comes in here."""
     session = _live.get(user)
     if session is None:
         return
@@ -77,7 +77,7 @@ def _get_setting(user: int, setting: Any) -> int:
     """Every reading of a setting by a grid comes in here: 0 where there is no such setting."""
     session = _live.get(user)
     try:
-        return 0 if session is None else session.read_setting(setting[0])
+        return session.read_setting(setting[0]) if isinstance(session, Session) else 0
     except BaseException as error:
         if session is not None:
             session.keep_error(error)
@@ -88,7 +88,7 @@ def _save_setting(user: int, setting: Any) -> None:
     """And every writing here."""
     session = _live.get(user)
     try:
-        if session is not None:
+        if isinstance(session, Session):
             session.write_setting(setting[0])
     except BaseException as error:
         if session is not None:
@@ -98,11 +98,12 @@ def _save_setting(user: int, setting: Any) -> None:
 _setting_reader = _library.SettingReader(_get_setting)
 _setting_writer = _library.SettingWriter(_save_setting)
 _callback = _library.EventCallback(_on_event)
-_callback_address = ctypes.cast(_callback, ctypes.c_void_p)
+callback_address = ctypes.cast(_callback, ctypes.c_void_p)
 
 
-class Session(Unique):
-    """One grid."""
+class Connection(Unique):
+    """A control of the library that raises events. Everything of it belongs to the thread that
+    made it."""
 
     __slots__ = (
         "_pointer",
@@ -112,33 +113,27 @@ class Session(Unique):
         "_error",
         "_handlers",
         "_events",
-        "_settings",
-        "_setting",
         "_end",
         "__weakref__",
     )
 
-    def __init__(
-        self, options: _library.GridOptions, events: Sequence[Any], settings: Settings
-    ) -> None:
+    # What messages call it.
+    _kind = "control"
+
+    def __init__(self, events: Sequence[Any]) -> None:
         self._thread = threading.get_ident()
         self._ended = False
         self._error: Optional[BaseException] = None
         self._events = events
         self._handlers: Dict[int, Tuple[Handler, ...]] = {}
-        self._settings = settings
-        self._setting: Optional[_library.Text] = None
         self._number = next(_numbers)
-        # Settings are read while the grid is being made.
         _live[self._number] = self
-        options.get_setting = ctypes.cast(_setting_reader, ctypes.c_void_p)
-        options.save_setting = ctypes.cast(_setting_writer, ctypes.c_void_p)
-        options.settings_user = self._number
-        pointer = ctypes.c_void_p()
-        status = library.vornix_grid_create(ctypes.byref(options), ctypes.byref(pointer))
-        if pointer.value is not None:
-            self._pointer = pointer.value
-            self._end = weakref.finalize(self, library.vornix_grid_destroy, self._pointer)
+
+    def _made(self, status: int, pointer: Optional[int], destroy: Callable[[int], int]) -> None:
+        """What a function that makes a control gave."""
+        if pointer is not None:
+            self._pointer = pointer
+            self._end = weakref.finalize(self, destroy, pointer)
         if self._error is not None:
             self.raise_error()
         check(status)
@@ -151,17 +146,17 @@ class Session(Unique):
 
     @property
     def is_here(self) -> bool:
-        """Whether this is the grid's own thread."""
+        """Whether this is the control's own thread."""
         return threading.get_ident() == self._thread
 
     def require_open(self) -> None:
         if threading.get_ident() != self._thread:
-            raise AutomationError(INVALID_ARGUMENT, "The grid belongs to another thread")
+            raise AutomationError(INVALID_ARGUMENT, f"The {self._kind} belongs to another thread")
         if self._ended:
-            raise AutomationError(INVALID_ARGUMENT, "The grid is closed")
+            raise AutomationError(INVALID_ARGUMENT, f"The {self._kind} is closed")
 
     def call(self, function: Callable[..., int], *arguments: Any) -> None:
-        """Calls a function of the library that takes the grid first."""
+        """Calls a function of the library that takes the control first."""
         self.require_open()
         status = function(self._pointer, *arguments)
         if self._error is not None:
@@ -173,6 +168,109 @@ class Session(Unique):
         """The first exception out of a handler comes out of the call that is running."""
         if self._error is None:
             self._error = error
+
+    def raise_error(self) -> None:
+        error, self._error = self._error, None
+        assert error is not None
+        try:
+            raise error
+        finally:
+            del error
+
+    def invoke(self, name: str, kind: int, arguments: Sequence[Any]) -> Any:
+        """Calls a member."""
+        raise NotImplementedError
+
+    # -- Events --
+
+    def event_number(self, name: str) -> int:
+        lowered = name.lower() if isinstance(name, str) else name
+        for number, event in enumerate(self._events):
+            if event.__name__.lower() == lowered:
+                return number + 1
+        raise AutomationError(NO_SUCH_MEMBER, f"The {self._kind} has no event {name!r}")
+
+    def add_handler(self, name: str, handler: Handler) -> None:
+        number = self.event_number(name)
+        if not callable(handler):
+            raise TypeError(f"a handler must be callable, not {type(handler).__name__}")
+        if self._handlers:
+            self.require_open()
+        else:
+            self.listen()
+        self._handlers[number] = (*self._handlers.get(number, ()), handler)
+
+    def remove_handler(self, name: str, handler: Handler) -> None:
+        number = self.event_number(name)
+        self.require_open()
+        handlers = list(self._handlers.get(number, ()))
+        if handler not in handlers:
+            return
+        handlers.remove(handler)
+        if handlers:
+            self._handlers[number] = tuple(handlers)
+            return
+        del self._handlers[number]
+        if not self._handlers:
+            self.stop_listening()
+
+    def dispatch(self, number: int, arguments: Any, length: int) -> None:
+        """Runs the handlers of an event, and writes back what they have set."""
+        handlers = self._handlers.get(number)
+        if not handlers:
+            return
+        event = self._events[number - 1]([peek(arguments[place]) for place in range(length)])
+        for handler in handlers:
+            now = self._handlers.get(number, ())
+            if now is not handlers and handler not in now:
+                continue
+            self._run(handler, event)
+        for place, value in event._end():
+            put(arguments[place], value)
+
+    def _run(self, handler: Handler, event: Any) -> None:
+        """What waits to come out of the call that raised the event is not for the handler's own
+        calls."""
+        waiting, self._error = self._error, None
+        try:
+            handler(event)
+        except BaseException as error:
+            self.keep_error(error)
+        finally:
+            if waiting is not None:
+                self._error = waiting
+
+    def listen(self) -> None:
+        """Has events come in: there is a first handler."""
+        raise NotImplementedError
+
+    def stop_listening(self) -> None:
+        """There is no handler any more."""
+        raise NotImplementedError
+
+
+class Session(Connection):
+    """One grid."""
+
+    __slots__ = ("_settings", "_setting")
+
+    _kind = "grid"
+
+    def __init__(
+        self, options: _library.GridOptions, events: Sequence[Any], settings: Settings
+    ) -> None:
+        # Settings are read while the grid is being made.
+        super().__init__(events)
+        self._settings = settings
+        self._setting: Optional[_library.Text] = None
+        options.get_setting = ctypes.cast(_setting_reader, ctypes.c_void_p)
+        options.save_setting = ctypes.cast(_setting_writer, ctypes.c_void_p)
+        options.settings_user = self._number
+        pointer = ctypes.c_void_p()
+        status = library.vornix_grid_create(ctypes.byref(options), ctypes.byref(pointer))
+        self._made(status, pointer.value, library.vornix_grid_destroy)
+
+    # -- Calls --
 
     def size(self) -> Optional[Tuple[int, int]]:
         """Rows and columns; None of a closed grid. An exception that waits goes on waiting."""
@@ -188,14 +286,6 @@ class Session(Unique):
         closed = ctypes.c_int32()
         self.call(library.vornix_host_is_closed, ctypes.byref(closed))
         return closed.value != 0
-
-    def raise_error(self) -> None:
-        error, self._error = self._error, None
-        assert error is not None
-        try:
-            raise error
-        finally:
-            del error
 
     def invoke(self, name: str, kind: int, arguments: Sequence[Any]) -> Any:
         """Calls a member: its own result, then its arguments by reference."""
@@ -291,62 +381,11 @@ class Session(Unique):
 
     # -- Events --
 
-    def event_number(self, name: str) -> int:
-        lowered = name.lower() if isinstance(name, str) else name
-        for number, event in enumerate(self._events):
-            if event.__name__.lower() == lowered:
-                return number + 1
-        raise AutomationError(NO_SUCH_MEMBER, f"The grid has no event {name!r}")
+    def listen(self) -> None:
+        self.call(library.vornix_set_event_callback, callback_address, self._number)
 
-    def add_handler(self, name: str, handler: Handler) -> None:
-        number = self.event_number(name)
-        if not callable(handler):
-            raise TypeError(f"a handler must be callable, not {type(handler).__name__}")
-        if self._handlers:
-            self.require_open()
-        else:
-            self.call(library.vornix_set_event_callback, _callback_address, self._number)
-        self._handlers[number] = (*self._handlers.get(number, ()), handler)
-
-    def remove_handler(self, name: str, handler: Handler) -> None:
-        number = self.event_number(name)
-        self.require_open()
-        handlers = list(self._handlers.get(number, ()))
-        if handler not in handlers:
-            return
-        handlers.remove(handler)
-        if handlers:
-            self._handlers[number] = tuple(handlers)
-            return
-        del self._handlers[number]
-        if not self._handlers:
-            self.call(library.vornix_set_event_callback, None, None)
-
-    def dispatch(self, number: int, arguments: Any, length: int) -> None:
-        """Runs the handlers of an event, and writes back what they have set."""
-        handlers = self._handlers.get(number)
-        if not handlers:
-            return
-        event = self._events[number - 1]([peek(arguments[place]) for place in range(length)])
-        for handler in handlers:
-            now = self._handlers.get(number, ())
-            if now is not handlers and handler not in now:
-                continue
-            self._run(handler, event)
-        for place, value in event._end():
-            put(arguments[place], value)
-
-    def _run(self, handler: Handler, event: Any) -> None:
-        """What waits to come out of the call that raised the event is not for the handler's own
-        calls."""
-        waiting, self._error = self._error, None
-        try:
-            handler(event)
-        except BaseException as error:
-            self.keep_error(error)
-        finally:
-            if waiting is not None:
-                self._error = waiting
+    def stop_listening(self) -> None:
+        self.call(library.vornix_set_event_callback, None, None)
 
     def logged(self) -> List[Tuple[str, Dict[str, Any]]]:
         """The events since the log was cleared."""
@@ -406,4 +445,4 @@ def _returned(member: Member, places: Sequence[int], slots: Any, result: Value) 
     return returned[0] if len(returned) == 1 else tuple(returned)
 
 
-__all__ = ["CALL", "GET", "LET", "Array", "Session"]
+__all__ = ["CALL", "GET", "LET", "Array", "Connection", "Session"]

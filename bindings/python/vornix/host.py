@@ -5,8 +5,17 @@ import os
 from typing import Any, Dict, List, NoReturn, Optional, Sequence, Tuple, Union
 
 from . import _library
-from ._checks import path_bytes, to_bool, to_i16, to_i32, to_name, to_place, to_text
-from ._errors import INVALID_ARGUMENT, NOT_SUPPORTED, AutomationError, error_of
+from ._checks import (
+    character_code,
+    path_bytes,
+    to_bool,
+    to_i16,
+    to_i32,
+    to_name,
+    to_place,
+    to_text,
+)
+from ._errors import NOT_SUPPORTED, error_of
 from ._identity import Unique
 from ._library import library, make_text, text_of
 from ._session import Session, Settings
@@ -126,7 +135,7 @@ class Host(Unique):
 
     def key_press(self, char: Union[str, int]) -> int:
         """A character is typed: itself, or its code. Gives the code as the handlers left it."""
-        value = ctypes.c_int16(_character_code(char))
+        value = ctypes.c_int16(character_code(char))
         self._session.call(library.vornix_host_key_press, ctypes.byref(value))
         return value.value
 
@@ -449,13 +458,3 @@ def _whose(session: Session) -> str:
 
 def _name_of(name: ctypes.c_char_p) -> str:
     return name.value.decode("utf-8") if name.value else ""
-
-
-def _character_code(char: Union[str, int]) -> int:
-    if not isinstance(char, str):
-        return to_i16(char)
-    if len(char) != 1:
-        raise AutomationError(INVALID_ARGUMENT, f"{char!r} is not one character")
-    code = ord(char)
-    # The upper half of 16 bits is negative.
-    return to_i16(code - 0x10000 if 0x8000 <= code <= 0xFFFF else code)

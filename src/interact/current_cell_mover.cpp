@@ -162,21 +162,17 @@ void CurrentCellMover::WriteRow(i32 Row)
         return;
     if (!HasCurrent() && store.Cols() < 1)
         return;
-    const bool isInPage = context_.page.PageSize() > 0;
+    const i32 before = PublicRow(); // in the list the same row of the page is another place at another time
     CellIndex target { NoIndex, HasCurrent() ? current.Col() : store.FixedCols() };
-    // In the list the same row of the page is another place at another time.
-    const i32 before = !HasCurrent() ? NoIndex : isInPage ? current.CursorPosition : current.Row();
-    i32 now = NoIndex;
-    if (isInPage) {
+    if (context_.page.PageSize() > 0) {
         if (!GotoListPosition(Row))
             return;
         target = Current();
-        now = current.CursorPosition;
     } else {
-        target.row = now = Row + store.FixedRows();
+        target.row = Row + store.FixedRows();
     }
     if (store.HeightOf(target.row) == 0 || store.RowAt(target.row).Hidden) {
-        const int key = before <= now ? Keys::Down : Keys::Up;
+        const int key = before <= Row ? Keys::Down : Keys::Up;
         const CellIndex beside = step_.From(target, key).cell;
         if (beside.row == target.row)
             return;

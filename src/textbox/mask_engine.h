@@ -30,8 +30,8 @@ public:
     virtual const Locale& GetLocale() const = 0;
 };
 
-// Who changed the text of the box: it itself, for a key that the engine let through, or anyone else, which pasting,
-// dropping, cutting, undoing and an input method are, whatever key they were asked by.
+// Who changed the text of the box: it itself, for a key that the engine let through, or anyone else. Pasting, dropping,
+// cutting and undoing are foreign whatever key they were asked by.
 enum class ChangeOrigin { Key, Foreign };
 
 class MaskEngine {
@@ -79,7 +79,8 @@ public:
     // -- For the box --
 
     // A key, and the character that it types, before the box acts on them; a value left at 0 is not for the box. Shift is
-    // the sum of the keys held: 1 Shift, 2 Ctrl, 4 Alt. A key that types nothing has no KeyPress.
+    // the sum of the keys held: 1 Shift, 2 Ctrl, 4 Alt. A key that types nothing has no KeyPress; what an input method
+    // has composed comes as characters without keys.
     void KeyDown(i16& KeyCode, i16 Shift);
     void KeyPress(i16& KeyAscii, i16 Shift);
     // The text has changed. To be called at once; changes that the engine itself makes may be told too, or not.

@@ -76,6 +76,23 @@ TEST_F(MaskEngineChangesTest, ABoxThatCannotTellAPasteByCtrlFromAKeyIsUnderstood
     EXPECT_EQ(Box.Text(), u"1_");
 }
 
+TEST_F(MaskEngineChangesTest, AKeyAnswersForOneChange)
+{
+    Mask(u"00");
+    Box.SetTellsWrites(false);
+    // No key came before.
+    Box.SetText(u"xyz");
+    Engine.BoxChanged(ChangeOrigin::Key);
+    EXPECT_EQ(Box.Text(), u"__");
+    i16 key = 65;
+    Engine.KeyDown(key, TextKeys::Shift);
+    Box.SetText(u"xyz");
+    Engine.BoxChanged(ChangeOrigin::Key);
+    EXPECT_EQ(Box.Text(), u"xyz");
+    Engine.BoxChanged(ChangeOrigin::Key);
+    EXPECT_EQ(Box.Text(), u"__");
+}
+
 TEST_F(MaskEngineChangesTest, ADropIsForeign)
 {
     Mask(u"LL-LL");

@@ -293,6 +293,42 @@ TEST_F(MaskEngineTypingTest, WhatCtrlTypesIsNoCharacter)
     EXPECT_EQ(Box.Text(), u"@A");
 }
 
+TEST_F(MaskEngineTypingTest, WhatWasComposedComesWithoutKeys)
+{
+    Mask(u">&0");
+    for (const char16_t character : u"\u00E95"s) {
+        auto code = static_cast<i16>(character);
+        Engine.KeyPress(code, 0);
+        EXPECT_EQ(code, 0);
+    }
+    EXPECT_EQ(Box.Text(), u"\u00C95");
+    EXPECT_EQ(Engine.TextInput(), u"\u00C95");
+}
+
+class ShortBox : public SimulatedBox {
+public:
+    void SetText(std::u16string_view text) override { SimulatedBox::SetText(text.substr(0, 3)); }
+};
+
+TEST_F(MaskEngineTypingTest, ABoxThatIsTooShortForTheFormIsFilledAsFarAsItGoes)
+{
+    ShortBox box;
+    MaskEngine engine(box, Owner);
+    box.Attach(engine);
+    engine.SetMask(u"0-000");
+    engine.SetReplaceChar(u"?");
+    EXPECT_EQ(box.Text(), u"_-_");
+    EXPECT_EQ(engine.Text(), u"??");
+    box.TypeAll(u"123");
+    EXPECT_EQ(box.Text(), u"1-2");
+    EXPECT_EQ(engine.TextInput(), u"12");
+    // The place behind the end took a value all the same.
+    EXPECT_EQ(engine.Text(), u"123");
+    box.Backspace();
+    EXPECT_EQ(box.Text(), u"1-_");
+    EXPECT_EQ(box.SelStart(), 2);
+}
+
 TEST_F(MaskEngineTypingTest, AHostThatChangesTheMaskInChangeIsFollowed)
 {
     Mask(u"00");

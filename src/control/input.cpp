@@ -1,6 +1,6 @@
 // What happens to the control's window, on its way to the host.
-#include "automation/checked.h"
 #include "control/control.h"
+#include "interact/pixel_at.h"
 
 namespace vornix {
 
@@ -50,21 +50,21 @@ void Vornix::ChildMouseDown(ChildName Child, i16 Button, float x, float /*y*/)
 {
     const auto control = Enter();
     if (control->HearsUser() && Child == ChildName::picSplitCol)
-        control->split.Press(Button, RoundToI16(x));
+        control->split.Press(Button, PixelAt(x));
 }
 
 void Vornix::ChildMouseMove(ChildName Child, float x, float /*y*/)
 {
     const auto control = Enter();
     if (control->HearsUser() && Child == ChildName::picSplitCol)
-        control->split.Move(RoundToI16(x));
+        control->split.Move(PixelAt(x));
 }
 
 void Vornix::ChildMouseUp(ChildName Child, i16 Button, float x, float /*y*/)
 {
     const auto control = Enter();
     if (control->HearsUser() && Child == ChildName::picSplitCol)
-        control->split.Release(Button, RoundToI16(x));
+        control->split.Release(Button, PixelAt(x));
 }
 
 void Vornix::PaintChild(ChildName Child)
@@ -82,7 +82,7 @@ void Vornix::EnterChildFocus(ChildName Child)
         return;
     if (control->editor.IsEditorOpen())
         control->editor.TakeFocus();
-    else
+    else if (control->mover.HasCurrent() && !control->layout.IsBeforeView(control->mover.Current()))
         control->mover.Repaint();
 }
 
@@ -114,7 +114,9 @@ bool Vornix::Enabled() const
 void Vornix::SetEnabled(bool Value)
 {
     const auto control = Enter();
-    control->SetSetting(control->settings.Enabled, Value, "Enabled");
+    if (!control->SetSetting(control->settings.Enabled, Value, "Enabled") || Value || control->IsClosed())
+        return;
+    control->split.Cancel();
 }
 
 void Vornix::KeyDown(i16& KeyCode, i16& Shift)

@@ -51,6 +51,7 @@ void Control::BuildTable()
     current.Clear();
     selection.Reset();
     mouse.Reset();
+    split.Cancel();
     hasTable_ = true;
     CopyCaption();
     layout.MarkMetricsDirty();

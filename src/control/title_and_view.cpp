@@ -84,7 +84,7 @@ void Vornix::SetShowSplit(bool Value)
     const SplitChange change = layout.SetShowSplit(Value);
     if (change == SplitChange::None)
         return;
-    control->container.Child(ChildName::picSplitCol).Show(false);
+    control->scrolling.HideSplitHandle();
     if (!Value && layout.HBarHeight() > 0) {
         const int top = layout.ClientHeight() - 1;
         control->container.Child(ChildName::scrH).Move({ 0, top, layout.ClientWidth(), top + layout.HBarHeight() + 1 });

@@ -3,8 +3,20 @@
 #include "automation/checked.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace vornix {
+
+namespace {
+
+// In whole pixels, never back.
+int WayFrom(int origin, float place)
+{
+    const float way = std::max(place - static_cast<float>(origin), 0.0F);
+    return static_cast<int>(std::min(way, static_cast<float>(std::numeric_limits<i16>::max())));
+}
+
+} // namespace
 
 LineSizing::LineSizing(LineSizingContext context)
     : context_(context)
@@ -86,10 +98,12 @@ bool LineSizing::OffersRow(int row, int col) const
 
 bool LineSizing::Begin(int x, int y)
 {
-    HitTest(x, y);
+    End();
+    const HitResult hit = HitTest(x, y);
     const bool acrossCols = cursor_ == PointerShape::SizeWE;
     const int candidate = acrossCols ? candidateCol_ : candidateRow_;
-    if (candidate < 0) {
+    // The line may have been locked, hidden or taken away since the cursor showed.
+    if (candidate < 0 || ShapeAt(x, y, hit) != cursor_) {
         RestoreCursor();
         return false;
     }
@@ -106,7 +120,7 @@ bool LineSizing::Begin(int x, int y)
     return true;
 }
 
-void LineSizing::SizeTo(int x, int y)
+void LineSizing::SizeTo(float x, float y)
 {
     if (sizingCol_)
         SizeColTo(x);
@@ -120,12 +134,11 @@ void LineSizing::End()
     sizingRow_ = false;
 }
 
-void LineSizing::SizeColTo(int x)
+void LineSizing::SizeColTo(float x)
 {
     const int col = col_;
     if (!IsRealCol(col))
         return;
-    context_.layout.MeasureIfDirty();
     originX_ = context_.layout.CellOriginAt(0, col).x; // the view may have scrolled
     i16 width = WidthAt(x, col);
     {
@@ -137,12 +150,11 @@ void LineSizing::SizeColTo(int x)
     PaintAtOnce();
 }
 
-void LineSizing::SizeRowTo(int y)
+void LineSizing::SizeRowTo(float y)
 {
     const int row = row_;
     if (!IsRealRow(row))
         return;
-    context_.layout.MeasureIfDirty();
     if (!context_.layout.Settings.ResizingRows) // otherwise the rows before it move as well
         originY_ = context_.layout.CellOriginAt(row, 0).y;
     i16 height = HeightAt(y, row);
@@ -155,12 +167,12 @@ void LineSizing::SizeRowTo(int y)
     PaintAtOnce();
 }
 
-// No column is wider than the area that scrolls, but for scrolling by pixels. A frozen one leaves that area as it is at
-// the most.
-i16 LineSizing::WidthAt(int x, int col) const
+// No column is wider than the area that scrolls, but for scrolling by pixels. A frozen one may take all of that
+// area.
+i16 LineSizing::WidthAt(float x, int col) const
 {
     const LayoutEngine& layout = context_.layout;
-    int width = std::max(x, originX_) - originX_;
+    int width = WayFrom(originX_, x);
     if (col == context_.scroll.FirstCol())
         width -= layout.SmoothOffset();
     const int scrollingArea = layout.ScaleSize().width - layout.VBarWidth() - layout.FrozenColsWidth();
@@ -171,23 +183,31 @@ i16 LineSizing::WidthAt(int x, int col) const
     return ToI16(std::max(width, 0));
 }
 
-i16 LineSizing::HeightAt(int y, int row) const
+i16 LineSizing::HeightAt(float y, int row) const
 {
     const LayoutEngine& layout = context_.layout;
     const int scrollingArea = layout.ScaleSize().height - layout.HBarHeight() - layout.FixedRowsHeight();
     const bool isFixed = row < context_.store.FixedRows();
     const int limit = isFixed ? scrollingArea + context_.store.HeightOf(row) : scrollingArea;
-    return ToI16(std::clamp(std::max(y, originY_) - originY_, 0, std::max(limit, 0)));
+    return ToI16(std::clamp(WayFrom(originY_, y), 0, std::max(limit, 0)));
 }
 
 void LineSizing::StoreWidth(int col, int width)
 {
-    ScrollModel& scroll = context_.scroll;
     context_.layout.SetColWidth(col, width);
-    if (col >= context_.layout.FirstScrollCol() && col < scroll.FirstCol())
-        scroll.SetFirstCol(col);
+    if (col >= context_.layout.FirstScrollCol() && col < context_.scroll.FirstCol())
+        TakeFirstCol(col);
     if (width == 0)
-        scroll.SetFirstCol(context_.scrolling.Positions().FirstVisibleScrollCol());
+        TakeFirstCol(context_.scrolling.Positions().FirstVisibleScrollCol());
+}
+
+// The pixels by which another column was pushed out are not its own.
+void LineSizing::TakeFirstCol(int col)
+{
+    if (col == context_.scroll.FirstCol())
+        return;
+    context_.scroll.SetFirstCol(col);
+    context_.layout.SetSmoothOffset(0);
 }
 
 void LineSizing::StoreHeight(int row, int height)

@@ -46,7 +46,7 @@ public:
     bool Begin(int x, int y);
     // The pointer has moved with the button. Raises ResizeCol or ResizeRow, and the events of painting; PopulateGrid
     // when all rows of a page are closed. Error 6 for a size beyond 16 bits.
-    void SizeTo(int x, int y);
+    void SizeTo(float x, float y);
     // The size is in force since the latest move: there is nothing to commit.
     void End();
     // A double click on the boundary: the line takes the size of what it holds.
@@ -61,11 +61,12 @@ private:
     bool OffersRow(int row, int col) const;
     void ShowCursor(PointerShape shape);
 
-    void SizeColTo(int x);
-    void SizeRowTo(int y);
-    i16 WidthAt(int x, int col) const;
-    i16 HeightAt(int y, int row) const;
+    void SizeColTo(float x);
+    void SizeRowTo(float y);
+    i16 WidthAt(float x, int col) const;
+    i16 HeightAt(float y, int row) const;
     void StoreWidth(int col, int width);
+    void TakeFirstCol(int col);
     void StoreHeight(int row, int height);
     void StoreHeightOfAllRows(int height);
     void RefillPage();

@@ -3,21 +3,11 @@
 
 #include "automation/checked.h"
 #include "interact/key_codes.h"
-
-#include <algorithm>
-#include <limits>
+#include "interact/pixel_at.h"
 
 namespace vornix {
 
 // -- Where the pointer is --
-
-// Pixels are 16 bits; what lies beyond them is only far away.
-Point Mouse::PixelAt(float x, float y)
-{
-    constexpr float lowest = std::numeric_limits<i16>::min();
-    constexpr float highest = std::numeric_limits<i16>::max();
-    return { RoundToI16(std::clamp(x, lowest, highest)), RoundToI16(std::clamp(y, lowest, highest)) };
-}
 
 void Mouse::TakeHit(const HitResult& hit)
 {

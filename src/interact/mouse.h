@@ -66,7 +66,6 @@ private:
     static constexpr CellIndex Nowhere { NoIndex, NoIndex };
 
     // -- Where the pointer is --
-    static Point PixelAt(float x, float y);
     void TakeHit(const HitResult& hit);
     HitResult LatestHit() const { return { hit_.row, hit_.col, !isOffCells_ }; }
     bool IsHovering() const { return hover_.row >= 0 && hover_.col >= 0; }

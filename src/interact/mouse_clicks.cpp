@@ -2,6 +2,7 @@
 #include "interact/mouse.h"
 
 #include "interact/key_codes.h"
+#include "interact/pixel_at.h"
 
 namespace vornix {
 

@@ -2,6 +2,7 @@
 #include "interact/mouse.h"
 
 #include "interact/key_codes.h"
+#include "interact/pixel_at.h"
 
 #include <cstdlib>
 
@@ -46,7 +47,7 @@ void Mouse::Move(i16 button, i16 shift, float x, float y)
     if (button == Buttons::None)
         sizing.UpdateCursor(at.x, at.y, LatestHit());
     else if (sizing.IsSizing() && !inDblClick_)
-        sizing.SizeTo(at.x, at.y);
+        sizing.SizeTo(x, y);
     if (!sizing.IsSizing() && (isOffCells_ || hover_ != before))
         HoverAlong(button, before, at);
     if (button == Buttons::None)

@@ -54,18 +54,26 @@ void Scrolling::HideAllBars()
     LayoutEngine& layout = context_.layout;
     hBar_.control.Hide();
     vBar_.control.Hide();
+    HideSplitHandle();
     layout.SetHBarHeight(0);
     layout.SetClientHeight(ToI16(layout.ScaleSize().height));
     PlaceCorner();
 }
 
+// And the line of a drag, which gets no release without it.
+void Scrolling::HideSplitHandle()
+{
+    context_.container.Child(ChildName::picSplitCol).Show(false);
+    context_.container.Child(ChildName::picSplitMove).Show(false);
+}
+
 void Scrolling::UpdateHorizontalBar()
 {
     LayoutEngine& layout = context_.layout;
-    ChildWindow& handle = context_.container.Child(ChildName::picSplitCol);
+    const ChildWindow& handle = context_.container.Child(ChildName::picSplitCol);
     if (layout.HBarHeight() == 0 || layout.Settings.ScrollHBar == vxNoScrollBar) {
         hBar_.control.Hide();
-        handle.Show(false);
+        HideSplitHandle();
         layout.SetSmoothOffset(0);
         layout.DropSplit(); // a split lives only as long as the bar
         return;

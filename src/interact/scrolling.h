@@ -62,6 +62,8 @@ public:
     // True when the view has moved. A cell outside the store is error 9.
     bool EnsureCellVisible(int row, int col);
 
+    void HideSplitHandle();
+
     // What the user does. Nothing arrives while the bars are not hooked.
     void SetHooked(bool hooked);
     void Notify(ChildName bar, i32 code);

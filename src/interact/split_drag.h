@@ -29,6 +29,8 @@ public:
     // Raises SplitCols where there is a column to split at, and the events of painting. A split that would cut a span
     // is refused. Error 6 when the columns before it are too wide for a sum.
     void Release(i16 button, int x);
+    // The drag is over without a split.
+    void Cancel() { Line().Show(false); }
 
 private:
     ChildWindow& Line() const { return context_.container.Child(ChildName::picSplitMove); }

@@ -112,6 +112,8 @@ public:
     // Within the whole lines of the latest paint; fixed lines always. Hidden ones in between count.
     bool IsVisibleRow(int row) const;
     bool IsVisibleCol(int col) const;
+    // Scrolled out at the left or at the top.
+    bool IsBeforeView(CellIndex cell) const;
     bool IsVisibleCell(int row, int col) const { return IsVisibleRow(row) && IsVisibleCol(col); }
 
 private:

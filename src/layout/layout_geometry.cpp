@@ -167,6 +167,13 @@ bool LayoutEngine::IsVisibleRow(int row) const
     return row < store_.FixedRows() || (row >= scroll_.FirstRow() && row <= scroll_.LastRow());
 }
 
+bool LayoutEngine::IsBeforeView(CellIndex cell) const
+{
+    const bool isAbove = cell.row >= store_.FixedRows() && cell.row < scroll_.FirstRow();
+    const bool isLeft = cell.col >= firstScrollCol_ && cell.col < scroll_.FirstCol();
+    return isAbove || isLeft;
+}
+
 bool LayoutEngine::IsVisibleCol(int col) const
 {
     if (col < store_.FixedCols())

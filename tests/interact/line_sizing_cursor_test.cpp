@@ -191,6 +191,15 @@ TEST_F(LineSizingCursorTest, APressSizesWhatLiesThereNow)
     EXPECT_EQ(host->Count("MouseDown"), 1) << "a press like any other";
 }
 
+TEST_F(LineSizingCursorTest, APressOnALineThatWasLockedMeanwhileSizesNothing)
+{
+    ShapeAt(ColEnd(0) - 1, Header);
+    Grid().SetColResize(0, false);
+    host->MouseDown(ColEnd(0) - 1, Header);
+    EXPECT_FALSE(Grid().IsSizingMode());
+    EXPECT_EQ(host->Pointer(), None);
+}
+
 TEST_F(LineSizingCursorTest, APressOnTheBoundaryTellsNothingButThatTheCellIsLeft)
 {
     host->MouseMove(ColEnd(0) - 1, Header);

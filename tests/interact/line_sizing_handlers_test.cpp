@@ -259,6 +259,19 @@ TEST_F(LineSizingHandlersTest, TheTableIsReadAnew)
     EXPECT_FALSE(Grid().IsSizingMode());
 }
 
+TEST_F(LineSizingHandlersTest, ATableReadAnewIsNotSizedByTheDragOfTheOldOne)
+{
+    MemoryBag bag;
+    bag.WriteProperty("Rows", 3);
+    bag.WriteProperty("Cols", 5);
+    CatchCol(1);
+    Grid().ReadProperties(bag);
+    EXPECT_FALSE(Grid().IsSizingMode());
+    host->ClearLog();
+    Drag(200, Header);
+    EXPECT_EQ(host->Count("ResizeCol"), 0);
+}
+
 TEST_F(LineSizingHandlersTest, ThePropertiesOfTheSplitChangeInside)
 {
     SmallWindow();

@@ -278,6 +278,42 @@ TEST_F(LineSizingTest, AClosedColumnThatIsScrolledAwayComesBack)
     EXPECT_TRUE(IsPainted());
 }
 
+TEST_F(LineSizingTest, AClosedColumnComesBackFromItsLeftEdgeInAViewMovedByPixels)
+{
+    SmallWindowIn(vxScrollSmooth);
+    Grid().SetColWidth(3, 0);
+    host->HorizontalBar().Notify(5, 650);
+    host->HorizontalBar().Notify(8, 650);
+    ASSERT_EQ(Grid().FirstCol(), 6);
+    Catch(32, Header);
+    Drag(70, Header);
+    EXPECT_EQ(Grid().FirstCol(), 3);
+    EXPECT_EQ(Grid().ColWidth(3), 40) << "none of it is pushed out";
+    EXPECT_TRUE(IsPainted());
+}
+
+TEST_F(LineSizingTest, PartsOfAPixelAreCutOff)
+{
+    CatchCol(0);
+    Drag(160.7F, Header);
+    EXPECT_EQ(Grid().ColWidth(0), 130);
+    LetGo(160.7F, Header);
+    CatchRow(0);
+}
+
+TEST_F(LineSizingTest, AFixedWidthBeyondAllSumsIsMendedByTheNextMove)
+{
+    Grid().SetFixedCols(2);
+    handlers.OnResizeCol = [&](i16, i16& NewWidth) { NewWidth = 32767; };
+    Catch(29, Header);
+    EXPECT_EQ(ErrorOf([&] { Drag(60, Header); }), ErrorNumber::Overflow);
+    handlers.OnResizeCol = nullptr;
+    Drag(60, Header);
+    EXPECT_EQ(Grid().ColWidth(-2), 60);
+    LetGo(60, Header);
+    EXPECT_TRUE(IsPainted());
+}
+
 TEST_F(LineSizingTest, AClosedRowThatIsScrolledAwayComesBack)
 {
     SmallWindowIn(vxScrollTrack);

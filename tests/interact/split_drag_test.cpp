@@ -318,6 +318,40 @@ TEST_F(SplitDragTest, WithoutABarThereIsNoHandle)
     EXPECT_FALSE(Child(Handle).IsVisible());
 }
 
+// No release comes to a handle that is gone, nor to a control that does not hear it.
+TEST_F(SplitDragTest, TheLineGoesWithTheHandle)
+{
+    Press(3);
+    Grid().SetCols(1);
+    EXPECT_FALSE(Child(Handle).IsVisible());
+    EXPECT_FALSE(Line().IsVisible());
+
+    Begin(20);
+    Press(3);
+    Grid().SetShowSplit(false);
+    EXPECT_FALSE(Line().IsVisible());
+
+    Begin(20);
+    Press(3);
+    Grid().SetEnabled(false);
+    EXPECT_FALSE(Line().IsVisible());
+
+    Begin(20);
+    Press(3);
+    Grid().ReadProperties(MemoryBag());
+    EXPECT_FALSE(Line().IsVisible());
+}
+
+TEST_F(SplitDragTest, PlacesBeyond16BitsAreOnlyFarAway)
+{
+    Press(3);
+    Grid().ChildMouseMove(Handle, 1e9F, 5);
+    EXPECT_TRUE(Line().IsVisible());
+    Grid().ChildMouseUp(Handle, 1, 1e9F, 5);
+    EXPECT_FALSE(Line().IsVisible());
+    EXPECT_EQ(Grid().SplitCols(), 0);
+}
+
 TEST_F(SplitDragTest, AnyChangeOfTheSettingDropsTheSplit)
 {
     DragTo(280);

@@ -1,5 +1,5 @@
-// Where the parts of a scroll bar lie: an arrow at each end and the thumb on the trough between them. Distances in pixels
-// along the bar, from its upper or left end.
+// Where the parts of a scroll bar lie: an arrow at each end and the thumb on the trough between them. Distances in
+// pixels along the bar, from its upper or left end.
 #pragma once
 
 #include "vornix/platform/container.h"

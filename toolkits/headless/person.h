@@ -6,7 +6,8 @@
 // lies above it by then. A key is KeyDown, KeyPress and KeyUp, each to the window that has the focus at that moment.
 //
 // When the control is closed or hidden on the way, the rest is not delivered, nor is anything to a hidden one, which
-// does not get the focus either. A line break of two characters is typed with one Return. All begin with error 5 on a closed control.
+// does not get the focus either. A line break of two characters is typed with one Return. All begin with error 5 on a
+// closed control.
 #pragma once
 
 #include "virtual_keys.h"

@@ -160,7 +160,7 @@ class ScrollBar(Unique):
         return BarHost(self._session)
 
     def close(self) -> None:
-        """Ends the bar: everything of it raises error 5 from then on. A second time does nothing."""
+        """Ends the bar: all of it raises error 5 from then on. A second time does nothing."""
         self._session.end()
 
     def __enter__(self: _B) -> _B:

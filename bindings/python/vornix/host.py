@@ -36,8 +36,8 @@ class Host(Unique):
     """What a form and a person do to the control, and what the control says and shows.
 
     Places are pixels of the client area. Buttons are 1 left, 2 right, 4 middle; shift is a sum of
-    1 Shift, 2 Ctrl and 4 Alt. What a person does reaches the control only while it is shown, and the
-    window on top there: a bar scrolls by its arrows, its trough and its thumb, the handle of the
+    1 Shift, 2 Ctrl and 4 Alt. What a person does reaches the window on top, and nothing while the
+    control is not shown: a bar scrolls by its arrows, its trough and its thumb, the handle of the
     split is dragged. Single notifications always reach the control.
     """
 

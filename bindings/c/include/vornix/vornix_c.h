@@ -357,7 +357,8 @@ VORNIX_API int32_t vornix_host_key_press(vornix_grid* grid, int16_t* character);
 VORNIX_API int32_t vornix_host_key_up(vornix_grid* grid, int16_t* code, int16_t shift);
 
 /* What a person does: the window on top at the place gets the notifications in the platform's order, and a bar scrolls
- * by its arrows, its trough and its thumb; keys go to what has the focus. A key is a name ("Left", "F2", "Escape", "Delete", "Back", "Return", "Tab", ...). */
+ * by its arrows, its trough and its thumb; keys go to what has the focus. A key is a name ("Left", "F2", "Escape",
+ * "Delete", "Back", "Return", "Tab", ...). */
 VORNIX_API int32_t vornix_host_click_at(vornix_grid* grid, float x, float y, int16_t button, int16_t shift);
 VORNIX_API int32_t vornix_host_dbl_click_at(vornix_grid* grid, float x, float y, int16_t button, int16_t shift);
 VORNIX_API int32_t vornix_host_drag(
@@ -460,7 +461,8 @@ typedef void (*vornix_scroll_bar_callback)(
 
 /* Options may be null. The bar is shown, and answers to its user once its member Subclass was called. */
 VORNIX_API int32_t vornix_scroll_bar_create(const vornix_scroll_bar_options* options, vornix_scroll_bar** bar);
-/* Inside one of its own calls (an event) this is error 5, and the bar stays. Null is nothing. */
+/* On any thread, while no other calls the bar. Inside one of its own calls (an event) this is error 5, and the bar stays.
+ * Null is nothing. */
 VORNIX_API int32_t vornix_scroll_bar_destroy(vornix_scroll_bar* bar);
 VORNIX_API int32_t vornix_scroll_bar_set_callback(
     vornix_scroll_bar* bar, vornix_scroll_bar_callback callback, void* user);

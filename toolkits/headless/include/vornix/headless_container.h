@@ -112,7 +112,8 @@ public:
     // control what is done to them, the corner between the bars takes the focus; other children do nothing.
     //
     // A control that a handler closes or hides gets no further notification, and a hidden one none at all, nor the
-    // focus; one that is closed from the start is error 5, as are buttons, sums of keys and numbers of steps that there are not, and places that are not finite.
+    // focus; one that is closed from the start is error 5, as are buttons, sums of keys and numbers of steps that there
+    // are not, and places that are not finite.
 
     // MouseMove, MouseDown, MouseUp, Click.
     void ClickAt(float x, float y, i16 button = 1, i16 shift = 0);
@@ -124,12 +125,13 @@ public:
     void Drag(float x1, float y1, float x2, float y2, i16 button = 1, i16 shift = 0, i32 steps = 8);
     // KeyDown, KeyPress unless the handlers set the code of KeyDown to 0, and KeyUp for each unit of the text, by the
     // keys of a US keyboard: capitals and upper signs with Shift, a line feed as Return (one for CR LF), what has no
-    // key with the code 231. They go to what has the focus at the moment; when that is not in the control, the control gets it first.
+    // key with the code 231. They go to what has the focus at the moment; when that is not in the control, the control
+    // gets it first.
     void Type(std::u16string_view text);
     // The same for one key, by its name in any case ("a", "Left", "F2", "Escape", "Delete", "Back", "Return", "Tab",
-    // "Numpad5", ...), by the sign that it gives ("+", which takes Shift), or by its code, 1 to 254. KeyPress comes for keys that give a character: letters, digits, signs,
-    // Back, Tab, Return, Escape and Space; with Ctrl, letters give 1 to 26; with Alt nothing does. Error 5 for a name
-    // that no key has; its description lists those there are.
+    // "Numpad5", ...), by the sign that it gives ("+", which takes Shift), or by its code, 1 to 254. KeyPress comes for
+    // keys that give a character: letters, digits, signs, Back, Tab, Return, Escape and Space; with Ctrl, letters give 1
+    // to 26; with Alt nothing does. Error 5 for a name that no key has; its description lists those there are.
     void Press(std::string_view key, i16 shift = 0);
     void Press(i16 code, i16 shift = 0);
     // Holds a key or button by its platform code, or lets it go.

@@ -53,6 +53,13 @@ TEST_F(SplitHandle, TheRightButtonDoesNotDragIt)
     EXPECT_TRUE(host->Log().empty());
 }
 
+TEST_F(SplitHandle, ADragFarOutsideSplitsNothing)
+{
+    EXPECT_EQ(ErrorOf([&] { DragTo(1e30F); }), std::nullopt);
+    EXPECT_EQ(Grid().SplitCols(), 0);
+    EXPECT_FALSE(Line().IsVisible());
+}
+
 TEST_F(SplitHandle, TheLineFollowsThePointer)
 {
     const Rect handle = Handle().Place();

@@ -313,6 +313,18 @@ TEST_F(QtAccessibleTest, HasTheCurrentCellAsFocus)
     EXPECT_TRUE(StateAt(3, 3).focusable);
 }
 
+TEST_F(QtAccessibleTest, HasAPressedHeaderAsFocus)
+{
+    Grid().SetText(-1, 2, u"Price");
+    Click(MiddleOf(-1, 2));
+    QAccessibleInterface* const header = Whole().focusChild();
+    ASSERT_NE(header, nullptr);
+    EXPECT_EQ(Name(header), QStringLiteral("Price"));
+    EXPECT_TRUE(header->state().focused && header->state().focusable);
+    Type(Qt::Key_Down);
+    EXPECT_FALSE(header->state().focused || header->state().focusable);
+}
+
 TEST_F(QtAccessibleTest, TellsWhereTheCurrentCellGoes)
 {
     Click(MiddleOf(3, 2));

@@ -115,8 +115,9 @@ void QtAccessibleCell::AddPlaceStates(QAccessible::State& state) const
         : place_.Row < 0           ? place_.Col >= 0 && Reader().SelectsCols()
                                    : Reader().SelectsRows();
     state.selected = Reader().IsSelected(place_);
-    state.focusable = IsOfTable();
+    // A header gets the keyboard by a press only.
     const bool isCurrent = Reader().Current() == place_;
+    state.focusable = IsOfTable() || isCurrent;
     state.active = isCurrent;
     state.focused = isCurrent && widget.hasFocus();
 }

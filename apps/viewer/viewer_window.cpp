@@ -40,7 +40,7 @@ void GiveToUser(Vornix& grid)
     grid.SetScrollVBar(vxScrollTrack);
     grid.SetCellSelection(true);
     grid.SetSelectMode(vxBoth);
-    grid.SetResizeMode(vxBoth);
+    grid.SetResizeMode(vxColumn); // half of a row's number would be for sizing the row
     grid.SetShowSplit(true);
     // The keyboard begins here.
     grid.CurrentPos(0, 0);

@@ -82,6 +82,8 @@ void Mouse::Down(i16 button, i16 shift, float x, float y)
     const bool isOnCell = !isOffCells_ && IsHovering();
     if (isOnCell && button == Buttons::Left)
         return PressOnCell(shift, at, x, y);
+    if (button != Buttons::Right) // whatever keys were about to select
+        context_.selection.PressKind = SelectionKind::None;
     context_.events.MouseDown(button, shift, x, y);
     if (isOnCell)
         context_.repainter.RepaintUnderGate();

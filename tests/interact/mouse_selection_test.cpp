@@ -315,6 +315,19 @@ TEST_F(MouseSelects, WithShiftSoThatKeysGoOnFromThePress)
     EXPECT_EQ(SelectedCells(), (Cells { { 1, 1 }, { 3, 3 } }));
 }
 
+TEST_F(MouseSelects, NothingByAClickBesideTheCellsAfterKeysHaveSelected)
+{
+    Grid().SetCellSelection(true);
+    ClickOn(-1, -1);
+    Grid().CurrentPos(1, 1);
+    host->KeyDown(40);
+    host->KeyDown(40, Held::Shift);
+    ASSERT_EQ(SelectedCells(), (Cells { { 2, 1 }, { 3, 1 } }));
+    host->MouseDown(635, 475);
+    host->MouseUp(635, 475);
+    EXPECT_EQ(Grid().SelectCountCell(), 0);
+}
+
 TEST_F(MouseSelects, WithShiftNothingOfAnAnchorThatIsGone)
 {
     ClickOn(15, -1);

@@ -48,10 +48,11 @@ public:
 
     // How hosts know a cell. It tells a cell that was chosen from one that stands at its indices later.
     CellIndex PublicPlaceOf(CellIndex cell) const;
+    // The cell is a real one still, and the one that was known by this place.
+    bool IsStill(CellIndex cell, CellIndex chosenAs) const;
     // Asks the host with CellChange whether a cell is to become the current one. Gone when there is no such cell any
-    // more, or another one in its place; without `chosenAs` only what changes while the host is asked counts.
+    // more, or another one in its place.
     enum class Answer { Take, Refused, MovedByHost, Gone };
-    Answer AskHost(CellIndex target) { return AskHost(target, PublicPlaceOf(target)); }
     Answer AskHost(CellIndex target, CellIndex chosenAs);
 
     // Paints the current cell without its mark. Nothing while the gate is closed.
@@ -68,7 +69,6 @@ private:
     bool IsInList(i32 Row) const;
     // False when no current cell came of it.
     bool GotoListPosition(i32 position);
-    bool IsStill(CellIndex cell, CellIndex chosenAs) const;
 
     MoverContext context_;
     CellStep step_;

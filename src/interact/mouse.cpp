@@ -117,15 +117,16 @@ void Mouse::PressOnCell(i16 shift, Point at, float x, float y)
     if (context_.editor.IsEditorOpenOn(Pressed())) // the press belongs to the editor
         return;
     const PressZone zone = ZoneOfPress();
+    const CellIndex chosenAs = context_.mover.PublicPlaceOf(Pressed());
     isArmed_ = true;
     {
         const CurrentCell::EventGuard guard(context_.current);
         context_.events.MouseDown(Buttons::Left, shift, x, y);
         if (IsHovering())
             ShowPress();
-        if (context_.mover.IsReal(Pressed())) {
+        if (context_.mover.IsStill(Pressed(), chosenAs)) {
             context_.selecting.Press(zone, Pressed(), shift);
-            if (!MoveCurrentToPress(shift))
+            if (!MoveCurrentToPress(shift, chosenAs))
                 context_.selection.EndDrag();
         }
     }
@@ -156,7 +157,7 @@ void Mouse::ShowPress()
 }
 
 // False when the host refused.
-bool Mouse::MoveCurrentToPress(i16 shift)
+bool Mouse::MoveCurrentToPress(i16 shift, CellIndex chosenAs)
 {
     CurrentCellMover& mover = context_.mover;
     const CellIndex target = Pressed();
@@ -167,7 +168,7 @@ bool Mouse::MoveCurrentToPress(i16 shift)
         context_.editor.CloseEditor();
     if (leavesRow)
         context_.events.ValidateRow();
-    const CurrentCellMover::Answer answer = mover.AskHost(target);
+    const CurrentCellMover::Answer answer = mover.AskHost(target, chosenAs);
     if (answer == CurrentCellMover::Answer::Take)
         mover.Take(target);
     return answer != CurrentCellMover::Answer::Refused;

@@ -76,7 +76,7 @@ private:
     void PressOnCell(i16 shift, Point at, float x, float y);
     void ShowPress();
     PressZone ZoneOfPress() const;
-    bool MoveCurrentToPress(i16 shift);
+    bool MoveCurrentToPress(i16 shift, CellIndex chosenAs);
     bool LeavesRow() const;
 
     // -- The move --

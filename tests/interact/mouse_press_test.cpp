@@ -213,6 +213,14 @@ TEST_F(MousePress, GoesOnWithoutACellThatTheHandlerTakesAway)
     EXPECT_EQ(host->Count("CellChange"), 0);
 }
 
+TEST_F(MousePress, GoesOnWithoutACellThatIsAnotherOneByNow)
+{
+    handlers.OnCellDown = [&](i16, i16) { Grid().SetFixedRows(4); };
+    Press(1, 2); // its row is a fixed one then
+    EXPECT_EQ(host->Count("CellChange"), 0);
+    EXPECT_EQ(Current(), NoCell);
+}
+
 TEST_F(MousePress, OnATableWithoutRowsOrColumnsFindsNoCell)
 {
     for (const auto& [rows, cols] : { std::pair<i16, i16> { 0, 5 }, { 5, 0 } }) {

@@ -74,7 +74,7 @@ public:
     // Range and page at once; the position stays as far as the range lets it.
     void SetInfo(i32 Min, i32 Max, i32 Page);
     // Has the bar answer to its user. An Orientation other than 0 and 1 has no messages: the bar then does not answer.
-    // UnSubclass ends what the user is doing: a drag, and the doubling of the step.
+    // UnSubclass ends what the user is doing: a drag, and the doubling of the step. So does Enabled False.
     void Subclass();
     void UnSubclass();
 

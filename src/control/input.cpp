@@ -116,7 +116,10 @@ void Vornix::SetEnabled(bool Value)
     const auto control = Enter();
     if (!control->SetSetting(control->settings.Enabled, Value, "Enabled") || Value || control->IsClosed())
         return;
+    // The releases will not be heard.
     control->split.Cancel();
+    control->scrolling.EndUserActions();
+    control->mouse.Abandon();
 }
 
 void Vornix::KeyDown(i16& KeyCode, i16& Shift)

@@ -118,7 +118,10 @@ bool Vornix::ScrollHEnabled() const
 
 void Vornix::SetScrollHEnabled(bool Value)
 {
-    Enter()->scrolling.HorizontalBar().SetEnabled(Value);
+    const auto control = Enter();
+    control->scrolling.HorizontalBar().SetEnabled(Value);
+    if (!Value)
+        control->scrolling.EndUserActions();
 }
 
 bool Vornix::ScrollVEnabled() const
@@ -128,7 +131,10 @@ bool Vornix::ScrollVEnabled() const
 
 void Vornix::SetScrollVEnabled(bool Value)
 {
-    Enter()->scrolling.VerticalBar().SetEnabled(Value);
+    const auto control = Enter();
+    control->scrolling.VerticalBar().SetEnabled(Value);
+    if (!Value)
+        control->scrolling.EndUserActions();
 }
 
 i32 Vornix::ScrollBarStyle() const

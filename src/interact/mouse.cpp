@@ -28,6 +28,17 @@ void Mouse::ForgetPressUnlessHeld()
         isArmed_ = false;
 }
 
+void Mouse::Abandon()
+{
+    context_.sizing.End();
+    context_.sizing.RestoreCursor();
+    isArmed_ = hasMoved_ = isClickArmed_ = inDblClick_ = false;
+    context_.pressed.isShown = false;
+    RepaintButton();
+    context_.selecting.GiveUp();
+    context_.selection.PressKind = SelectionKind::None;
+}
+
 void Mouse::Reset()
 {
     context_.sizing.End();

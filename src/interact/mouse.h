@@ -59,6 +59,8 @@ public:
     // A press that ended while nobody looked is over.
     void ForgetPressUnlessHeld();
 
+    // Press, drag and sizing end without events: no release will come.
+    void Abandon();
     // Nothing is remembered of a table that is no more.
     void Reset();
 

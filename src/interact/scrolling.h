@@ -66,6 +66,8 @@ public:
 
     // What the user does. Nothing arrives while the bars are not hooked.
     void SetHooked(bool hooked);
+    // What the user is doing with a bar is over, and the bars stand where the view does; nothing is raised.
+    void EndUserActions();
     void Notify(ChildName bar, i32 code);
     // 120 a notch, away from the user positive.
     void Wheel(i32 delta);

@@ -36,6 +36,16 @@ void Scrolling::FollowUnitOfHBar()
         UpdateHScrollRange();
 }
 
+void Scrolling::EndUserActions()
+{
+    if (!hooked_)
+        return;
+    SetHooked(false);
+    SetHooked(true);
+    hBar_.control.SetValue(HPosition());
+    vBar_.control.SetValue(context_.scroll.FirstRow());
+}
+
 void Scrolling::Notify(ChildName bar, i32 code)
 {
     FollowUnitOfHBar();

@@ -124,6 +124,8 @@ bool ScrollBar::Enabled() const
 void ScrollBar::SetEnabled(bool Value)
 {
     window_.SetEnabled(Value);
+    if (!Value)
+        logic_->EndAction();
 }
 
 i32 ScrollBar::Min() const

@@ -110,6 +110,22 @@ TEST_F(ScrollDrags, EndWithRedraw)
     EXPECT_THAT(Said(), IsEmpty());
 }
 
+TEST_F(ScrollDrags, EndWithABarOrAControlThatIsDisabled)
+{
+    for (const bool ofControl : { false, true }) {
+        const auto enable
+            = [&](bool enabled) { ofControl ? Grid().SetEnabled(enabled) : Grid().SetScrollVEnabled(enabled); };
+        Grid().SetFirstRow(0);
+        V().Notify(ThumbTrack, 80);
+        enable(false);
+        V().Notify(EndScroll);
+        enable(true);
+        V().Notify(LineDown);
+        V().Notify(EndScroll);
+        EXPECT_EQ(Grid().FirstRow(), 1) << "the end of a step is not that of the drag";
+    }
+}
+
 TEST_F(ScrollDrags, AnArrowHeldWhileRedrawWasOffBeginsAnew)
 {
     for (int i = 0; i < 4; ++i)

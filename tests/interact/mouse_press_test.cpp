@@ -263,6 +263,27 @@ TEST_F(MousePress, IsNotHeardByADisabledControl)
     EXPECT_EQ(Current(), (CellPlace { 1, 2 }));
 }
 
+TEST_F(MousePress, EndsWhenTheControlIsDisabled)
+{
+    Grid().SetCellSelection(true);
+    Press(1, 2);
+    DragTo(3, 3);
+    Grid().SetEnabled(false);
+    EXPECT_FALSE(LooksSelected(2, 2));
+    Release(3, 3);
+    Grid().SetEnabled(true);
+    host->ClearLog();
+    Hover(1, 2);
+    EXPECT_EQ(SaidNames(), (Lines { "MouseMove", "CellOut", "CellOver" })) << "nothing is held any more";
+
+    host->MouseMove(149, 10);
+    host->MouseDown(149, 10);
+    ASSERT_TRUE(Grid().IsSizingMode());
+    Grid().SetEnabled(false);
+    EXPECT_FALSE(Grid().IsSizingMode());
+    EXPECT_EQ(host->Pointer(), PointerShape::Default);
+}
+
 TEST_F(MousePress, IsForgottenWithItsTable)
 {
     Grid().SetColMode(2, vxPressButton);

@@ -59,8 +59,10 @@ void HeadlessScrollBar::MouseDown(i16 button, i16 /*shift*/, float x, float y)
         Notify(*code);
 }
 
-void HeadlessScrollBar::MouseMove(i16 /*button*/, i16 /*shift*/, float x, float y)
+void HeadlessScrollBar::MouseMove(i16 button, i16 /*shift*/, float x, float y)
 {
+    if ((button & LeftButton) == 0)
+        action_ = Action::None; // the release did not come here
     if (action_ == Action::Drag)
         Notify(ThumbTrack, GeometryOf(Place(), IsVertical(), info_).PositionAt(Along(x, y) - grip_));
 }

@@ -104,7 +104,8 @@ void QtAccessibleNews::TellOfCurrentCell(const Seen& before)
     QAccessibleInterface* const cell = seen_.current && seen_.hasFocus ? CurrentCell() : nullptr;
     if (!cell)
         return;
-    if (seen_.current != before.current || !before.hasFocus) {
+    // The reset of the table has dropped the cell that a tool knew.
+    if (seen_.current != before.current || seen_.counts != before.counts || !before.hasFocus) {
         QAccessibleEvent focus(cell, QAccessible::Focus);
         return Tell(focus);
     }

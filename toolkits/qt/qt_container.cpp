@@ -335,7 +335,7 @@ void QtContainer::SetClipboardText(std::u16string_view text)
 
 void QtContainer::ShowMessage(std::u16string_view title, std::u16string_view text, MessageIcon icon)
 {
-    // Not on the stack: the widget may be gone, and its children with it, when the box closes.
+    // Not on the stack: its parent may delete it.
     const QPointer<QMessageBox> box = new QMessageBox(&widget_);
     box->setWindowTitle(ToQString(title));
     box->setText(ToQString(text));

@@ -65,7 +65,22 @@ protected:
             owner_.LetGo();
     }
 
-    // A handler may have brought up a window that took the release.
+    // A handler may have brought up a window that took the release. What repeats is noticed by its timer, a drag by the
+    // pointer coming back.
+    void mouseMoveEvent(QMouseEvent* event) override
+    {
+        if (owner_.isHeld_ && event->buttons() == Qt::NoButton)
+            owner_.LetGo();
+        QScrollBar::mouseMoveEvent(event);
+    }
+
+    void enterEvent(QEnterEvent* event) override
+    {
+        if (owner_.isHeld_ && QGuiApplication::mouseButtons() == Qt::NoButton)
+            owner_.LetGo();
+        QScrollBar::enterEvent(event);
+    }
+
     void timerEvent(QTimerEvent* event) override
     {
         if (!owner_.isHeld_ || QGuiApplication::mouseButtons() != Qt::NoButton)

@@ -111,7 +111,7 @@ class _BarSession(Connection):
         self.require_open()
 
     def end(self) -> None:
-        """Ends the bar. Inside one of its own calls it is freed after that call."""
+        """Ends the bar. Inside one of its own calls it is freed with the last reference to it."""
         if self._ended:
             return
         self.require_open()

@@ -31,8 +31,9 @@ class QtWheel;
 // Assistive tools find a table: fixed rows and columns are its headers, the title is its name unless accessibleName is
 // set, and the current cell has the focus.
 //
-// Inside an event of the grid the widget is deleted by deleteLater() only; Grid().Terminate() closes the grid at once
-// and leaves a widget that shows its last picture.
+// Inside an event of the grid the widget is deleted by deleteLater() only, and not before the handler has returned: a
+// handler that runs an event loop of its own (QDialog::exec, QMenu::exec) must see to it that the widget outlives that
+// loop. Grid().Terminate() closes the grid at once and leaves a widget that shows its last picture.
 class QVornix : public QFrame {
     Q_OBJECT
 

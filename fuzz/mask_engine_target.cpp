@@ -30,7 +30,7 @@ public:
         case 3:
             return box_.Select(input_.Between(-1, 20), input_.Between(-1, 20));
         case 4:
-            box_.Press(TextKeys::Delete, Shift());
+            box_.Press(Keys::Delete, Shift());
             return;
         case 5:
             return box_.Backspace();
@@ -140,8 +140,8 @@ private:
 
     void Press()
     {
-        constexpr i16 Keys[] = { TextKeys::Left, TextKeys::Right, TextKeys::Up, TextKeys::Down, SimulatedBox::Home,
-            SimulatedBox::End, TextKeys::Escape };
+        constexpr i16 Keys[]
+            = { Keys::Left, Keys::Right, Keys::Up, Keys::Down, SimulatedBox::Home, SimulatedBox::End, Keys::Escape };
         const i16 key = Keys[input_.Byte() % std::size(Keys)];
         box_.Press(key, Shift());
     }
@@ -157,7 +157,7 @@ private:
         if (input_.Byte() > 250)
             KeyAscii = input_.AnyI16();
         // A line end goes into the box as it is, behind or inside the form.
-        if (KeyAscii == TextKeys::Enter && engine_.MultiLine())
+        if (KeyAscii == Keys::Enter && engine_.MultiLine())
             isFormComplete_ = false;
     }
     void KeyArrowMove(i16& KeyCode) override { KeyCode = 0; }

@@ -1,6 +1,6 @@
 #include "interact/cell_step.h"
 
-#include "interact/key_codes.h"
+#include "automation/key_codes.h"
 
 #include <algorithm>
 

@@ -13,11 +13,6 @@ bool Holds(const LineRange& range, int index)
     return range.first <= index && index <= range.last;
 }
 
-LineRange Ordered(int a, int b)
-{
-    return { std::min(a, b), std::max(a, b) };
-}
-
 } // namespace
 
 void GridSelection::Reset()
@@ -130,20 +125,20 @@ void GridSelection::SetDragRows(LineRange rows)
 
 void GridSelection::DragBetweenCorners()
 {
-    SetDragCols(Ordered(Anchor.col, End.col));
-    SetDragRows(Ordered(Anchor.row, End.row));
+    SetDragCols(LineRange::Between(Anchor.col, End.col));
+    SetDragRows(LineRange::Between(Anchor.row, End.row));
 }
 
 void GridSelection::DragColsToPaintedEnd(int col)
 {
     colOfFollowing_ = col;
-    dragCols_ = Ordered(col, dragCols_.last);
+    dragCols_ = LineRange::Between(col, dragCols_.last);
 }
 
 void GridSelection::DragRowsToPaintedEnd(int row)
 {
     rowOfFollowing_ = row;
-    dragRows_ = Ordered(row, dragRows_.last);
+    dragRows_ = LineRange::Between(row, dragRows_.last);
 }
 
 // A span over several columns is no cell of a column, and one over several rows none of a row. Rectangles are asked for
@@ -183,9 +178,9 @@ bool GridSelection::IsInDrag(const Cell& cell, int row, int col) const
 void GridSelection::PaintRangeChanged(int paintLastRow, int paintLastCol)
 {
     if (colOfFollowing_)
-        dragCols_ = Ordered(*colOfFollowing_, paintLastCol);
+        dragCols_ = LineRange::Between(*colOfFollowing_, paintLastCol);
     if (rowOfFollowing_)
-        dragRows_ = Ordered(*rowOfFollowing_, paintLastRow);
+        dragRows_ = LineRange::Between(*rowOfFollowing_, paintLastRow);
 }
 
 } // namespace vornix

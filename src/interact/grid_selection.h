@@ -5,6 +5,7 @@
 #include "model/select_collection.h"
 #include "model/spans.h"
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -22,6 +23,9 @@ struct SelectionSettings {
 struct LineRange {
     int first = 0;
     int last = 0;
+
+    // From the lower one to the higher one.
+    static LineRange Between(int a, int b) { return { std::min(a, b), std::max(a, b) }; }
 };
 
 class GridSelection {

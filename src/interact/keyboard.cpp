@@ -1,7 +1,7 @@
 #include "interact/keyboard.h"
 
 #include "automation/checked.h"
-#include "interact/key_codes.h"
+#include "automation/key_codes.h"
 
 #include <algorithm>
 

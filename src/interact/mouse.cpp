@@ -2,7 +2,7 @@
 #include "interact/mouse.h"
 
 #include "automation/checked.h"
-#include "interact/key_codes.h"
+#include "automation/key_codes.h"
 #include "interact/pixel_at.h"
 
 namespace vornix {

@@ -1,7 +1,7 @@
 // The release, and the click that comes of it.
 #include "interact/mouse.h"
 
-#include "interact/key_codes.h"
+#include "automation/key_codes.h"
 #include "interact/pixel_at.h"
 
 namespace vornix {

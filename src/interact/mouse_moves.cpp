@@ -1,7 +1,7 @@
 // The pointer on its way: what it hovers over, what it drags, and whether it has left.
 #include "interact/mouse.h"
 
-#include "interact/key_codes.h"
+#include "automation/key_codes.h"
 #include "interact/pixel_at.h"
 
 #include <cstdlib>

@@ -1,6 +1,6 @@
 #include "interact/mouse_selection.h"
 
-#include "interact/key_codes.h"
+#include "automation/key_codes.h"
 
 #include <algorithm>
 
@@ -10,11 +10,6 @@ namespace {
 
 // So many pixels outside give one row more at every move.
 constexpr int PixelsPerRow = 5;
-
-LineRange Ordered(int a, int b)
-{
-    return { std::min(a, b), std::max(a, b) };
-}
 
 LineRange UpTo(int last, LineRange range)
 {
@@ -212,7 +207,7 @@ int MouseSelection::DragAcross(int x)
     const int lastCol = context_.store.FixedCols() + context_.store.Cols() - 1;
     if (x < 0) {
         selection.End.col = selection.End.row < 0 ? context_.store.FixedCols() : firstCol - 1;
-        selection.SetDragCols(Ordered(selection.End.col, selection.Anchor.col));
+        selection.SetDragCols(LineRange::Between(selection.End.col, selection.Anchor.col));
         return selection.End.col;
     }
     if (x > context_.layout.ScaleSize().width) {
@@ -222,7 +217,7 @@ int MouseSelection::DragAcross(int x)
     selection.End.col = std::min(selection.End.col, lastCol);
     if (selection.End.col < context_.store.FixedCols())
         selection.End.col = firstCol;
-    selection.SetDragCols(Ordered(selection.Anchor.col, selection.End.col));
+    selection.SetDragCols(LineRange::Between(selection.Anchor.col, selection.End.col));
     return NoIndex;
 }
 
@@ -237,7 +232,7 @@ int MouseSelection::DragDown(int y)
         selection.End.row = firstRow - 1 + y / PixelsPerRow;
         if (selection.End.row < 0)
             selection.End.row = context_.store.FixedRows();
-        selection.SetDragRows(Ordered(selection.End.row, selection.Anchor.row));
+        selection.SetDragRows(LineRange::Between(selection.End.row, selection.Anchor.row));
         return selection.End.row;
     }
     if (y > height) {
@@ -248,7 +243,7 @@ int MouseSelection::DragDown(int y)
     selection.End.row = std::min(selection.End.row, lastRow);
     if (selection.End.row < context_.store.FixedRows())
         selection.End.row = firstRow;
-    selection.SetDragRows(Ordered(selection.Anchor.row, selection.End.row));
+    selection.SetDragRows(LineRange::Between(selection.Anchor.row, selection.End.row));
     return NoIndex;
 }
 

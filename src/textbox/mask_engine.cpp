@@ -1,7 +1,7 @@
 #include "textbox/mask_engine.h"
 
+#include "automation/key_codes.h"
 #include "automation/text_conversions.h"
-#include "textbox/text_keys.h"
 
 #include <algorithm>
 #include <utility>
@@ -14,18 +14,18 @@ constexpr std::u16string_view LineEnd = u"\r\n";
 
 bool HoldsCtrl(int shift)
 {
-    return (shift & TextKeys::Ctrl) != 0;
+    return (shift & Shifts::Ctrl) != 0;
 }
 
 // Ctrl and Alt together type the third character of a key. The codes below the blank are those of Ctrl with a letter,
 // those of Escape and Tab among them; 127 is that of Ctrl with Backspace.
 bool IsTypedCharacter(char16_t character, int shift)
 {
-    if (character == TextKeys::Backspace)
+    if (character == Keys::Backspace)
         return true;
     if (character < u' ' || character == 127)
         return false;
-    return !HoldsCtrl(shift) || (shift & TextKeys::Alt) != 0;
+    return !HoldsCtrl(shift) || (shift & Shifts::Alt) != 0;
 }
 
 } // namespace
@@ -189,9 +189,9 @@ void MaskEngine::TextChanged(bool isForeign)
 void MaskEngine::KeyDown(i16& KeyCode, i16 Shift)
 {
     owner_.KeyDown(KeyCode, Shift);
-    if (KeyCode == TextKeys::Delete && IsMaskInForce() && EraseForward())
+    if (KeyCode == Keys::Delete && IsMaskInForce() && EraseForward())
         KeyCode = 0;
-    if (Shift == TextKeys::NoShift && box_.SelLength() == 0)
+    if (Shift == Shifts::None && box_.SelLength() == 0)
         PlainKeyDown(KeyCode);
     // What Ctrl brings about, such as pasting, is for the mask to look at.
     keyHandled_ = !HoldsCtrl(Shift);
@@ -199,7 +199,7 @@ void MaskEngine::KeyDown(i16& KeyCode, i16 Shift)
 
 void MaskEngine::PlainKeyDown(i16& KeyCode)
 {
-    if (KeyCode == TextKeys::Escape) {
+    if (KeyCode == Keys::Escape) {
         RestoreCommitted();
         owner_.SizeToText();
     } else if (LeavesText(KeyCode)) {
@@ -212,13 +212,13 @@ bool MaskEngine::LeavesText(i16 KeyCode) const
     const std::u16string text = box_.Text();
     const auto caret = static_cast<std::size_t>(box_.SelStart());
     switch (KeyCode) {
-    case TextKeys::Right:
+    case Keys::Right:
         return caret >= text.size();
-    case TextKeys::Left:
+    case Keys::Left:
         return caret == 0;
-    case TextKeys::Down:
+    case Keys::Down:
         return text.find(LineEnd, caret) == std::u16string::npos;
-    case TextKeys::Up:
+    case Keys::Up:
         // One unit further than the caret, so that a caret inside a line end counts as behind it.
         return std::u16string_view(text).substr(0, caret + 1).find(LineEnd) == std::u16string_view::npos;
     default:
@@ -229,7 +229,7 @@ bool MaskEngine::LeavesText(i16 KeyCode) const
 void MaskEngine::KeyPress(i16& KeyAscii, i16 Shift)
 {
     owner_.KeyPress(KeyAscii);
-    if (KeyAscii == TextKeys::Enter) {
+    if (KeyAscii == Keys::Enter) {
         if (!multiLine_)
             KeyAscii = 0;
         return;
@@ -242,7 +242,7 @@ void MaskEngine::KeyPress(i16& KeyAscii, i16 Shift)
     if (numericOnly_) {
         if (!IsNumericWith(character))
             KeyAscii = 0;
-    } else if (IsMaskInForce() && character == TextKeys::Backspace) {
+    } else if (IsMaskInForce() && character == Keys::Backspace) {
         if (EraseBackward())
             KeyAscii = 0;
     } else if (IsMaskInForce()) {

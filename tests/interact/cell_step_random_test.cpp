@@ -1,7 +1,7 @@
 // The step beside a walk that looks at one line after the other and knows nothing of chains.
 #include "interact/cell_step.h"
 
-#include "interact/key_codes.h"
+#include "automation/key_codes.h"
 
 #include <gtest/gtest.h>
 

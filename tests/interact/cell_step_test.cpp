@@ -1,7 +1,7 @@
 #include "interact/cell_step.h"
 
+#include "automation/key_codes.h"
 #include "control/grid_fixture.h"
-#include "interact/key_codes.h"
 
 namespace vornix {
 

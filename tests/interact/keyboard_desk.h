@@ -2,9 +2,9 @@
 // of them.
 #pragma once
 
+#include "automation/key_codes.h"
 #include "control/control.h"
 #include "control/grid_fixture.h"
-#include "interact/key_codes.h"
 
 namespace vornix {
 

@@ -50,7 +50,7 @@ TEST_F(MaskEngineChangesTest, APasteIsForeignWhateverKeyCameBefore)
     Box.TypeAll(u"1");
     Box.Paste(u"xx");
     EXPECT_EQ(Box.Text(), u"1___");
-    Box.Press(TextKeys::Right);
+    Box.Press(Keys::Right);
     Box.Paste(u"y");
     EXPECT_EQ(Box.Text().size(), 4u);
 }
@@ -69,7 +69,7 @@ TEST_F(MaskEngineChangesTest, ABoxThatCannotTellAPasteByCtrlFromAKeyIsUnderstood
     Mask(u"00");
     Box.TypeAll(u"1");
     i16 key = 86;
-    Engine.KeyDown(key, TextKeys::Ctrl);
+    Engine.KeyDown(key, Shifts::Ctrl);
     Box.SetTellsWrites(false);
     Box.SetText(u"1xyz");
     Engine.BoxChanged(ChangeOrigin::Key);
@@ -85,7 +85,7 @@ TEST_F(MaskEngineChangesTest, AKeyAnswersForOneChange)
     Engine.BoxChanged(ChangeOrigin::Key);
     EXPECT_EQ(Box.Text(), u"__");
     i16 key = 65;
-    Engine.KeyDown(key, TextKeys::Shift);
+    Engine.KeyDown(key, Shifts::Shift);
     Box.SetText(u"xyz");
     Engine.BoxChanged(ChangeOrigin::Key);
     EXPECT_EQ(Box.Text(), u"xyz");
@@ -176,7 +176,7 @@ TEST_F(MaskEngineChangesTest, ABoxMayTellOfTheEnginesWritesOrNot)
         Box.SetSelStart(2);
         Box.TypeAll(u"2");
         Box.Backspace();
-        Box.Press(TextKeys::Delete);
+        Box.Press(Keys::Delete);
         // The texts "(12)" and "(1_)"; the first Change of the second round finds the text of the last one.
         EXPECT_EQ(Count("Change"), 2) << tells;
     }

@@ -19,7 +19,7 @@ TEST_F(MaskEngineEraseTest, DeleteBlanksThePlaceAtTheCaretAndStepsOn)
 {
     Form(u"000", u"123");
     Box.SetSelStart(1);
-    EXPECT_EQ(Box.Press(TextKeys::Delete), 0);
+    EXPECT_EQ(Box.Press(Keys::Delete), 0);
     EXPECT_EQ(Box.Text(), u"1_3");
     EXPECT_EQ(Engine.Text(), u"1\0"s + u"3");
     EXPECT_EQ(Engine.TextInput(), u"13");
@@ -41,7 +41,7 @@ TEST_F(MaskEngineEraseTest, TheCaretWalksOverLiteralsInBothDirections)
     Form(u"0-(0)", u"12");
     for (int step = 0; step < 5; ++step) {
         EXPECT_EQ(Box.SelStart(), step);
-        Box.Press(TextKeys::Delete);
+        Box.Press(Keys::Delete);
     }
     EXPECT_EQ(Box.Text(), u"_-(_)");
     EXPECT_EQ(Box.SelStart(), 5);
@@ -60,7 +60,7 @@ TEST_F(MaskEngineEraseTest, AtTheEdgesNothingHappens)
 {
     Form(u"00", u"12");
     Box.SetSelStart(2);
-    EXPECT_EQ(Box.Press(TextKeys::Delete), TextKeys::Delete);
+    EXPECT_EQ(Box.Press(Keys::Delete), Keys::Delete);
     EXPECT_EQ(Box.Text(), u"12");
     EXPECT_EQ(Box.SelStart(), 2);
     Box.SetSelStart(0);
@@ -78,7 +78,7 @@ TEST_F(MaskEngineEraseTest, BothKeysBlankASelectionAndGoToItsStart)
         Form(u"00-00", u"1234");
         Box.Select(1, 3);
         if (forward)
-            EXPECT_EQ(Box.Press(TextKeys::Delete), 0);
+            EXPECT_EQ(Box.Press(Keys::Delete), 0);
         else
             EXPECT_EQ(Box.Type(8), 0);
         EXPECT_EQ(Box.Text(), u"1_-_4");
@@ -94,7 +94,7 @@ TEST_F(MaskEngineEraseTest, DeleteAsTheFirstKeyIsNoForeignChange)
     // With its literals put in once more the form would read "(_2)".
     Form(u"(00)", u"12");
     Box.SetSelStart(1);
-    Box.Press(TextKeys::Delete);
+    Box.Press(Keys::Delete);
     EXPECT_EQ(Box.Text(), u"(_2)");
     EXPECT_EQ(Engine.Text(), u"\0"s + u"2");
     EXPECT_THAT(Owner.log, testing::ElementsAre("KeyDown 46", "Change", "SizeToText"));
@@ -104,7 +104,7 @@ TEST_F(MaskEngineEraseTest, ASelectionErasedAsTheFirstKeyIsNoForeignChange)
 {
     Form(u"(00)", u"12");
     Box.Select(1, 1);
-    Box.Press(TextKeys::Delete);
+    Box.Press(Keys::Delete);
     EXPECT_EQ(Box.Text(), u"(_2)");
     EXPECT_EQ(Engine.Text(), u"\0"s + u"2");
 }
@@ -127,7 +127,7 @@ TEST_F(MaskEngineEraseTest, ErasingTakesARefusedCharacterThatWasKept)
 {
     Form(u"00", u"x1");
     ASSERT_EQ(Engine.Text(), u"x1");
-    Box.Press(TextKeys::Delete);
+    Box.Press(Keys::Delete);
     EXPECT_EQ(Box.Text(), u"_1");
     EXPECT_EQ(Engine.Text(), u"\0"s + u"1");
     EXPECT_EQ(Count("Change"), 1);
@@ -135,10 +135,10 @@ TEST_F(MaskEngineEraseTest, ErasingTakesARefusedCharacterThatWasKept)
 
 TEST_F(MaskEngineEraseTest, DeleteErasesWhateverIsHeldWithIt)
 {
-    for (const int shift : { TextKeys::Shift, TextKeys::Ctrl, TextKeys::Alt }) {
+    for (const int shift : { Shifts::Shift, Shifts::Ctrl, Shifts::Alt }) {
         Form(u"00", u"12");
         Box.SetSelStart(0);
-        EXPECT_EQ(Box.Press(TextKeys::Delete, static_cast<i16>(shift)), 0);
+        EXPECT_EQ(Box.Press(Keys::Delete, static_cast<i16>(shift)), 0);
         EXPECT_EQ(Box.Text(), u"_2");
     }
 }
@@ -147,12 +147,12 @@ TEST_F(MaskEngineEraseTest, WithoutAMaskTheKeysAreTheBoxs)
 {
     Engine.SetText(u"abc");
     Box.SetSelStart(1);
-    EXPECT_EQ(Box.Press(TextKeys::Delete), TextKeys::Delete);
+    EXPECT_EQ(Box.Press(Keys::Delete), Keys::Delete);
     EXPECT_EQ(Box.Text(), u"ac");
     Box.Backspace();
     EXPECT_EQ(Box.Text(), u"c");
     Box.Select(0, 1);
-    Box.Press(TextKeys::Delete);
+    Box.Press(Keys::Delete);
     EXPECT_EQ(Box.Text(), u"");
     EXPECT_EQ(Count("Change"), 3);
 }
@@ -161,7 +161,7 @@ TEST_F(MaskEngineEraseTest, AHostThatTakesTheKeyKeepsTheText)
 {
     Form(u"00", u"12");
     Owner.onKeyDown = [](i16& KeyCode, i16&) { KeyCode = 0; };
-    EXPECT_EQ(Box.Press(TextKeys::Delete), 0);
+    EXPECT_EQ(Box.Press(Keys::Delete), 0);
     EXPECT_EQ(Box.Text(), u"12");
     EXPECT_EQ(Box.SelStart(), 0);
 }
@@ -171,10 +171,10 @@ TEST_F(MaskEngineEraseTest, WhatWasSelectedBehindTheFormGoes)
     Engine.SetMultiLine(true);
     Form(u"00", u"12");
     Box.SetSelStart(2);
-    Box.Type(TextKeys::Enter);
+    Box.Type(Keys::Enter);
     ASSERT_EQ(Box.Text(), u"12\r\n");
     Box.Select(1, 3);
-    Box.Press(TextKeys::Delete);
+    Box.Press(Keys::Delete);
     EXPECT_EQ(Box.Text(), u"1_");
     EXPECT_EQ(Box.SelStart(), 1);
 }
@@ -184,7 +184,7 @@ TEST_F(MaskEngineEraseTest, ABoxThatLostItsFormGetsItBack)
     Form(u"00-00", u"1234");
     Engine.SetNumericOnly(false);
     ASSERT_EQ(Box.Text(), u"");
-    Box.Press(TextKeys::Delete);
+    Box.Press(Keys::Delete);
     EXPECT_EQ(Box.Text(), u"__-__");
     Engine.SetNumericOnly(false);
     Box.TypeAll(u"9");

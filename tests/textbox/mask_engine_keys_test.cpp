@@ -7,11 +7,11 @@ namespace {
 
 class MaskEngineKeysTest : public MaskEngineTest {
 protected:
-    bool Leaves(i16 key, int caret, i16 shift = 0)
+    bool Leaves(int key, int caret, i16 shift = 0)
     {
         Box.SetSelStart(caret);
         Forget();
-        Box.Press(key, shift);
+        Box.Press(static_cast<i16>(key), shift);
         return Count("KeyArrowMove " + std::to_string(key)) == 1;
     }
 };
@@ -19,17 +19,17 @@ protected:
 TEST_F(MaskEngineKeysTest, RightAndLeftLeaveAtTheEnds)
 {
     Engine.SetText(u"abc");
-    EXPECT_TRUE(Leaves(TextKeys::Right, 3));
-    EXPECT_FALSE(Leaves(TextKeys::Right, 2));
-    EXPECT_FALSE(Leaves(TextKeys::Right, 0));
-    EXPECT_TRUE(Leaves(TextKeys::Left, 0));
-    EXPECT_FALSE(Leaves(TextKeys::Left, 1));
-    EXPECT_FALSE(Leaves(TextKeys::Left, 3));
+    EXPECT_TRUE(Leaves(Keys::Right, 3));
+    EXPECT_FALSE(Leaves(Keys::Right, 2));
+    EXPECT_FALSE(Leaves(Keys::Right, 0));
+    EXPECT_TRUE(Leaves(Keys::Left, 0));
+    EXPECT_FALSE(Leaves(Keys::Left, 1));
+    EXPECT_FALSE(Leaves(Keys::Left, 3));
 }
 
 TEST_F(MaskEngineKeysTest, InAnEmptyBoxEveryArrowLeaves)
 {
-    for (const i16 key : { TextKeys::Left, TextKeys::Up, TextKeys::Right, TextKeys::Down })
+    for (const int key : { Keys::Left, Keys::Up, Keys::Right, Keys::Down })
         EXPECT_TRUE(Leaves(key, 0)) << key;
 }
 
@@ -37,8 +37,8 @@ TEST_F(MaskEngineKeysTest, InOneLineUpAndDownLeaveFromEverywhere)
 {
     Engine.SetText(u"abc");
     for (int caret = 0; caret <= 3; ++caret) {
-        EXPECT_TRUE(Leaves(TextKeys::Up, caret)) << caret;
-        EXPECT_TRUE(Leaves(TextKeys::Down, caret)) << caret;
+        EXPECT_TRUE(Leaves(Keys::Up, caret)) << caret;
+        EXPECT_TRUE(Leaves(Keys::Down, caret)) << caret;
     }
 }
 
@@ -48,59 +48,59 @@ TEST_F(MaskEngineKeysTest, InSeveralLinesUpLeavesFromTheFirstAndDownFromTheLast)
     // Lines at 0 .. 2, 4 .. 6 and 8 .. 10.
     Engine.SetText(u"ab\r\ncd\r\nef");
     for (const int caret : { 0, 1, 2 }) {
-        EXPECT_TRUE(Leaves(TextKeys::Up, caret)) << caret;
-        EXPECT_FALSE(Leaves(TextKeys::Down, caret)) << caret;
+        EXPECT_TRUE(Leaves(Keys::Up, caret)) << caret;
+        EXPECT_FALSE(Leaves(Keys::Down, caret)) << caret;
     }
     for (const int caret : { 4, 5, 6 }) {
-        EXPECT_FALSE(Leaves(TextKeys::Up, caret)) << caret;
-        EXPECT_FALSE(Leaves(TextKeys::Down, caret)) << caret;
+        EXPECT_FALSE(Leaves(Keys::Up, caret)) << caret;
+        EXPECT_FALSE(Leaves(Keys::Down, caret)) << caret;
     }
     for (const int caret : { 8, 9, 10 }) {
-        EXPECT_FALSE(Leaves(TextKeys::Up, caret)) << caret;
-        EXPECT_TRUE(Leaves(TextKeys::Down, caret)) << caret;
+        EXPECT_FALSE(Leaves(Keys::Up, caret)) << caret;
+        EXPECT_TRUE(Leaves(Keys::Down, caret)) << caret;
     }
 }
 
 TEST_F(MaskEngineKeysTest, ALoneFeedOrReturnEndsNoLine)
 {
     Engine.SetText(u"a\nb\rc");
-    EXPECT_TRUE(Leaves(TextKeys::Up, 5));
-    EXPECT_TRUE(Leaves(TextKeys::Down, 0));
+    EXPECT_TRUE(Leaves(Keys::Up, 5));
+    EXPECT_TRUE(Leaves(Keys::Down, 0));
 }
 
 TEST_F(MaskEngineKeysTest, AnEmptyLastLineIsALine)
 {
     Engine.SetText(u"a\r\n");
-    EXPECT_FALSE(Leaves(TextKeys::Down, 1));
-    EXPECT_TRUE(Leaves(TextKeys::Down, 3));
-    EXPECT_FALSE(Leaves(TextKeys::Up, 3));
+    EXPECT_FALSE(Leaves(Keys::Down, 1));
+    EXPECT_TRUE(Leaves(Keys::Down, 3));
+    EXPECT_FALSE(Leaves(Keys::Up, 3));
 }
 
 TEST_F(MaskEngineKeysTest, ArrowsLeaveAFormToo)
 {
     Mask(u"(00)");
-    EXPECT_TRUE(Leaves(TextKeys::Left, 0));
-    EXPECT_FALSE(Leaves(TextKeys::Left, 1));
-    EXPECT_TRUE(Leaves(TextKeys::Right, 4));
-    EXPECT_FALSE(Leaves(TextKeys::Right, 3));
-    EXPECT_TRUE(Leaves(TextKeys::Up, 2));
-    EXPECT_TRUE(Leaves(TextKeys::Down, 2));
+    EXPECT_TRUE(Leaves(Keys::Left, 0));
+    EXPECT_FALSE(Leaves(Keys::Left, 1));
+    EXPECT_TRUE(Leaves(Keys::Right, 4));
+    EXPECT_FALSE(Leaves(Keys::Right, 3));
+    EXPECT_TRUE(Leaves(Keys::Up, 2));
+    EXPECT_TRUE(Leaves(Keys::Down, 2));
     Engine.SetNumericOnly(true);
-    EXPECT_TRUE(Leaves(TextKeys::Left, 0));
+    EXPECT_TRUE(Leaves(Keys::Left, 0));
 }
 
 TEST_F(MaskEngineKeysTest, WithAShiftKeyOrASelectionNoArrowLeaves)
 {
     Engine.SetText(u"abc");
     for (const i16 shift : std::initializer_list<i16> { 1, 2, 4, 3 }) {
-        EXPECT_FALSE(Leaves(TextKeys::Left, 0, shift)) << shift;
-        EXPECT_FALSE(Leaves(TextKeys::Up, 0, shift)) << shift;
+        EXPECT_FALSE(Leaves(Keys::Left, 0, shift)) << shift;
+        EXPECT_FALSE(Leaves(Keys::Up, 0, shift)) << shift;
     }
     Box.Select(0, 3);
     Forget();
-    Box.Press(TextKeys::Up);
+    Box.Press(Keys::Up);
     Box.Select(0, 3);
-    Box.Press(TextKeys::Left);
+    Box.Press(Keys::Left);
     EXPECT_THAT(Owner.log, testing::ElementsAre("KeyDown 38", "KeyDown 37"));
 }
 
@@ -119,24 +119,24 @@ TEST_F(MaskEngineKeysTest, TheHostMayTakeTheArrowThatLeaves)
     Engine.SetText(u"abc");
     Owner.onKeyArrowMove = [](i16& KeyCode) { KeyCode = 0; };
     Box.SetSelStart(3);
-    EXPECT_EQ(Box.Press(TextKeys::Right), 0);
+    EXPECT_EQ(Box.Press(Keys::Right), 0);
     Owner.onKeyArrowMove = nullptr;
-    EXPECT_EQ(Box.Press(TextKeys::Right), TextKeys::Right);
+    EXPECT_EQ(Box.Press(Keys::Right), Keys::Right);
 }
 
 TEST_F(MaskEngineKeysTest, TheHostHasTheFirstWordOnKeyAndShift)
 {
     Engine.SetText(u"abc");
     Owner.onKeyDown = [](i16& KeyCode, i16& Shift) {
-        KeyCode = TextKeys::Left;
+        KeyCode = Keys::Left;
         Shift = 0;
     };
     Box.SetSelStart(0);
     Forget();
-    Box.Press(TextKeys::Right, TextKeys::Shift);
+    Box.Press(Keys::Right, Shifts::Shift);
     EXPECT_THAT(Owner.log, testing::ElementsAre("KeyDown 39", "KeyArrowMove 37"));
-    Owner.onKeyDown = [](i16&, i16& Shift) { Shift = TextKeys::Ctrl; };
-    EXPECT_FALSE(Leaves(TextKeys::Left, 0));
+    Owner.onKeyDown = [](i16&, i16& Shift) { Shift = Shifts::Ctrl; };
+    EXPECT_FALSE(Leaves(Keys::Left, 0));
 }
 
 TEST_F(MaskEngineKeysTest, EscapeGoesBackToTheAssignedText)
@@ -145,7 +145,7 @@ TEST_F(MaskEngineKeysTest, EscapeGoesBackToTheAssignedText)
     Box.SetSelStart(3);
     Box.TypeAll(u"de");
     Forget();
-    EXPECT_EQ(Box.Press(TextKeys::Escape), TextKeys::Escape);
+    EXPECT_EQ(Box.Press(Keys::Escape), Keys::Escape);
     EXPECT_EQ(Box.Text(), u"abc");
     EXPECT_EQ(Box.SelStart(), 3);
     EXPECT_THAT(Owner.log, testing::ElementsAre("KeyDown 27", "FlattenBorder", "SizeToText"));
@@ -161,7 +161,7 @@ TEST_F(MaskEngineKeysTest, EscapeRestoresFormAndValuesWithLiteralsOnOrOff)
         ASSERT_EQ(Box.Text(), u"(12)-__");
         Box.SetSelStart(1);
         Box.TypeAll(u"9876");
-        Box.Press(TextKeys::Escape);
+        Box.Press(Keys::Escape);
         EXPECT_EQ(Box.Text(), u"(12)-__");
         EXPECT_EQ(Engine.Text(), value);
         EXPECT_EQ(Engine.TextInput(), u"12");
@@ -175,7 +175,7 @@ TEST_F(MaskEngineKeysTest, EscapeRestoresTheValuesBehindAnEmptyAssignment)
     Engine.SetText(u"12");
     Engine.SetText(u"");
     Box.TypeAll(u"98");
-    Box.Press(TextKeys::Escape);
+    Box.Press(Keys::Escape);
     EXPECT_EQ(Box.Text(), u"__");
     EXPECT_EQ(Engine.Text(), u"12");
 }
@@ -184,7 +184,7 @@ TEST_F(MaskEngineKeysTest, EscapeWithoutAnAssignmentEmptiesTheForm)
 {
     Mask(u"0-0");
     Box.TypeAll(u"12");
-    Box.Press(TextKeys::Escape);
+    Box.Press(Keys::Escape);
     EXPECT_EQ(Box.Text(), u"_-_");
     EXPECT_EQ(Engine.TextInput(), u"");
     EXPECT_EQ(Engine.Text(), u"\0\0"s);
@@ -194,7 +194,7 @@ TEST_F(MaskEngineKeysTest, EscapeShapesATextThatIsOlderThanTheMask)
 {
     Engine.SetText(u"12");
     Mask(u"0-00");
-    Box.Press(TextKeys::Escape);
+    Box.Press(Keys::Escape);
     EXPECT_EQ(Box.Text(), u"1-2_");
     EXPECT_EQ(Engine.TextInput(), u"12");
 }
@@ -206,7 +206,7 @@ TEST_F(MaskEngineKeysTest, EscapeBringsTheFormBackAsTextOnceTheMaskIsOff)
     Engine.SetMask(u"");
     Engine.SetSelStart(0);
     Box.TypeAll(u"xyz");
-    Box.Press(TextKeys::Escape);
+    Box.Press(Keys::Escape);
     EXPECT_EQ(Box.Text(), u"1-2");
 }
 
@@ -216,10 +216,10 @@ TEST_F(MaskEngineKeysTest, EscapeDoesNothingWithAShiftKeyOrASelection)
     Engine.SetText(u"12");
     Box.SetSelStart(0);
     Box.TypeAll(u"9");
-    Box.Press(TextKeys::Escape, TextKeys::Shift);
+    Box.Press(Keys::Escape, Shifts::Shift);
     EXPECT_EQ(Box.Text(), u"92");
     Box.Select(0, 1);
-    Box.Press(TextKeys::Escape);
+    Box.Press(Keys::Escape);
     EXPECT_EQ(Box.Text(), u"92");
     EXPECT_EQ(Box.SelLength(), 1);
 }
@@ -229,7 +229,7 @@ TEST_F(MaskEngineKeysTest, EscapeIsNotTypedIntoAPlaceForAnything)
     Mask(u"&&");
     Engine.SetText(u"ab");
     Box.SetSelStart(0);
-    Box.Type(TextKeys::Escape);
+    Box.Type(Keys::Escape);
     EXPECT_EQ(Box.Text(), u"ab");
     EXPECT_EQ(Engine.Text(), u"ab");
 }
@@ -241,7 +241,7 @@ TEST_F(MaskEngineKeysTest, EscapeRaisesNoChangeAndTheNextTypedTextIsTold)
     Box.SetSelStart(0);
     Box.TypeAll(u"9");
     Forget();
-    Box.Press(TextKeys::Escape);
+    Box.Press(Keys::Escape);
     EXPECT_EQ(Count("Change"), 0);
     Box.SetSelStart(0);
     Box.TypeAll(u"8");

@@ -1,3 +1,4 @@
+#include "automation/comma_locale.h"
 #include "textbox/mask_engine_fixture.h"
 
 using namespace vornix;
@@ -44,7 +45,7 @@ TEST_F(MaskEngineNumbersTest, RefusesBackspaceAndLeavesDeleteToTheBox)
     Box.Select(0, 2);
     EXPECT_EQ(Box.Type(8), 0);
     Box.Select(0, 2);
-    EXPECT_EQ(Box.Press(TextKeys::Delete), TextKeys::Delete);
+    EXPECT_EQ(Box.Press(Keys::Delete), Keys::Delete);
     EXPECT_EQ(Box.Text(), u"3");
 }
 
@@ -60,27 +61,6 @@ TEST_F(MaskEngineNumbersTest, DoesNotLookAtTheSelection)
     EXPECT_EQ(Box.Type(u'-'), u'-');
     EXPECT_EQ(Box.Text(), u"-");
 }
-
-class CommaLocale : public Locale {
-public:
-    CommaLocale()
-    {
-        numbers_.decimalSeparator = u",";
-        numbers_.groupSeparator = u".";
-    }
-    const NumberSymbols& Numbers() const override { return numbers_; }
-    const DateSymbols& Dates() const override { return BuiltinLocale().Dates(); }
-    const LocaleWords& Words() const override { return BuiltinLocale().Words(); }
-    char16_t ToLower(char16_t unit) const override { return BuiltinLocale().ToLower(unit); }
-    char16_t ToUpper(char16_t unit) const override { return BuiltinLocale().ToUpper(unit); }
-    int CompareNoCase(std::u16string_view a, std::u16string_view b) const override
-    {
-        return BuiltinLocale().CompareNoCase(a, b);
-    }
-
-private:
-    NumberSymbols numbers_;
-};
 
 TEST_F(MaskEngineNumbersTest, GoesByTheNumbersOfTheLocale)
 {
@@ -165,10 +145,10 @@ TEST_F(MaskEngineNumbersTest, DoesNotLookAtTextsThatComeOtherwise)
 
 TEST_F(MaskEngineNumbersTest, LetsEnterAndCtrlThrough)
 {
-    EXPECT_EQ(Box.Type(TextKeys::Enter), 0);
+    EXPECT_EQ(Box.Type(Keys::Enter), 0);
     Engine.SetMultiLine(true);
-    EXPECT_EQ(Box.Type(TextKeys::Enter), TextKeys::Enter);
-    EXPECT_EQ(Box.Type(3, TextKeys::Ctrl), 3);
+    EXPECT_EQ(Box.Type(Keys::Enter), Keys::Enter);
+    EXPECT_EQ(Box.Type(3, Shifts::Ctrl), 3);
 }
 
 } // namespace

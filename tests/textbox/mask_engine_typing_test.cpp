@@ -235,7 +235,7 @@ TEST_F(MaskEngineTypingTest, EnterIsSwallowedInABoxOfOneLine)
     for (const std::u16string mask : { u"", u"&&" }) {
         Engine.SetMask(mask);
         Engine.SetText(u"ab");
-        EXPECT_EQ(Box.Type(TextKeys::Enter), 0);
+        EXPECT_EQ(Box.Type(Keys::Enter), 0);
         EXPECT_EQ(Box.Text(), u"ab");
     }
 }
@@ -245,7 +245,7 @@ TEST_F(MaskEngineTypingTest, EnterReachesABoxOfSeveralLines)
     Engine.SetMultiLine(true);
     Engine.SetText(u"ab");
     Box.SetSelStart(1);
-    EXPECT_EQ(Box.Type(TextKeys::Enter), TextKeys::Enter);
+    EXPECT_EQ(Box.Type(Keys::Enter), Keys::Enter);
     EXPECT_EQ(Box.Text(), u"a\r\nb");
     EXPECT_EQ(Count("Change"), 1);
 }
@@ -256,7 +256,7 @@ TEST_F(MaskEngineTypingTest, ALineEndGoesIntoAFormAsItIs)
     Mask(u"00");
     Engine.SetText(u"12");
     Box.SetSelStart(2);
-    Box.Type(TextKeys::Enter);
+    Box.Type(Keys::Enter);
     EXPECT_EQ(Box.Text(), u"12\r\n");
     EXPECT_EQ(Engine.Text(), u"12");
     EXPECT_EQ(Box.Type(u'3'), 0);
@@ -278,18 +278,18 @@ TEST_F(MaskEngineTypingTest, WhatCtrlTypesIsNoCharacter)
 {
     Mask(u"&&");
     for (const char16_t code : std::initializer_list<char16_t> { 1, 3, 9, 10, 22, 24, 26, 27, 127 }) {
-        EXPECT_EQ(Box.Type(code, TextKeys::Ctrl), code);
+        EXPECT_EQ(Box.Type(code, Shifts::Ctrl), code);
         EXPECT_EQ(Box.Text(), u"__");
         EXPECT_EQ(Engine.Text(), u"\0\0"s);
     }
     i16 blank = u' ';
-    Engine.KeyPress(blank, TextKeys::Ctrl);
+    Engine.KeyPress(blank, Shifts::Ctrl);
     EXPECT_EQ(blank, u' ');
     EXPECT_EQ(Box.Text(), u"__");
     // The third character of a key is one.
-    EXPECT_EQ(Box.Type(u'@', TextKeys::Ctrl | TextKeys::Alt), 0);
+    EXPECT_EQ(Box.Type(u'@', Shifts::Ctrl | Shifts::Alt), 0);
     EXPECT_EQ(Box.Text(), u"@_");
-    EXPECT_EQ(Box.Type(u'A', TextKeys::Shift), 0);
+    EXPECT_EQ(Box.Type(u'A', Shifts::Shift), 0);
     EXPECT_EQ(Box.Text(), u"@A");
 }
 

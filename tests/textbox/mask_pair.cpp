@@ -158,7 +158,7 @@ void MaskPair::MoveOrSelect()
     if (pick_(3) == 0)
         return Place(start, pick_(end - start + 1));
     Place(start, 0);
-    const int key = TextKeys::Left + pick_(4);
+    const int key = Keys::Left + pick_(4);
     Tell("arrow " + std::to_string(key));
     plainArrows_ += plain_.Leaves(key);
     // An arrow that stays in the text moves the caret: it is put back.
@@ -179,7 +179,7 @@ void MaskPair::TypeOrErase()
     switch (pick_(8)) {
     case 0:
         Tell("delete");
-        box_.Press(TextKeys::Delete);
+        box_.Press(Keys::Delete);
         return plain_.Delete();
     case 1:
         Tell("backspace");
@@ -187,13 +187,13 @@ void MaskPair::TypeOrErase()
         return plain_.Backspace();
     case 2:
         Tell("escape");
-        box_.Type(TextKeys::Escape);
+        box_.Type(Keys::Escape);
         return plain_.Escape();
     case 3:
         if (pick_(4) != 0)
             break;
         Tell("enter");
-        box_.Type(TextKeys::Enter);
+        box_.Type(Keys::Enter);
         return plain_.Enter();
     default:
         break;

@@ -87,9 +87,9 @@ void SimulatedBox::Paste(std::u16string_view text)
 void SimulatedBox::PasteByKey(std::u16string_view text)
 {
     i16 key = KeyV;
-    engine_->KeyDown(key, TextKeys::Ctrl);
+    engine_->KeyDown(key, Shifts::Ctrl);
     auto code = static_cast<i16>(CtrlV);
-    engine_->KeyPress(code, TextKeys::Ctrl);
+    engine_->KeyPress(code, Shifts::Ctrl);
     if (key != 0 && code != 0)
         Paste(text);
 }
@@ -103,9 +103,9 @@ void SimulatedBox::Drop(std::u16string_view text, int place)
 void SimulatedBox::CutByKey()
 {
     i16 key = KeyX;
-    engine_->KeyDown(key, TextKeys::Ctrl);
+    engine_->KeyDown(key, Shifts::Ctrl);
     auto code = static_cast<i16>(CtrlX);
-    engine_->KeyPress(code, TextKeys::Ctrl);
+    engine_->KeyPress(code, Shifts::Ctrl);
     if (key != 0 && code != 0 && length_ > 0)
         Paste({});
 }
@@ -124,20 +124,20 @@ void SimulatedBox::Replace(int start, int length, std::u16string_view text, Chan
 
 void SimulatedBox::DoNatively(i16 key, i16 shift)
 {
-    const bool extends = (shift & TextKeys::Shift) != 0;
+    const bool extends = (shift & Shifts::Shift) != 0;
     const int end = static_cast<int>(text_.size());
     // The end of the selection that moves.
     const int caret = anchor_ == start_ ? start_ + length_ : start_;
     switch (key) {
-    case TextKeys::Delete:
+    case Keys::Delete:
         if (length_ > 0)
             Replace(start_, length_, {}, ChangeOrigin::Key);
         else if (start_ < end)
             Replace(start_, IsLineEndAt(start_) ? 2 : 1, {}, ChangeOrigin::Key);
         return;
-    case TextKeys::Left:
+    case Keys::Left:
         return MoveTo(caret - (IsLineEndAt(caret - 2) ? 2 : 1), extends);
-    case TextKeys::Right:
+    case Keys::Right:
         return MoveTo(caret + (IsLineEndAt(caret) ? 2 : 1), extends);
     case Home:
         return MoveTo(0, extends);
@@ -150,9 +150,9 @@ void SimulatedBox::DoNatively(i16 key, i16 shift)
 
 void SimulatedBox::InsertNatively(char16_t character)
 {
-    if (character == TextKeys::Enter)
+    if (character == Keys::Enter)
         return Replace(start_, length_, u"\r\n", ChangeOrigin::Key);
-    if (character != TextKeys::Backspace) {
+    if (character != Keys::Backspace) {
         if (character >= u' ' && character != 127)
             Replace(start_, length_, std::u16string(1, character), ChangeOrigin::Key);
         return;

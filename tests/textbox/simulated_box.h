@@ -2,8 +2,8 @@
 // done as the platform's box does it.
 #pragma once
 
+#include "automation/key_codes.h"
 #include "textbox/mask_engine.h"
-#include "textbox/text_keys.h"
 
 namespace vornix {
 

@@ -4,6 +4,9 @@
 namespace vornix {
 
 namespace Keys {
+constexpr int Backspace = 8;
+constexpr int Enter = 13;
+constexpr int Escape = 27;
 constexpr int Space = 32;
 constexpr int PageUp = 33;
 constexpr int PageDown = 34;
@@ -13,6 +16,7 @@ constexpr int Left = 37;
 constexpr int Up = 38;
 constexpr int Right = 39;
 constexpr int Down = 40;
+constexpr int Delete = 46;
 constexpr int F2 = 113;
 } // namespace Keys
 
@@ -21,6 +25,7 @@ namespace Shifts {
 constexpr int None = 0;
 constexpr int Shift = 1;
 constexpr int Ctrl = 2;
+constexpr int Alt = 4;
 } // namespace Shifts
 
 namespace Buttons {

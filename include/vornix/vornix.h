@@ -112,10 +112,11 @@ public:
     void MoveScrollBar(ChildName Bar, i32 Steps);
     // The interval of the timer has passed (Container::SetTimer).
     void Tick();
-    // The pointer on one of the children, in its own pixels: the split is dragged by picSplitCol. Other children do
-    // nothing with it. Raise SplitCols.
+    // The pointer on one of the children, in its own pixels: the split is dragged by picSplitCol, and over the frame of
+    // the editor, fraEdit, the pointer goes on being followed. Other children do
+    // nothing with it. Raise SplitCols, MouseMove, CellOver and CellOut.
     void ChildMouseDown(ChildName Child, i16 Button, float x, float y);
-    void ChildMouseMove(ChildName Child, float x, float y);
+    void ChildMouseMove(ChildName Child, i16 Button, i16 Shift, float x, float y);
     void ChildMouseUp(ChildName Child, i16 Button, float x, float y);
     // A child has to be drawn anew, or has got the focus.
     void PaintChild(ChildName Child);

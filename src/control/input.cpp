@@ -53,7 +53,7 @@ void Vornix::ChildMouseDown(ChildName Child, i16 Button, float x, float /*y*/)
         control->split.Press(Button, PixelAt(x));
 }
 
-void Vornix::ChildMouseMove(ChildName Child, float x, float /*y*/)
+void Vornix::ChildMouseMove(ChildName Child, i16 /*Button*/, i16 /*Shift*/, float x, float /*y*/)
 {
     const auto control = Enter();
     if (control->HearsUser() && Child == ChildName::picSplitCol)

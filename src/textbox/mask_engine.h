@@ -4,8 +4,8 @@
 // Any event may change the engine's settings and the box. The engine must not be destroyed inside one of them.
 #pragma once
 
-#include "textbox/edit_box.h"
 #include "textbox/mask_form.h"
+#include "vornix/platform/edit_box.h"
 #include "vornix/platform/locale.h"
 
 #include <optional>
@@ -29,10 +29,6 @@ public:
     // Asked at the moment of use.
     virtual const Locale& GetLocale() const = 0;
 };
-
-// Who changed the text of the box: it itself, for a key that the engine let through, or anyone else. Pasting, dropping,
-// cutting and undoing are foreign whatever key they were asked by.
-enum class ChangeOrigin { Key, Foreign };
 
 class MaskEngine {
 public:

@@ -29,7 +29,7 @@ protected:
     int HandleLeft() { return Child(Handle).Place().left; }
     // Places in the client area, as the handle tells them.
     void Press(float x, i16 button = 1) { Grid().ChildMouseDown(Handle, button, OnHandle(x), 5); }
-    void Move(float x) { Grid().ChildMouseMove(Handle, OnHandle(x), 5); }
+    void Move(float x) { Grid().ChildMouseMove(Handle, 1, 0, OnHandle(x), 5); }
     void Release(float x, i16 button = 1) { Grid().ChildMouseUp(Handle, button, OnHandle(x), 5); }
     void DragTo(float x)
     {
@@ -345,7 +345,7 @@ TEST_F(SplitDragTest, TheLineGoesWithTheHandle)
 TEST_F(SplitDragTest, PlacesBeyond16BitsAreOnlyFarAway)
 {
     Press(3);
-    Grid().ChildMouseMove(Handle, 1e9F, 5);
+    Grid().ChildMouseMove(Handle, 1, 0, 1e9F, 5);
     EXPECT_TRUE(Line().IsVisible());
     Grid().ChildMouseUp(Handle, 1, 1e9F, 5);
     EXPECT_FALSE(Line().IsVisible());

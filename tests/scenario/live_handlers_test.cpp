@@ -225,7 +225,7 @@ protected:
         if (!host->Child(ChildName::picSplitCol).IsVisible())
             return;
         Grid().ChildMouseDown(ChildName::picSplitCol, 1, 1, 1);
-        Grid().ChildMouseMove(ChildName::picSplitCol, static_cast<float>(60 - handle.left), 1);
+        Grid().ChildMouseMove(ChildName::picSplitCol, 1, 0, static_cast<float>(60 - handle.left), 1);
         Grid().ChildMouseUp(ChildName::picSplitCol, 1, static_cast<float>(60 - handle.left), 1);
     }
 

@@ -34,10 +34,10 @@ void HeadlessPictureBox::MouseDown(i16 button, i16 /*shift*/, float x, float y)
         grid_->ChildMouseDown(name_, button, x, y);
 }
 
-void HeadlessPictureBox::MouseMove(i16 /*button*/, i16 /*shift*/, float x, float y)
+void HeadlessPictureBox::MouseMove(i16 button, i16 shift, float x, float y)
 {
     if (grid_)
-        grid_->ChildMouseMove(name_, x, y);
+        grid_->ChildMouseMove(name_, button, shift, x, y);
 }
 
 void HeadlessPictureBox::MouseUp(i16 button, i16 /*shift*/, float x, float y)

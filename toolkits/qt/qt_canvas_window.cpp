@@ -95,7 +95,7 @@ void QtCanvasWindow::HearPointer(const QMouseEvent& event)
     const auto [x, y] = PixelAt(event.position());
     Setting().grid.Tell([&, x = x, y = y](Vornix& grid) {
         if (event.type() == QEvent::MouseMove)
-            grid.ChildMouseMove(name_, x, y);
+            grid.ChildMouseMove(name_, ButtonSum(event.buttons()), ShiftSum(event.modifiers()), x, y);
         else if (button == 0)
             return;
         else if (event.type() == QEvent::MouseButtonRelease)

@@ -4,7 +4,9 @@
 // area unless said otherwise.
 #pragma once
 
+#include "vornix/platform/combo_box.h"
 #include "vornix/platform/device.h"
+#include "vornix/platform/edit_box.h"
 #include "vornix/platform/locale.h"
 #include "vornix/platform/system_colors.h"
 #include "vornix/types.h"
@@ -17,7 +19,8 @@
 
 namespace vornix {
 
-// A window placed on the control. Hidden until shown.
+// A window placed on the control. Hidden until shown. Its place is one in the control's client area; txtTmp and cboTmp lie
+// in the frame fraEdit, are seen only where and while it is, and have their place in it.
 class ChildWindow {
 public:
     virtual ~ChildWindow() = default;
@@ -31,6 +34,8 @@ public:
     virtual void Raise() = 0;
     // False when the window cannot take the focus now.
     virtual bool SetFocus() = 0;
+    // The ground of a window that shows nothing else.
+    virtual void SetBackColor(ColorRef /*color*/) { }
     // What the control draws on where it draws a child itself, as large as its place; null where the toolkit does. A
     // place of another size may bring another canvas.
     virtual Device* Canvas() { return nullptr; }
@@ -137,6 +142,15 @@ public:
     virtual ChildWindow& Child(ChildName name) = 0;
     // The bar in the child scrV or scrH. Null where the toolkit has no bars: their children then stay hidden.
     virtual NativeScrollBar* ScrollBar(ChildName /*name*/) { return nullptr; }
+    // The edit box in the child txtTmp, and the combo box in cboTmp. Null where the toolkit has none: the cells are then
+    // not edited.
+    virtual NativeEditBox* TextEditor() { return nullptr; }
+    virtual NativeComboBox* ComboEditor() { return nullptr; }
+    // A window of the host's, by the number that the toolkit knows it under. Shown, it lies over the control just behind
+    // cPivot, at a place in the client area. False when there is no such window.
+    virtual bool ShowHostWindow(std::intptr_t /*window*/, const Rect& /*place*/) { return false; }
+    virtual void HideHostWindow(std::intptr_t /*window*/) { }
+    virtual bool FocusHostWindow(std::intptr_t /*window*/) { return false; }
 
     // A persisted property changed.
     virtual void PropertyChanged(std::string_view name) = 0;

@@ -1,27 +1,9 @@
 #include "render/format_cache.h"
 
 #include "automation/colors.h"
+#include "automation/font_description.h"
 
 namespace vornix {
-
-namespace {
-
-// number * numerator / denominator to the nearest integer, halves away from zero; -1 for a denominator of 0.
-int MulDiv(int number, int numerator, int denominator)
-{
-    if (denominator == 0)
-        return -1;
-    const long long product = static_cast<long long>(number) * numerator;
-    const long long half = (denominator < 0 ? -static_cast<long long>(denominator) : denominator) / 2;
-    return static_cast<int>((product < 0 ? product - half : product + half) / denominator);
-}
-
-} // namespace
-
-int FontHeight(int points, int twipsPerPixelY)
-{
-    return MulDiv(-20, points, twipsPerPixelY);
-}
 
 void FormatCache::Begin(const SystemColors& colors, int twipsPerPixelY)
 {

@@ -19,9 +19,6 @@ struct PreparedFormat {
     FontDescription font;
 };
 
-// A font's height for Device::SelectFont: points as negative pixels, halves away from zero.
-int FontHeight(int points, int twipsPerPixelY);
-
 class FormatCache {
 public:
     // Forgets everything; what follows is drawn with these colours and this resolution.

@@ -53,6 +53,20 @@ MaskEngine::MaskEngine(EditBox& box, MaskEngineOwner& owner)
 {
 }
 
+void MaskEngine::Initialize()
+{
+    form_.Reset();
+    mask_.clear();
+    promptChar_ = u'_';
+    replaceChar_ = 0;
+    includeLiteral_ = numericOnly_ = multiLine_ = false;
+    committedText_.clear();
+    committedValues_.reset();
+    previousText_.clear();
+    keyHandled_ = false;
+    WriteSilently({});
+}
+
 void MaskEngine::SetMask(std::u16string_view Value)
 {
     mask_ = Value;

@@ -37,6 +37,9 @@ public:
     MaskEngine(const MaskEngine&) = delete;
     MaskEngine& operator=(const MaskEngine&) = delete;
 
+    // As a new engine, with an empty box.
+    void Initialize();
+
     // -- Members --
 
     // As it was written. Writing a mask shows its empty form, without a Change, and ends NumericOnly; "" ends the mask and

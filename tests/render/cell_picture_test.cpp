@@ -65,21 +65,6 @@ TEST(CellPictureTest, SurfacesOfManyPicturesAreBounded)
     EXPECT_LE(screen->surfacesAlive, 17);
 }
 
-TEST(FormatCacheTest, FontHeightIsPointsInNegativePixels)
-{
-    EXPECT_EQ(FontHeight(9, 15), -12);
-    EXPECT_EQ(FontHeight(72, 15), -96);
-    EXPECT_EQ(FontHeight(0, 15), 0);
-}
-
-TEST(FormatCacheTest, FontHeightRoundsHalvesAwayFromZero)
-{
-    EXPECT_EQ(FontHeight(1, 8), -3); // -2.5
-    EXPECT_EQ(FontHeight(7, 15), -9); // -9.33
-    EXPECT_EQ(FontHeight(8, 15), -11); // -10.67
-    EXPECT_EQ(FontHeight(8, 0), -1);
-}
-
 TEST(FormatCacheTest, ColoursAreTranslatedWithTheTableOfThePaint)
 {
     FormatCache cache;

@@ -85,9 +85,9 @@ TEST_F(PointerWatch, ThePointerIsOnTheChildOnTop)
     ShowChild(ChildName::fraEdit, { 100, 100, 200, 120 });
     host->MouseMove(110, 110);
     EXPECT_TRUE(IsOn(ChildName::fraEdit));
-    HeadlessChild& box = ShowChild(ChildName::txtTmp, { 100, 100, 200, 120 });
+    HeadlessChild& box = ShowChild(ChildName::txtTmp, { 0, 0, 100, 20 });
     EXPECT_TRUE(IsOn(ChildName::txtTmp)) << "a window may come below the pointer";
-    ShowChild(ChildName::cboTmp, { 100, 100, 200, 120 });
+    ShowChild(ChildName::cboTmp, { 0, 0, 100, 20 });
     EXPECT_TRUE(IsOn(ChildName::cboTmp));
     box.Raise();
     EXPECT_TRUE(IsOn(ChildName::txtTmp));
@@ -177,7 +177,7 @@ TEST_F(PointerWatch, EditorsAreTheGridToo)
 TEST_F(PointerWatch, OverTheListOfAComboTheTickMovesOn)
 {
     ShowChild(ChildName::fraEdit, { 100, 100, 400, 300 });
-    ShowChild(ChildName::cboTmp, { 100, 100, 400, 300 });
+    ShowChild(ChildName::cboTmp, { 0, 0, 300, 200 });
     host->ClickAt(110, 110);
     EXPECT_EQ(SaidNames(), Lines {});
     host->Tick();

@@ -20,7 +20,7 @@ public:
     void Click() override { said_.push_back(name_ + " Click"); }
     void DblClick() override { said_.push_back(name_ + " DblClick"); }
     void KeyDown(i16& code, i16&) override { said_.push_back(name_ + " KeyDown " + std::to_string(code)); }
-    void KeyPress(i16& character) override { said_.push_back(name_ + " KeyPress " + std::to_string(character)); }
+    void KeyPress(i16& character, i16) override { said_.push_back(name_ + " KeyPress " + std::to_string(character)); }
     void KeyUp(i16& code, i16&) override { said_.push_back(name_ + " KeyUp " + std::to_string(code)); }
 
 private:
@@ -116,14 +116,15 @@ TEST_F(Windows, ARaisedChildLiesAboveItsSiblings)
 
 TEST_F(Windows, EditorsLieInTheirFrame)
 {
-    RecordingChild& box = Show(ChildName::txtTmp, { 100, 100, 200, 140 });
+    RecordingChild& box = Show(ChildName::txtTmp, { 0, 0, 100, 40 });
     EXPECT_EQ(stack.TopAt(110, 110), Control()) << "the frame is hidden";
     EXPECT_FALSE(box.SetFocus());
     EXPECT_TRUE(box.IsVisible());
     RecordingChild& frame = Show(ChildName::fraEdit, { 100, 100, 200, 120 });
     EXPECT_EQ(stack.TopAt(110, 110), &box);
+    EXPECT_EQ(box.Area(), (Rect { 100, 100, 200, 140 }));
     EXPECT_EQ(stack.TopAt(110, 130), Control()) << "the frame clips it";
-    RecordingChild& combo = Show(ChildName::cboTmp, { 150, 100, 200, 120 });
+    RecordingChild& combo = Show(ChildName::cboTmp, { 50, 0, 100, 20 });
     EXPECT_EQ(stack.TopAt(160, 110), &combo);
     box.Raise();
     EXPECT_EQ(stack.TopAt(160, 110), &box);

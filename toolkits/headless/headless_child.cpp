@@ -17,6 +17,28 @@ void HeadlessChild::Attach(ChildParent& parent, const HeadlessChild* frame)
     frame_ = frame;
 }
 
+Rect HeadlessChild::Area() const
+{
+    if (!frame_)
+        return place_;
+    const Rect frame = frame_->Area();
+    return { frame.left + place_.left, frame.top + place_.top, frame.left + place_.right, frame.top + place_.bottom };
+}
+
+void HeadlessChild::Show(bool visible)
+{
+    visible_ = visible;
+    if (parent_ && !visible)
+        parent_->ChildWithdrawn();
+}
+
+void HeadlessChild::SetEnabled(bool enabled)
+{
+    enabled_ = enabled;
+    if (parent_ && !enabled)
+        parent_->ChildWithdrawn();
+}
+
 void HeadlessChild::Raise()
 {
     if (parent_)
@@ -44,7 +66,7 @@ bool HeadlessChild::IsUsable() const
 
 bool HeadlessChild::IsUsableAt(float x, float y) const
 {
-    return IsUsable() && Contains(place_, x, y) && (!frame_ || frame_->IsUsableAt(x, y));
+    return IsUsable() && Contains(Area(), x, y) && (!frame_ || frame_->IsUsableAt(x, y));
 }
 
 } // namespace vornix

@@ -85,6 +85,8 @@ HeadlessContainer::HeadlessContainer(const HeadlessOptions& options)
     , font_(MakeAmbientFont())
     , settings_(options.settings ? options.settings : std::make_shared<MemorySettings>())
     , log_(options.events)
+    , editBox_({ clipboard_, scale_, colors_, font_ })
+    , comboBox_({ clipboard_, scale_, colors_, font_ })
 {
     if (!(scale_ >= 1 && scale_ <= 4))
         RaiseInvalid("The scale of a window is 1 to 4 device pixels a pixel");
@@ -92,14 +94,15 @@ HeadlessContainer::HeadlessContainer(const HeadlessOptions& options)
     MakeWindow(ClientSize());
     if (!window_)
         throw std::bad_alloc();
-    children_ = { &bars_[0], &bars_[1], &editorWindows_[0], &editorWindows_[1], &editorWindows_[2], &corner_,
-        &splitWindows_[0], &splitWindows_[1] };
+    children_
+        = { &bars_[0], &bars_[1], &editBox_, &comboBox_, &frame_, &corner_, &splitWindows_[0], &splitWindows_[1] };
     Child(ChildName::picSplitCol).Move({ 0, 0, SplitHandleWidth, 0 });
     windows_ = std::make_unique<WindowStack>(*this, children_);
     person_ = std::make_unique<Person>(*this, *windows_);
     grid_ = std::make_unique<Vornix>(*this, log_);
     VerticalBar().TellTo([this](i32 code) { grid_->ScrollBarNotify(ChildName::scrV, code); });
     HorizontalBar().TellTo([this](i32 code) { grid_->ScrollBarNotify(ChildName::scrH, code); });
+    frame_.TellTo(*grid_);
     for (HeadlessPictureBox& window : splitWindows_)
         window.TellTo(*grid_, scale_, colors_);
     const MemoryBag emptyBag;
@@ -306,6 +309,37 @@ NativeScrollBar* HeadlessContainer::ScrollBar(ChildName name)
     default:
         return nullptr;
     }
+}
+
+HeadlessHostWindow* HeadlessContainer::HostWindow(std::intptr_t number)
+{
+    const auto found = std::ranges::find(hostWindows_, number, [](const auto& window) { return window->Number(); });
+    return found == hostWindows_.end() ? nullptr : found->get();
+}
+
+bool HeadlessContainer::ShowHostWindow(std::intptr_t window, const Rect& place)
+{
+    if (window == 0)
+        return false;
+    HeadlessHostWindow* shown = HostWindow(window);
+    if (!shown)
+        shown = hostWindows_.emplace_back(std::make_unique<HeadlessHostWindow>(window)).get();
+    windows_->PlaceHostWindow(*shown);
+    shown->Move(place);
+    shown->Show(true);
+    return true;
+}
+
+void HeadlessContainer::HideHostWindow(std::intptr_t window)
+{
+    if (HeadlessHostWindow* const shown = HostWindow(window))
+        shown->Show(false);
+}
+
+bool HeadlessContainer::FocusHostWindow(std::intptr_t window)
+{
+    HeadlessHostWindow* const shown = HostWindow(window);
+    return shown && shown->SetFocus();
 }
 
 void HeadlessContainer::ShowMessage(std::u16string_view title, std::u16string_view text, MessageIcon icon)

@@ -237,7 +237,7 @@ void Person::Strike(const KeyStroke& stroke)
     Tell(windows_.Focused(), [&](InputWindow& window) { window.KeyDown(code, shift); });
     if (stroke.character && code != 0) {
         i16 character = *stroke.character;
-        Tell(windows_.Focused(), [&](InputWindow& window) { window.KeyPress(character); });
+        Tell(windows_.Focused(), [&](InputWindow& window) { window.KeyPress(character, stroke.shift); });
     }
     hands_.held.reset(static_cast<std::size_t>(stroke.code));
     code = stroke.code;

@@ -10,14 +10,8 @@ namespace vornix {
 
 namespace {
 
-constexpr i16 BackKey = 8;
-constexpr i16 TabKey = 9;
-constexpr i16 ReturnKey = 13;
-constexpr i16 EscapeKey = 27;
-constexpr i16 SpaceKey = 32;
 constexpr i16 FirstNumpadDigit = 96;
 constexpr i16 FirstNumpadSign = 106;
-constexpr i16 F1Key = 112;
 constexpr int FunctionKeys = 24;
 constexpr i16 SentCharacter = 231;
 constexpr i16 LineFeed = 10;
@@ -48,24 +42,24 @@ constexpr NamedKey NamedKeys[] = {
     { "Escape", EscapeKey },
     { "Esc", EscapeKey },
     { "Space", SpaceKey },
-    { "PageUp", 33 },
-    { "PgUp", 33 },
-    { "Prior", 33 },
-    { "PageDown", 34 },
-    { "PgDn", 34 },
-    { "Next", 34 },
-    { "End", 35 },
-    { "Home", 36 },
-    { "Left", 37 },
-    { "Up", 38 },
-    { "Right", 39 },
-    { "Down", 40 },
+    { "PageUp", PageUpKey },
+    { "PgUp", PageUpKey },
+    { "Prior", PageUpKey },
+    { "PageDown", PageDownKey },
+    { "PgDn", PageDownKey },
+    { "Next", PageDownKey },
+    { "End", EndKey },
+    { "Home", HomeKey },
+    { "Left", LeftKey },
+    { "Up", UpKey },
+    { "Right", RightKey },
+    { "Down", DownKey },
     { "PrintScreen", 44 },
     { "Snapshot", 44 },
-    { "Insert", 45 },
-    { "Ins", 45 },
-    { "Delete", 46 },
-    { "Del", 46 },
+    { "Insert", InsertKey },
+    { "Ins", InsertKey },
+    { "Delete", DeleteKey },
+    { "Del", DeleteKey },
     { "Help", 47 },
     { "Apps", 93 },
     { "NumpadMultiply", 106 },

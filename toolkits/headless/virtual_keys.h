@@ -12,9 +12,26 @@ inline constexpr i16 ShiftDown = 1;
 inline constexpr i16 CtrlDown = 2;
 inline constexpr i16 AltDown = 4;
 
+inline constexpr i16 BackKey = 8;
+inline constexpr i16 TabKey = 9;
+inline constexpr i16 ReturnKey = 13;
 inline constexpr i16 ShiftKey = 16;
 inline constexpr i16 CtrlKey = 17;
 inline constexpr i16 AltKey = 18;
+inline constexpr i16 EscapeKey = 27;
+inline constexpr i16 SpaceKey = 32;
+inline constexpr i16 PageUpKey = 33;
+inline constexpr i16 PageDownKey = 34;
+inline constexpr i16 EndKey = 35;
+inline constexpr i16 HomeKey = 36;
+inline constexpr i16 LeftKey = 37;
+inline constexpr i16 UpKey = 38;
+inline constexpr i16 RightKey = 39;
+inline constexpr i16 DownKey = 40;
+inline constexpr i16 InsertKey = 45;
+inline constexpr i16 DeleteKey = 46;
+inline constexpr i16 F1Key = 112;
+inline constexpr i16 F4Key = 115;
 
 // A key that is struck, what is held with it, and the character that comes of it.
 struct KeyStroke {

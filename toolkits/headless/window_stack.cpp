@@ -43,7 +43,7 @@ void ControlWindow::KeyDown(i16& code, i16& shift)
     host_.Grid().KeyDown(code, shift);
 }
 
-void ControlWindow::KeyPress(i16& character)
+void ControlWindow::KeyPress(i16& character, i16 /*shift*/)
 {
     host_.Grid().KeyPress(character);
 }
@@ -86,9 +86,12 @@ HeadlessChild* WindowStack::TopChildAt(float x, float y, const HeadlessChild* fr
     return nullptr;
 }
 
-ChildName WindowStack::NameOf(const HeadlessChild& child) const
+std::optional<ChildName> WindowStack::NameOf(const HeadlessChild& child) const
 {
-    return static_cast<ChildName>(std::ranges::find(children_, &child) - children_.begin());
+    const auto place = std::ranges::find(children_, &child);
+    if (place == children_.end())
+        return std::nullopt;
+    return static_cast<ChildName>(place - children_.begin());
 }
 
 PointerLocation WindowStack::LocatePointer() const
@@ -99,8 +102,11 @@ PointerLocation WindowStack::LocatePointer() const
     location.window = PointerLocation::Window::Control;
     location.place = { static_cast<int>(pointer_->x), static_cast<int>(pointer_->y) };
     if (const HeadlessChild* const child = TopChildAt(pointer_->x, pointer_->y, nullptr)) {
+        const std::optional<ChildName> name = NameOf(*child);
+        if (!name)
+            return {};
         location.window = PointerLocation::Window::Child;
-        location.child = NameOf(*child);
+        location.child = *name;
     }
     return location;
 }
@@ -109,8 +115,6 @@ InputWindow* WindowStack::Focused()
 {
     if (!hasFocus_)
         return nullptr;
-    if (focusedChild_ && !focusedChild_->IsUsable())
-        focusedChild_ = nullptr;
     if (focusedChild_)
         return focusedChild_;
     return &control_;
@@ -152,10 +156,29 @@ void WindowStack::RaiseChild(HeadlessChild& child)
 
 void WindowStack::FocusChild(HeadlessChild& child)
 {
-    const ChildName name = NameOf(child);
+    const std::optional<ChildName> name = NameOf(child);
     GiveFocus(name == ChildName::cPivot ? nullptr : &child);
-    if (!host_.Grid().IsTerminated())
-        host_.Grid().EnterChildFocus(name);
+    if (name && !host_.Grid().IsTerminated())
+        host_.Grid().EnterChildFocus(*name);
+}
+
+void WindowStack::ChildWithdrawn()
+{
+    if (focusedChild_ && !focusedChild_->IsUsable())
+        focusedChild_ = nullptr;
+}
+
+bool WindowStack::IsFocused(const HeadlessChild& child) const
+{
+    return hasFocus_ && focusedChild_ == &child;
+}
+
+void WindowStack::PlaceHostWindow(HeadlessChild& window)
+{
+    window.Attach(*this, nullptr);
+    std::erase(order_, &window);
+    const HeadlessChild* const corner = children_[static_cast<std::size_t>(ChildName::cPivot)];
+    order_.insert(std::ranges::find(order_, corner), &window);
 }
 
 } // namespace vornix

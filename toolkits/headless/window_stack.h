@@ -25,7 +25,7 @@ public:
     void Click() override;
     void DblClick() override;
     void KeyDown(i16& code, i16& shift) override;
-    void KeyPress(i16& character) override;
+    void KeyPress(i16& character, i16 shift) override;
     void KeyUp(i16& code, i16& shift) override;
 
 private:
@@ -68,11 +68,17 @@ public:
     void RaiseChild(HeadlessChild& child) override;
     // The control is told. Keys on the corner between the bars are the control's own.
     void FocusChild(HeadlessChild& child) override;
+    void ChildWithdrawn() override;
+    bool IsFocused(const HeadlessChild& child) const override;
+
+    // A window of the host's, just behind the corner. It must outlive the stack.
+    void PlaceHostWindow(HeadlessChild& window);
 
 private:
     bool IsSeenAt(float x, float y) const { return isShown_ && Contains(control_.Area(), x, y); }
     HeadlessChild* TopChildAt(float x, float y, const HeadlessChild* frame) const;
-    ChildName NameOf(const HeadlessChild& child) const;
+    // None for a window of the host's.
+    std::optional<ChildName> NameOf(const HeadlessChild& child) const;
     // To the control itself where no child is given.
     void GiveFocus(HeadlessChild* child);
 
@@ -80,7 +86,7 @@ private:
     ControlWindow control_;
     // By their names.
     std::vector<HeadlessChild*> children_;
-    // From the bottom up; those in a frame count among themselves.
+    // From the bottom up, with those of the host; those in a frame count among themselves.
     std::vector<HeadlessChild*> order_;
     std::optional<PointerPlace> pointer_;
     bool isShown_ = false;

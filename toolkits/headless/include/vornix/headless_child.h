@@ -20,7 +20,7 @@ public:
     virtual void Click() { }
     virtual void DblClick() { }
     virtual void KeyDown(i16& /*code*/, i16& /*shift*/) { }
-    virtual void KeyPress(i16& /*character*/) { }
+    virtual void KeyPress(i16& /*character*/, i16 /*shift*/) { }
     virtual void KeyUp(i16& /*code*/, i16& /*shift*/) { }
 };
 
@@ -32,24 +32,30 @@ public:
     virtual ~ChildParent() = default;
     virtual void RaiseChild(HeadlessChild& child) = 0;
     virtual void FocusChild(HeadlessChild& child) = 0;
+    // A child was hidden or disabled.
+    virtual void ChildWithdrawn() = 0;
+    // Whether it has the focus.
+    virtual bool IsFocused(const HeadlessChild& child) const = 0;
 };
 
 class HeadlessChild : public ChildWindow, public InputWindow {
 public:
-    // A child in a frame is seen only where and while the frame is.
+    // A child in a frame is seen only where and while the frame is, and has its place in it.
     void Attach(ChildParent& parent, const HeadlessChild* frame);
     const HeadlessChild* Frame() const { return frame_; }
 
     void Move(const Rect& place) override { place_ = place; }
     Rect Place() const override { return place_; }
-    Rect Area() const override { return place_; }
-    void Show(bool visible) override { visible_ = visible; }
+    Rect Area() const override;
+    // What is hidden or disabled with the focus on it leaves it to the control, which hears nothing of that.
+    void Show(bool visible) override;
     // Its own flag, whatever the frame's is.
     bool IsVisible() const override { return visible_; }
-    void SetEnabled(bool enabled) override { enabled_ = enabled; }
+    void SetEnabled(bool enabled) override;
     bool IsEnabled() const override { return enabled_; }
     void Raise() override;
     bool SetFocus() override;
+    bool HasFocus() const { return parent_ && parent_->IsFocused(*this); }
     // What the control has drawn on the child; null where it draws nothing.
     RasterSurface* Canvas() override { return nullptr; }
 

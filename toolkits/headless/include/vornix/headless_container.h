@@ -4,6 +4,10 @@
 
 #include "vornix/event_log.h"
 #include "vornix/headless_child.h"
+#include "vornix/headless_combo_box.h"
+#include "vornix/headless_edit_box.h"
+#include "vornix/headless_frame.h"
+#include "vornix/headless_host_window.h"
 #include "vornix/headless_picture_box.h"
 #include "vornix/headless_scroll_bar.h"
 #include "vornix/memory_stores.h"
@@ -109,7 +113,8 @@ public:
     // all go to the window of the press. Outside the client area there is no window, and nothing arrives. A press on
     // the control gives it the focus first (EnterFocus when the focus was elsewhere). Buttons and keys are held, for
     // IsKeyDown, from their press to their release. The bars (HeadlessScrollBar) and the handle of the split tell the
-    // control what is done to them, the corner between the bars takes the focus; other children do nothing.
+    // control what is done to them, the corner between the bars takes the focus, the editors (HeadlessEditBox,
+    // HeadlessComboBox) do what such boxes do, and their frame tells of moves over it; other children do nothing.
     //
     // A control that a handler closes or hides gets no further notification, and a hidden one none at all, nor the
     // focus; one that is closed from the start is error 5, as are buttons, sums of keys and numbers of steps that there
@@ -161,6 +166,11 @@ public:
     HeadlessChild& Child(std::string_view name);
     HeadlessScrollBar& HorizontalBar() { return bars_[1]; }
     HeadlessScrollBar& VerticalBar() { return bars_[0]; }
+    HeadlessEditBox& EditBox() { return editBox_; }
+    HeadlessComboBox& ComboBox() { return comboBox_; }
+    HeadlessFrame& EditFrame() { return frame_; }
+    // The window of the host's that goes by this number; null before it was shown.
+    HeadlessHostWindow* HostWindow(std::intptr_t number);
     MemorySettings& StoredSettings() { return *settings_; }
 
     // The control's picture. Logical pixels; 0xFFFFFFFF outside.
@@ -190,6 +200,12 @@ public:
     void SetTimer(int interval, bool enabled) override;
     ChildWindow& Child(ChildName name) override;
     NativeScrollBar* ScrollBar(ChildName name) override;
+    NativeEditBox* TextEditor() override { return &editBox_; }
+    NativeComboBox* ComboEditor() override { return &comboBox_; }
+    // Every number but 0 stands for a window.
+    bool ShowHostWindow(std::intptr_t window, const Rect& place) override;
+    void HideHostWindow(std::intptr_t window) override;
+    bool FocusHostWindow(std::intptr_t window) override;
     void PropertyChanged(std::string_view name) override { propertyChanges_.emplace_back(name); }
     SettingsStore& Settings() override { return *settings_; }
     std::u16string ClipboardText() const override { return clipboard_; }
@@ -213,13 +229,16 @@ private:
     std::vector<std::string> propertyChanges_;
     std::vector<MessageBoxRecord> messageBoxes_;
     std::array<HeadlessScrollBar, 2> bars_ { HeadlessScrollBar(ChildName::scrV), HeadlessScrollBar(ChildName::scrH) };
-    std::array<HeadlessChild, 3> editorWindows_;
+    std::u16string clipboard_;
+    HeadlessEditBox editBox_;
+    HeadlessComboBox comboBox_;
+    HeadlessFrame frame_;
     HeadlessCorner corner_;
     std::array<HeadlessPictureBox, 2> splitWindows_ { HeadlessPictureBox(ChildName::picSplitCol),
         HeadlessPictureBox(ChildName::picSplitMove) };
     // By their names in ChildName: the bars, the editors and their frame, the corner, those of the split.
     std::array<HeadlessChild*, 8> children_ {};
-    std::u16string clipboard_;
+    std::vector<std::unique_ptr<HeadlessHostWindow>> hostWindows_;
     std::set<int> keysDown_;
     PointerShape pointer_ = PointerShape::Default;
     u32 extendedStyle_ = 0;

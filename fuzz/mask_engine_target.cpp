@@ -33,9 +33,9 @@ public:
             box_.Press(Keys::Delete, Shift());
             return;
         case 5:
-            return box_.Backspace();
+            return box_.Backspace(Shift());
         default:
-            box_.Type(AnyCharacter(), input_.Byte() < 250 ? i16 { 0 } : Shift());
+            box_.Type(AnyCharacter(), Shift());
         }
     }
 
@@ -68,6 +68,8 @@ private:
                 ++editable;
             else
                 fuzz::Require(shown[static_cast<std::size_t>(position)] == literal, "literals stay in place");
+            fuzz::Require(literal != 0 || !IsSurrogate(shown[static_cast<std::size_t>(position)]),
+                "half of a character has no place");
         }
         fuzz::Require(engine_.TextInput().size() <= editable, "no more is entered than there are places");
         fuzz::Require(engine_.Text().size() == (engine_.IncludeLiteral() ? shown.size() : editable),
@@ -78,10 +80,18 @@ private:
     {
         constexpr std::u16string_view Usual = u"0123456789 abzABZ-+._()\x08\x1B\x09\r";
         const u8 kind = input_.Byte();
-        return kind < 240 ? Usual[kind % Usual.size()] : static_cast<char16_t>(input_.Word());
+        if (kind < 232)
+            return Usual[kind % Usual.size()];
+        // Halves of characters come alone too.
+        return kind < 240 ? static_cast<char16_t>(0xD800 + input_.Byte() * 8) : static_cast<char16_t>(input_.Word());
     }
 
-    i16 Shift() { return static_cast<i16>(input_.Byte() % 8); }
+    // Mostly none.
+    i16 Shift()
+    {
+        const u8 keys = input_.Byte();
+        return keys < 240 ? i16 { 0 } : static_cast<i16>(keys % 8);
+    }
 
     std::u16string AnyMask()
     {
@@ -126,13 +136,20 @@ private:
     void ChangeFromOutside()
     {
         const std::u16string text = input_.Text(24);
-        switch (input_.Byte() % 4) {
+        switch (input_.Byte() % 8) {
         case 0:
-            return box_.Paste(text);
         case 1:
-            return box_.PasteByKey(text);
+            return box_.Paste(text);
         case 2:
+            return box_.PasteByKey(text);
+        case 3:
+            return box_.PasteByInsert(text);
+        case 4:
             return box_.Drop(text, input_.Between(0, 20));
+        case 5:
+            return box_.UndoByKey(text);
+        case 6:
+            return box_.BackspaceWord(input_.Bool() ? Keys::Backspace : 127);
         default:
             return box_.CutByKey();
         }

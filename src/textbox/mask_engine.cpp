@@ -12,20 +12,45 @@ namespace {
 
 constexpr std::u16string_view LineEnd = u"\r\n";
 
+constexpr char16_t Rubout = 127;
+
 bool HoldsCtrl(int shift)
 {
     return (shift & Shifts::Ctrl) != 0;
 }
 
-// Ctrl and Alt together type the third character of a key. The codes below the blank are those of Ctrl with a letter,
-// those of Escape and Tab among them; 127 is that of Ctrl with Backspace.
-bool IsTypedCharacter(char16_t character, int shift)
+bool HoldsAlt(int shift)
 {
-    if (character == Keys::Backspace)
+    return (shift & Shifts::Alt) != 0;
+}
+
+bool IsEraseSign(int code)
+{
+    return code == Keys::Backspace || code == Rubout;
+}
+
+// Whether the key asks the box to change its text by other means than typing: pasting, cutting, undoing, erasing words.
+bool IsForeignKey(int key, int shift)
+{
+    if (HoldsCtrl(shift))
         return true;
-    if (character < u' ' || character == 127)
-        return false;
-    return !HoldsCtrl(shift) || (shift & Shifts::Alt) != 0;
+    if ((shift & Shifts::Shift) != 0 && key == Keys::Insert)
+        return true;
+    return HoldsAlt(shift) && key == Keys::Backspace;
+}
+
+// Ctrl and Alt together type the third character of a key. The codes below the blank are those of Ctrl with a letter.
+bool IsForeignCharacter(char16_t character, int shift)
+{
+    if (IsEraseSign(character))
+        return HoldsCtrl(shift) || HoldsAlt(shift);
+    return HoldsCtrl(shift) && (character < u' ' || !HoldsAlt(shift));
+}
+
+// Those of Tab and Escape among them.
+bool IsControlSign(char16_t character)
+{
+    return (character < u' ' && character != Keys::Backspace) || character == Rubout;
 }
 
 } // namespace
@@ -61,6 +86,7 @@ void MaskEngine::Initialize()
     replaceChar_ = 0;
     includeLiteral_ = numericOnly_ = multiLine_ = false;
     committedText_.clear();
+    isCommittedForm_ = false;
     committedValues_.reset();
     previousText_.clear();
     keyHandled_ = false;
@@ -80,13 +106,13 @@ void MaskEngine::SetMask(std::u16string_view Value)
 
 void MaskEngine::SetPromptChar(std::u16string_view Value)
 {
-    if (!Value.empty())
+    if (!Value.empty() && !IsSurrogate(Value.front()))
         promptChar_ = Value.front();
 }
 
 void MaskEngine::SetReplaceChar(std::u16string_view Value)
 {
-    if (!Value.empty())
+    if (!Value.empty() && !IsSurrogate(Value.front()))
         replaceChar_ = Value.front();
 }
 
@@ -111,8 +137,9 @@ std::u16string MaskEngine::Text() const
 void MaskEngine::SetText(std::u16string_view Value)
 {
     committedText_ = Apply(Value);
+    isCommittedForm_ = IsMaskInForce();
     committedValues_.reset();
-    if (IsMaskInForce())
+    if (isCommittedForm_)
         committedValues_ = form_.Values();
 }
 
@@ -123,37 +150,41 @@ std::u16string MaskEngine::TextInput() const
 
 void MaskEngine::SetSelText(std::u16string_view Value)
 {
-    const std::u16string before = box_.Text();
+    if (Value.empty() && box_.SelLength() == 0)
+        return;
     {
         const OwnWrite write(*this);
         box_.SetSelText(Value);
     }
-    if (box_.Text() != before)
-        TextChanged(true);
+    TextChanged(true);
 }
 
 // Shows a whole text in the form, and returns what is shown.
 std::u16string MaskEngine::Apply(std::u16string_view text)
 {
-    owner_.FlattenBorder();
     std::u16string shown(text);
+    const int caret = box_.SelStart();
+    owner_.FlattenBorder();
     if (IsMaskInForce())
-        shown = form_.Store(text, includeLiteral_, promptChar_);
-    WriteKeepingCaret(shown);
+        shown = form_.Store(shown, includeLiteral_, promptChar_);
+    WriteWithCaret(shown, caret);
     return shown;
 }
 
-// The form has its literals in place already, so it is not stored once more.
+// A form has its literals in place. It is not stored once more unless its positions are gone.
 void MaskEngine::RestoreCommitted()
 {
-    if (!IsMaskInForce() || !committedValues_) {
-        form_.ClearValues();
-        Apply(std::u16string(committedText_));
-        return;
-    }
+    const int caret = box_.SelStart();
     owner_.FlattenBorder();
-    form_.SetValues(*committedValues_);
-    WriteKeepingCaret(committedText_);
+    std::u16string shown = committedText_;
+    if (IsMaskInForce() && committedValues_) {
+        form_.SetValues(*committedValues_);
+    } else {
+        form_.ClearValues();
+        if (IsMaskInForce())
+            shown = form_.Store(shown, includeLiteral_ || isCommittedForm_, promptChar_);
+    }
+    WriteWithCaret(shown, caret);
 }
 
 void MaskEngine::WriteSilently(std::u16string_view text)
@@ -162,9 +193,8 @@ void MaskEngine::WriteSilently(std::u16string_view text)
     box_.SetText(text);
 }
 
-void MaskEngine::WriteKeepingCaret(std::u16string_view text)
+void MaskEngine::WriteWithCaret(std::u16string_view text, int caret)
 {
-    const int caret = box_.SelStart();
     WriteSilently(text);
     box_.SetSelStart(caret);
 }
@@ -207,8 +237,7 @@ void MaskEngine::KeyDown(i16& KeyCode, i16 Shift)
         KeyCode = 0;
     if (Shift == Shifts::None && box_.SelLength() == 0)
         PlainKeyDown(KeyCode);
-    // What Ctrl brings about, such as pasting, is for the mask to look at.
-    keyHandled_ = !HoldsCtrl(Shift);
+    keyHandled_ = !IsForeignKey(KeyCode, Shift);
 }
 
 void MaskEngine::PlainKeyDown(i16& KeyCode)
@@ -248,22 +277,24 @@ void MaskEngine::KeyPress(i16& KeyAscii, i16 Shift)
             KeyAscii = 0;
         return;
     }
+    const bool isForeign = IsForeignCharacter(static_cast<char16_t>(KeyAscii), Shift);
+    if (KeyAscii != 0 && !isForeign && (numericOnly_ || IsMaskInForce()))
+        FilterCharacter(KeyAscii);
+    keyHandled_ = !isForeign;
+}
+
+void MaskEngine::FilterCharacter(i16& KeyAscii)
+{
     const auto character = static_cast<char16_t>(KeyAscii);
-    if (!IsTypedCharacter(character, Shift)) {
-        keyHandled_ = false;
-        return;
-    }
-    if (numericOnly_) {
-        if (!IsNumericWith(character))
-            KeyAscii = 0;
-    } else if (IsMaskInForce() && character == Keys::Backspace) {
-        if (EraseBackward())
-            KeyAscii = 0;
-    } else if (IsMaskInForce()) {
+    bool isTaken = true;
+    if (numericOnly_)
+        isTaken = IsControlSign(character) || !IsNumericWith(character);
+    else if (character == Keys::Backspace)
+        isTaken = EraseBackward();
+    else if (!IsControlSign(character))
         TypeCharacter(character);
+    if (isTaken)
         KeyAscii = 0;
-    }
-    keyHandled_ = true;
 }
 
 // The selection, which the character would replace, is not looked at, and Backspace is a character like all others: it

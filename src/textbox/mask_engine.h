@@ -47,7 +47,8 @@ public:
     const std::u16string& Mask() const { return mask_; }
     void SetMask(std::u16string_view Value);
     // One character: what empty places show, "_" at the start, and what they give in Text, NUL at the start. Of a text
-    // the first character counts, and "" is ignored. The form follows when Mask is written.
+    // the first character counts; "" is ignored, and so is a character of two units. The form follows when Mask is
+    // written.
     std::u16string PromptChar() const { return std::u16string(1, promptChar_); }
     void SetPromptChar(std::u16string_view Value);
     std::u16string ReplaceChar() const { return std::u16string(1, replaceChar_); }
@@ -67,7 +68,7 @@ public:
     void SetText(std::u16string_view Value);
     // What was entered, without literals and empty places.
     std::u16string TextInput() const;
-    // Those of the box. Writing SelText is a foreign change.
+    // Those of the box. Writing SelText is a foreign change, but for nothing in place of nothing.
     std::u16string SelText() const { return box_.SelText(); }
     void SetSelText(std::u16string_view Value);
     int SelStart() const { return box_.SelStart(); }
@@ -79,7 +80,7 @@ public:
 
     // A key, and the character that it types, before the box acts on them; a value left at 0 is not for the box. Shift is
     // the sum of the keys held: 1 Shift, 2 Ctrl, 4 Alt. A key that types nothing has no KeyPress; what an input method
-    // has composed comes as characters without keys.
+    // has composed comes as characters without keys. A character of two units finds no place in a form.
     void KeyDown(i16& KeyCode, i16 Shift);
     void KeyPress(i16& KeyAscii, i16 Shift);
     // The text has changed. To be called at once; changes that the engine itself makes may be told too, or not.
@@ -99,12 +100,13 @@ private:
     std::u16string Apply(std::u16string_view text);
     void RestoreCommitted();
     void WriteSilently(std::u16string_view text);
-    void WriteKeepingCaret(std::u16string_view text);
+    void WriteWithCaret(std::u16string_view text, int caret);
     void WriteAndTell(std::u16string_view text, int caret);
     void TextChanged(bool isForeign);
 
     void PlainKeyDown(i16& KeyCode);
     bool LeavesText(i16 KeyCode) const;
+    void FilterCharacter(i16& KeyAscii);
     bool IsNumericWith(char16_t character) const;
     void TypeCharacter(char16_t character);
     char16_t InCaseOf(int position, char16_t character) const;
@@ -122,8 +124,10 @@ private:
     bool includeLiteral_ = false;
     bool numericOnly_ = false;
     bool multiLine_ = false;
-    // The form that the latest Text made, and the values stored then; no values if the positions are younger.
+    // What the latest Text showed, whether that was a form, and the values stored then; no values if the positions are
+    // younger.
     std::u16string committedText_;
+    bool isCommittedForm_ = false;
     std::optional<std::vector<i16>> committedValues_;
     // The text at the latest Change.
     std::u16string previousText_;

@@ -74,6 +74,8 @@ bool IsLetter(char16_t character)
 
 bool IsInCharClass(char16_t character, u8 charClass)
 {
+    if (IsSurrogate(character))
+        return false;
     if (charClass == CharClasses::Any || character == Backspace)
         return true;
     if ((charClass & CharClasses::Digit) && character >= u'0' && character <= u'9')

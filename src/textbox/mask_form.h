@@ -37,7 +37,14 @@ struct MaskPosition {
     i16 Value = 0;
 };
 
-// Whether a character may stand at a place of this class. Backspace may stand everywhere.
+// Half of a character of two units.
+constexpr bool IsSurrogate(char16_t unit)
+{
+    return unit >= 0xD800 && unit <= 0xDFFF;
+}
+
+// Whether a character may stand at a place of this class. Backspace may stand everywhere; half of a character nowhere,
+// since a place holds one unit.
 bool IsInCharClass(char16_t character, u8 charClass);
 
 class MaskForm {

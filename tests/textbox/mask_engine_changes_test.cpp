@@ -93,6 +93,58 @@ TEST_F(MaskEngineChangesTest, AKeyAnswersForOneChange)
     EXPECT_EQ(Box.Text(), u"__");
 }
 
+TEST_F(MaskEngineChangesTest, PastingByShiftAndInsertIsForeign)
+{
+    Mask(u"0000");
+    Box.TypeAll(u"1");
+    Box.PasteByInsert(u"2x345");
+    EXPECT_EQ(Box.Text(), u"12_3");
+    // Without Shift the key pastes nothing, and what changes is its own.
+    i16 key = Keys::Insert;
+    Engine.KeyDown(key, Shifts::None);
+    Box.SetTellsWrites(false);
+    Box.SetText(u"abcd");
+    Engine.BoxChanged(ChangeOrigin::Key);
+    EXPECT_EQ(Box.Text(), u"abcd");
+}
+
+TEST_F(MaskEngineChangesTest, UndoingByAltAndBackspaceIsForeign)
+{
+    Mask(u"00");
+    Box.TypeAll(u"12");
+    Box.UndoByKey(u"x1y");
+    EXPECT_EQ(Box.Text(), u"_1");
+    EXPECT_EQ(Engine.Text(), u"x1");
+}
+
+TEST_F(MaskEngineChangesTest, ErasingAWordIsForeign)
+{
+    for (const char16_t code : { u'\b', u'\x7F' }) {
+        Mask(u"999");
+        Engine.SetText(u"1 2");
+        Box.SetSelStart(2);
+        Box.BackspaceWord(code);
+        EXPECT_EQ(Box.Text(), u"12_");
+        EXPECT_EQ(Engine.TextInput(), u"12");
+        EXPECT_EQ(Box.SelStart(), 1);
+    }
+}
+
+TEST_F(MaskEngineChangesTest, ACharacterThatTheHostTookIsAKeyStill)
+{
+    Mask(u"00");
+    Owner.onKeyPress = [](i16& KeyAscii) { KeyAscii = 0; };
+    Box.Type(u'1');
+    Box.SetTellsWrites(false);
+    Box.SetText(u"xy");
+    Engine.BoxChanged(ChangeOrigin::Key);
+    EXPECT_EQ(Box.Text(), u"xy");
+    i16 character = 0;
+    Engine.KeyPress(character, Shifts::Ctrl);
+    Engine.BoxChanged(ChangeOrigin::Key);
+    EXPECT_EQ(Box.Text(), u"__");
+}
+
 TEST_F(MaskEngineChangesTest, ADropIsForeign)
 {
     Mask(u"LL-LL");
@@ -167,6 +219,25 @@ TEST_F(MaskEngineChangesTest, SelTextWithoutAMaskGoesIntoTheBox)
     }
 }
 
+TEST_F(MaskEngineChangesTest, EveryWritingOfSelTextIsAChangeButNothingForNothing)
+{
+    Engine.SetText(u"abc");
+    Box.Select(1, 1);
+    Forget();
+    Engine.SetSelText(u"b");
+    EXPECT_THAT(Owner.log, testing::ElementsAre("Change", "SizeToText"));
+    EXPECT_EQ(Box.SelStart(), 2);
+    Forget();
+    Engine.SetSelText(u"");
+    EXPECT_THAT(Owner.log, testing::IsEmpty());
+    // The form is shaped anew: literals count as entered.
+    Mask(u"-0");
+    Box.Select(0, 1);
+    Engine.SetSelText(u"-");
+    EXPECT_THAT(Owner.log, testing::ElementsAre("FlattenBorder", "Change", "SizeToText"));
+    EXPECT_EQ(Engine.Text(), u"-");
+}
+
 TEST_F(MaskEngineChangesTest, ABoxMayTellOfTheEnginesWritesOrNot)
 {
     for (const bool tells : { false, true }) {
@@ -221,6 +292,28 @@ TEST_F(MaskEngineChangesTest, AHostThatAssignsTheTextInChangeHasTheLastWord)
     EXPECT_EQ(Box.Text(), u"42__");
     EXPECT_EQ(Engine.TextInput(), u"42");
     EXPECT_EQ(Count("Change"), 1);
+}
+
+TEST_F(MaskEngineChangesTest, TakingTheBorderOffMayComeBackIntoTheEngine)
+{
+    Mask(u"(00)");
+    Engine.SetText(u"12");
+    Box.SetSelStart(2);
+    Owner.onFlattenBorder = [&] {
+        Owner.onFlattenBorder = nullptr;
+        Engine.SetMask(u"000");
+    };
+    Engine.SetText(u"345");
+    EXPECT_EQ(Box.Text(), u"345");
+    EXPECT_EQ(Box.SelStart(), 2);
+    // The positions that the committed values belong to are gone when Escape comes to them.
+    Owner.onFlattenBorder = [&] {
+        Owner.onFlattenBorder = nullptr;
+        Engine.SetMask(u"0");
+    };
+    Box.Press(Keys::Escape);
+    EXPECT_EQ(Box.Text(), u"3");
+    EXPECT_EQ(Engine.Text(), u"3");
 }
 
 } // namespace

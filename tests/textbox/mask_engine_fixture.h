@@ -37,7 +37,13 @@ public:
         if (onChange)
             onChange();
     }
-    void FlattenBorder() override { log.push_back("FlattenBorder"); }
+    void FlattenBorder() override
+    {
+        log.push_back("FlattenBorder");
+        // It may take itself away.
+        if (const auto handler = onFlattenBorder)
+            handler();
+    }
     void SizeToText() override { log.push_back("SizeToText"); }
     const Locale& GetLocale() const override { return *locale; }
 
@@ -46,6 +52,7 @@ public:
     std::function<void(i16&)> onKeyPress;
     std::function<void(i16&)> onKeyArrowMove;
     std::function<void()> onChange;
+    std::function<void()> onFlattenBorder;
     const Locale* locale = &BuiltinLocale();
 };
 

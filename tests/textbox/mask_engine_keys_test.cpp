@@ -199,6 +199,31 @@ TEST_F(MaskEngineKeysTest, EscapeShapesATextThatIsOlderThanTheMask)
     EXPECT_EQ(Engine.TextInput(), u"12");
 }
 
+TEST_F(MaskEngineKeysTest, EscapeKeepsLiteralsWhereTheyAreAfterTheMaskWasWrittenAgain)
+{
+    for (const bool includeLiteral : { false, true }) {
+        Engine.SetIncludeLiteral(includeLiteral);
+        Mask(u"(00)-00");
+        Engine.SetText(includeLiteral ? u"(12)-34" : u"1234");
+        Mask(u"(00)-00");
+        ASSERT_EQ(Box.Text(), u"(__)-__");
+        Box.Press(Keys::Escape);
+        EXPECT_EQ(Box.Text(), u"(12)-34");
+        EXPECT_EQ(Engine.TextInput(), u"1234");
+    }
+}
+
+TEST_F(MaskEngineKeysTest, EscapePutsLiteralsIntoATextThatWasNoForm)
+{
+    Mask(u"0-0");
+    Engine.SetText(u"12");
+    Engine.SetMask(u"");
+    Engine.SetText(u"34");
+    Mask(u"0-0");
+    Box.Press(Keys::Escape);
+    EXPECT_EQ(Box.Text(), u"3-4");
+}
+
 TEST_F(MaskEngineKeysTest, EscapeBringsTheFormBackAsTextOnceTheMaskIsOff)
 {
     Mask(u"0-0");

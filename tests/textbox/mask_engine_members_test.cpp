@@ -29,6 +29,35 @@ TEST_F(MaskEngineMembersTest, PromptAndReplacementTakeTheFirstCharacterAndIgnore
     Engine.SetReplaceChar(u"");
     EXPECT_EQ(Engine.PromptChar(), u"*");
     EXPECT_EQ(Engine.ReplaceChar(), u"?");
+    // A place holds one unit.
+    Engine.SetPromptChar(u"\U0001F600");
+    Engine.SetReplaceChar(u"\U0001F600");
+    EXPECT_EQ(Engine.PromptChar(), u"*");
+    EXPECT_EQ(Engine.ReplaceChar(), u"?");
+}
+
+TEST_F(MaskEngineMembersTest, InitializeMakesANewEngineOfIt)
+{
+    Engine.SetPromptChar(u"*");
+    Engine.SetReplaceChar(u"?");
+    Engine.SetIncludeLiteral(true);
+    Engine.SetMultiLine(true);
+    Mask(u"0-0");
+    Engine.SetText(u"1-2");
+    Box.Paste(u"3");
+    Forget();
+    Engine.Initialize();
+    EXPECT_THAT(Owner.log, testing::IsEmpty());
+    EXPECT_EQ(Box.Text(), u"");
+    EXPECT_EQ(Engine.Mask(), u"");
+    EXPECT_EQ(Engine.Form().PositionCount(), 0);
+    EXPECT_EQ(Engine.PromptChar(), u"_");
+    EXPECT_EQ(Engine.ReplaceChar(), u"\0"s);
+    EXPECT_FALSE(Engine.IncludeLiteral());
+    EXPECT_FALSE(Engine.MultiLine());
+    EXPECT_EQ(Engine.CommittedText(), u"");
+    Box.Press(Keys::Escape);
+    EXPECT_EQ(Box.Text(), u"");
 }
 
 TEST_F(MaskEngineMembersTest, AMaskShowsItsEmptyFormWithoutAChange)

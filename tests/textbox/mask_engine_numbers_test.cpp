@@ -149,6 +149,16 @@ TEST_F(MaskEngineNumbersTest, LetsEnterAndCtrlThrough)
     Engine.SetMultiLine(true);
     EXPECT_EQ(Box.Type(Keys::Enter), Keys::Enter);
     EXPECT_EQ(Box.Type(3, Shifts::Ctrl), 3);
+    i16 character = Keys::Backspace;
+    Engine.KeyPress(character, Shifts::Ctrl);
+    EXPECT_EQ(character, Keys::Backspace);
+}
+
+TEST_F(MaskEngineNumbersTest, TakesControlCharacters)
+{
+    EXPECT_EQ(Box.Type(9), 0);
+    EXPECT_EQ(Box.Type(Keys::Escape), 0);
+    EXPECT_EQ(Box.Text(), u"");
 }
 
 } // namespace

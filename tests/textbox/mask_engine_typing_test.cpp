@@ -293,6 +293,68 @@ TEST_F(MaskEngineTypingTest, WhatCtrlTypesIsNoCharacter)
     EXPECT_EQ(Box.Text(), u"@A");
 }
 
+TEST_F(MaskEngineTypingTest, ACtrlCombinationWithBackspaceIsTheBoxs)
+{
+    Mask(u"&&");
+    Engine.SetText(u"ab");
+    for (const char16_t code : { u'\b', u'\x7F' }) {
+        auto character = static_cast<i16>(code);
+        Engine.KeyPress(character, Shifts::Ctrl);
+        EXPECT_EQ(character, code);
+        character = static_cast<i16>(code);
+        Engine.KeyPress(character, Shifts::Alt);
+        EXPECT_EQ(character, code);
+    }
+    EXPECT_EQ(Engine.Text(), u"ab");
+}
+
+TEST_F(MaskEngineTypingTest, AControlCharacterIsTakenAndNotStored)
+{
+    Mask(u"&&");
+    for (const char16_t code : std::initializer_list<char16_t> { 1, 9, 10, 26, 27, 31, 127 }) {
+        for (const i16 shift : std::initializer_list<i16> { Shifts::None, Shifts::Shift, Shifts::Alt }) {
+            auto character = static_cast<i16>(code);
+            Engine.KeyPress(character, code == 127 ? i16 { Shifts::None } : shift);
+            EXPECT_EQ(character, 0) << static_cast<int>(code);
+        }
+        EXPECT_EQ(Box.Text(), u"__");
+        EXPECT_EQ(Engine.Text(), u"\0\0"s);
+    }
+    EXPECT_EQ(Count("Change"), 0);
+}
+
+TEST_F(MaskEngineTypingTest, WithoutAMaskAControlCharacterIsTheBoxs)
+{
+    for (const char16_t code : std::initializer_list<char16_t> { 9, 27 }) {
+        auto character = static_cast<i16>(code);
+        Engine.KeyPress(character, Shifts::None);
+        EXPECT_EQ(character, code);
+    }
+}
+
+TEST_F(MaskEngineTypingTest, ACharacterOfTwoUnitsFindsNoPlace)
+{
+    Mask(u"&C&");
+    for (const char16_t half : u"\U0001F600"s) {
+        EXPECT_EQ(Box.Type(half), 0);
+        EXPECT_EQ(Box.Text(), u"___");
+        EXPECT_EQ(Engine.Text(), u"\0\0\0"s);
+    }
+    EXPECT_EQ(Count("Change"), 0);
+    Box.Paste(u"\U0001F600x");
+    EXPECT_EQ(Box.Text(), u"__x");
+    EXPECT_EQ(Engine.Text(), u"\0\0x"s);
+    Engine.SetText(u"a\U0001F600");
+    EXPECT_EQ(Box.Text(), u"a__");
+}
+
+TEST_F(MaskEngineTypingTest, ACharacterOfTwoUnitsIsTheBoxsWithoutAMask)
+{
+    for (const char16_t half : u"\U0001F600"s)
+        EXPECT_EQ(Box.Type(half), static_cast<i16>(half));
+    EXPECT_EQ(Engine.Text(), u"\U0001F600");
+}
+
 TEST_F(MaskEngineTypingTest, WhatWasComposedComesWithoutKeys)
 {
     Mask(u">&0");

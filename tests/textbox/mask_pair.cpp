@@ -7,9 +7,11 @@ namespace vornix {
 namespace {
 
 constexpr std::u16string_view MaskCharacters = u"009L?Aa&C<>\\()- .x\u00E9";
-constexpr std::u16string_view TextCharacters = u"0123456789 abYZ-+._*()\u00E9\u00C9\uAC00";
+// The last one has two units, which come one after the other or alone.
+constexpr std::u16string_view TextCharacters = u"0123456789 abYZ-+._*()\u00E9\u00C9\uAC00\U0001F600";
+constexpr std::u16string_view TypedCharacters = u"0123456789 abYZ-+._*()\u00E9\u00C9\uAC00\t\U0001F600";
 // What a person cannot type at once: a line end.
-constexpr std::u16string_view ForeignCharacters = u"0123456789 abYZ-+._*()\u00E9\uAC00\b\t\r\n";
+constexpr std::u16string_view ForeignCharacters = u"0123456789 abYZ-+._*()\u00E9\uAC00\U0001F600\b\t\r\n";
 
 std::string Readable(std::u16string_view text)
 {
@@ -62,8 +64,9 @@ void MaskPair::Step()
     case 2:
         return WriteMaskOrText();
     case 3:
-    case 4:
         return ChangeFromOutside();
+    case 4:
+        return pick_(2) == 0 ? ChangeFromOutside() : EditByKey();
     case 5:
     case 6:
     case 7:
@@ -121,7 +124,7 @@ void MaskPair::WriteMaskOrText()
 void MaskPair::ChangeFromOutside()
 {
     const std::u16string text = RandomText(ForeignCharacters, 6);
-    switch (pick_(4)) {
+    switch (pick_(5)) {
     case 0:
         Tell("paste", text);
         box_.Paste(text);
@@ -130,7 +133,11 @@ void MaskPair::ChangeFromOutside()
         Tell("paste by key", text);
         box_.PasteByKey(text);
         break;
-    case 2: {
+    case 2:
+        Tell("paste by another key", text);
+        box_.PasteByInsert(text);
+        break;
+    case 3: {
         const int place = pick_(static_cast<int>(box_.Text().size()) + 1);
         Place(place, 0);
         Tell("drop", text);
@@ -139,16 +146,34 @@ void MaskPair::ChangeFromOutside()
     }
     default:
         Tell("selected text", text);
-        // Without a mask a box tells of every writing; the engine, of those that change the text.
-        if (box_.SelText() == text) {
-            engine_.SetSelText(text);
-            plain_.start += plain_.length;
-            plain_.length = 0;
-            return;
-        }
         engine_.SetSelText(text);
+        // Nothing in place of nothing is no change.
+        if (text.empty() && plain_.length == 0)
+            return;
     }
     plain_.Paste(text);
+}
+
+void MaskPair::EditByKey()
+{
+    switch (pick_(3)) {
+    case 0:
+        Tell("cut");
+        box_.CutByKey();
+        if (plain_.length > 0)
+            plain_.Paste(u"");
+        return;
+    case 1:
+        Tell("backspace a word");
+        box_.BackspaceWord(pick_(2) == 0 ? Keys::Backspace : 127);
+        return plain_.BackspaceWord();
+    default: {
+        const std::u16string text = RandomText(ForeignCharacters, 14);
+        Tell("undo", text);
+        box_.UndoByKey(text);
+        plain_.Undo(text);
+    }
+    }
 }
 
 void MaskPair::MoveOrSelect()
@@ -159,10 +184,11 @@ void MaskPair::MoveOrSelect()
         return Place(start, pick_(end - start + 1));
     Place(start, 0);
     const int key = Keys::Left + pick_(4);
-    Tell("arrow " + std::to_string(key));
-    plainArrows_ += plain_.Leaves(key);
-    // An arrow that stays in the text moves the caret: it is put back.
-    box_.Press(static_cast<i16>(key));
+    // With a shift key no arrow leaves the text. One that stays there moves the caret: it is put back.
+    const i16 shift = pick_(4) == 0 ? Shifts::Shift : Shifts::None;
+    Tell("arrow " + std::to_string(key) + " with " + std::to_string(shift));
+    plainArrows_ += shift == Shifts::None && plain_.Leaves(key);
+    box_.Press(static_cast<i16>(key), shift);
     box_.Select(start, 0);
 }
 
@@ -176,19 +202,22 @@ void MaskPair::Place(int start, int length)
 
 void MaskPair::TypeOrErase()
 {
+    const i16 shift = pick_(6) == 0 ? Shifts::Shift : Shifts::None;
     switch (pick_(8)) {
     case 0:
-        Tell("delete");
-        box_.Press(Keys::Delete);
+        Tell("delete with " + std::to_string(shift));
+        box_.Press(Keys::Delete, shift);
         return plain_.Delete();
     case 1:
-        Tell("backspace");
-        box_.Backspace();
+        Tell("backspace with " + std::to_string(shift));
+        box_.Backspace(shift);
         return plain_.Backspace();
     case 2:
-        Tell("escape");
-        box_.Type(Keys::Escape);
-        return plain_.Escape();
+        Tell("escape with " + std::to_string(shift));
+        box_.Type(Keys::Escape, shift);
+        if (shift == Shifts::None)
+            plain_.Escape();
+        return;
     case 3:
         if (pick_(4) != 0)
             break;
@@ -198,9 +227,10 @@ void MaskPair::TypeOrErase()
     default:
         break;
     }
-    const char16_t character = TextCharacters[static_cast<std::size_t>(pick_(static_cast<int>(TextCharacters.size())))];
+    const char16_t character
+        = TypedCharacters[static_cast<std::size_t>(pick_(static_cast<int>(TypedCharacters.size())))];
     Tell("type", std::u16string_view(&character, 1));
-    box_.Type(character);
+    box_.Type(character, shift);
     plain_.Type(character);
 }
 

@@ -47,6 +47,7 @@ private:
     void WriteSetting();
     void WriteMaskOrText();
     void ChangeFromOutside();
+    void EditByKey();
     void MoveOrSelect();
     void Place(int start, int length);
     void TypeOrErase();

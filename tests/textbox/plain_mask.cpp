@@ -58,9 +58,9 @@ void PlainMask::SetNumericOnly(bool numericOnly)
 void PlainMask::SetText(const std::u16string& text)
 {
     const int caret = start;
-    committed_ = IsForm() ? Shaped(text) : text;
+    committed_ = IsForm() ? Shaped(text, includeLiteral) : text;
     committedValues_ = values_;
-    isCommittedHere_ = IsForm();
+    isCommittedHere_ = isCommittedForm_ = IsForm();
     Put(committed_, caret);
 }
 
@@ -100,6 +100,9 @@ std::u16string PlainMask::TextInput() const
 
 void PlainMask::Type(char16_t character)
 {
+    // No box takes a control character in.
+    if (character < u' ')
+        return;
     if (IsForm())
         return TypeIntoForm(character);
     std::u16string candidate = text_;
@@ -174,7 +177,7 @@ void PlainMask::Escape()
     } else {
         values_.assign(values_.size(), 0);
         if (IsForm())
-            text = Shaped(text);
+            text = Shaped(text, includeLiteral || isCommittedForm_);
     }
     Put(text, caret);
 }
@@ -183,8 +186,29 @@ void PlainMask::Paste(const std::u16string& text)
 {
     text_.replace(Offset(start), Offset(length), text);
     const int caret = start + static_cast<int>(text.size());
-    Put(IsForm() ? Shaped(text_) : text_, caret);
+    Put(IsForm() ? Shaped(text_, includeLiteral) : text_, caret);
     Told();
+}
+
+void PlainMask::BackspaceWord()
+{
+    if (length == 0 && start == 0)
+        return;
+    if (length == 0) {
+        int first = start - 1;
+        while (first > 0 && text_[Offset(first)] != u' ')
+            --first;
+        length = start - first;
+        start = first;
+    }
+    Paste(u"");
+}
+
+void PlainMask::Undo(const std::u16string& text)
+{
+    start = 0;
+    length = static_cast<int>(text_.size());
+    Paste(text);
 }
 
 bool PlainMask::Leaves(int key) const
@@ -218,7 +242,7 @@ bool PlainMask::Fits(char16_t character, char16_t sign)
     case u'a':
         return isDigit || isLetter || character == 8;
     default:
-        return true;
+        return character < 0xD800 || character > 0xDFFF;
     }
 }
 
@@ -235,7 +259,7 @@ void PlainMask::Complete()
         text_ += blank_[text_.size()];
 }
 
-std::u16string PlainMask::Shaped(std::u16string text)
+std::u16string PlainMask::Shaped(std::u16string text, bool hasLiterals)
 {
     if (text.empty())
         return blank_;
@@ -244,7 +268,7 @@ std::u16string PlainMask::Shaped(std::u16string text)
     for (int place = 0; place < Count() && Offset(place) < text.size(); ++place) {
         const std::size_t at = Offset(place);
         if (IsLiteral(place)) {
-            text = text.substr(0, at) + blank_[at] + text.substr(at + (includeLiteral ? 1 : 0));
+            text = text.substr(0, at) + blank_[at] + text.substr(at + (hasLiterals ? 1 : 0));
             continue;
         }
         values_[at] = text[at];

@@ -1,5 +1,5 @@
 // The mask engine and its box as one slow, obvious thing: texts of equal length for the signs, cases and values of the
-// form. An empty place is erased by putting a blank in and letting the key remove a character.
+// form. A place is erased by putting a blank in and letting the key remove a character.
 #pragma once
 
 #include <string>
@@ -32,6 +32,10 @@ public:
     void Backspace();
     void Escape();
     void Paste(const std::u16string& text);
+    // The selection, or what follows the last blank in front of the caret, with the blank.
+    void BackspaceWord();
+    // Another text in place of the whole.
+    void Undo(const std::u16string& text);
     // Whether an arrow key, 37 to 40, leaves the text.
     bool Leaves(int key) const;
 
@@ -44,7 +48,7 @@ private:
 
     void Put(const std::u16string& text, int caret);
     void Complete();
-    std::u16string Shaped(std::u16string text);
+    std::u16string Shaped(std::u16string text, bool hasLiterals);
     void TypeIntoForm(char16_t character);
     void TypeIntoBox(const std::u16string& text);
     bool EraseSelection();
@@ -61,6 +65,7 @@ private:
     std::u16string text_;
     std::u16string committed_;
     std::u16string committedValues_;
+    bool isCommittedForm_ = false;
     bool isCommittedHere_ = false;
     std::u16string previous_;
     int changes_ = 0;

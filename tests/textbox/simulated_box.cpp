@@ -13,13 +13,42 @@ constexpr char16_t CtrlX = 24;
 
 } // namespace
 
+class SimulatedBox::EngineListener final : public EditBoxListener {
+public:
+    explicit EngineListener(MaskEngine& engine)
+        : engine_(engine)
+    {
+    }
+    void KeyDown(i16& KeyCode, i16& Shift) override { engine_.KeyDown(KeyCode, Shift); }
+    void KeyPress(i16& KeyAscii, i16 Shift) override { engine_.KeyPress(KeyAscii, Shift); }
+    void KeyUp(i16&, i16&) override { }
+    void TextChanged(ChangeOrigin origin) override { engine_.BoxChanged(origin); }
+    void MouseDown(i16, i16, float, float) override { }
+    void MouseMove(i16, i16, float, float) override { }
+    void MouseUp(i16, i16, float, float) override { }
+    void Click() override { }
+    void DblClick() override { }
+
+private:
+    MaskEngine& engine_;
+};
+
+SimulatedBox::SimulatedBox() = default;
+SimulatedBox::~SimulatedBox() = default;
+
+void SimulatedBox::Attach(MaskEngine& engine)
+{
+    engine_ = std::make_unique<EngineListener>(engine);
+    Listen(engine_.get());
+}
+
 void SimulatedBox::SetText(std::u16string_view text)
 {
     const bool isOther = text_ != text;
     text_ = text;
     Select(0, 0);
-    if (isOther && tellsWrites_ && engine_)
-        engine_->BoxChanged(ChangeOrigin::Key);
+    if (isOther && tellsWrites_ && listener_)
+        listener_->TextChanged(ChangeOrigin::Key);
 }
 
 void SimulatedBox::SetSelStart(int start)
@@ -36,8 +65,8 @@ void SimulatedBox::SetSelText(std::u16string_view text)
 {
     text_.replace(Offset(start_), Offset(length_), text);
     Select(start_ + static_cast<int>(text.size()), 0);
-    if (tellsWrites_ && engine_)
-        engine_->BoxChanged(ChangeOrigin::Key);
+    if (tellsWrites_ && listener_)
+        listener_->TextChanged(ChangeOrigin::Key);
 }
 
 void SimulatedBox::Select(int start, int length)
@@ -51,7 +80,8 @@ void SimulatedBox::Select(int start, int length)
 i16 SimulatedBox::Press(i16 key, i16 shift)
 {
     i16 left = key;
-    engine_->KeyDown(left, shift);
+    i16 held = shift;
+    listener_->KeyDown(left, held);
     if (left != 0)
         DoNatively(left, shift);
     return left;
@@ -65,9 +95,13 @@ i16 SimulatedBox::Type(char16_t character, i16 shift)
         key = static_cast<i16>(character - 32);
     else if (character >= u'!' && character <= u'/')
         key = 190;
-    engine_->KeyDown(key, shift);
+    i16 held = shift;
+    listener_->KeyDown(key, held);
+    // A key that was taken types nothing.
+    if (key == 0)
+        return 0;
     auto code = static_cast<i16>(character);
-    engine_->KeyPress(code, shift);
+    listener_->KeyPress(code, shift);
     if (code != 0)
         InsertNatively(static_cast<char16_t>(code));
     return code;
@@ -86,12 +120,15 @@ void SimulatedBox::Paste(std::u16string_view text)
 
 void SimulatedBox::PasteByKey(std::u16string_view text)
 {
-    i16 key = KeyV;
-    engine_->KeyDown(key, Shifts::Ctrl);
-    auto code = static_cast<i16>(CtrlV);
-    engine_->KeyPress(code, Shifts::Ctrl);
-    if (key != 0 && code != 0)
+    if (PressWithCtrl(KeyV, CtrlV))
         Paste(text);
+}
+
+void SimulatedBox::PasteByInsert(std::u16string_view text)
+{
+    // The box does not know a paste by this key from a key.
+    if (Press(Keys::Insert, Shifts::Shift) == Keys::Insert)
+        Replace(start_, length_, text, ChangeOrigin::Key);
 }
 
 void SimulatedBox::Drop(std::u16string_view text, int place)
@@ -102,12 +139,40 @@ void SimulatedBox::Drop(std::u16string_view text, int place)
 
 void SimulatedBox::CutByKey()
 {
-    i16 key = KeyX;
-    engine_->KeyDown(key, Shifts::Ctrl);
-    auto code = static_cast<i16>(CtrlX);
-    engine_->KeyPress(code, Shifts::Ctrl);
-    if (key != 0 && code != 0 && length_ > 0)
+    if (PressWithCtrl(KeyX, CtrlX) && length_ > 0)
         Paste({});
+}
+
+void SimulatedBox::UndoByKey(std::u16string_view text)
+{
+    if (Press(Keys::Backspace, Shifts::Alt) == Keys::Backspace)
+        Replace(0, static_cast<int>(text_.size()), text, ChangeOrigin::Key);
+}
+
+void SimulatedBox::BackspaceWord(char16_t code)
+{
+    if (!PressWithCtrl(Keys::Backspace, code))
+        return;
+    const std::u16string_view before = std::u16string_view(text_).substr(0, Offset(start_));
+    const std::size_t blank = before.find_last_of(u' ');
+    const int first = blank == std::u16string_view::npos ? 0 : static_cast<int>(blank);
+    if (length_ > 0)
+        Replace(start_, length_, {}, ChangeOrigin::Key);
+    else if (start_ > 0)
+        Replace(first, start_ - first, {}, ChangeOrigin::Key);
+}
+
+// Whether the key is left to the box.
+bool SimulatedBox::PressWithCtrl(int key, char16_t character)
+{
+    auto left = static_cast<i16>(key);
+    i16 shift = Shifts::Ctrl;
+    listener_->KeyDown(left, shift);
+    if (left == 0)
+        return false;
+    auto code = static_cast<i16>(character);
+    listener_->KeyPress(code, shift);
+    return code == static_cast<i16>(character);
 }
 
 bool SimulatedBox::IsLineEndAt(int place) const
@@ -119,7 +184,7 @@ void SimulatedBox::Replace(int start, int length, std::u16string_view text, Chan
 {
     text_.replace(Offset(start), Offset(length), text);
     Select(start + static_cast<int>(text.size()), 0);
-    engine_->BoxChanged(origin);
+    listener_->TextChanged(origin);
 }
 
 void SimulatedBox::DoNatively(i16 key, i16 shift)

@@ -1,19 +1,26 @@
-// A plain edit box, and the person before it: keys and characters go to the engine first, and what it lets through is
+// A plain edit box, and the person before it: keys and characters go to the listener first, and what it lets through is
 // done as the platform's box does it.
 #pragma once
 
 #include "automation/key_codes.h"
 #include "textbox/mask_engine.h"
 
+#include <memory>
+
 namespace vornix {
 
-class SimulatedBox : public EditBox {
+class SimulatedBox : public NativeEditBox {
 public:
     static constexpr i16 Home = 36;
     static constexpr i16 End = 35;
 
-    void Attach(MaskEngine& engine) { engine_ = &engine; }
-    // Whether SetText and SetSelText tell the engine too. Some boxes do.
+    SimulatedBox();
+    ~SimulatedBox() override;
+
+    // An engine without a text box around it.
+    void Attach(MaskEngine& engine);
+    void Listen(EditBoxListener* listener) override { listener_ = listener; }
+    // Whether SetText and SetSelText tell the listener too. Some boxes do.
     void SetTellsWrites(bool tells) { tellsWrites_ = tells; }
 
     std::u16string Text() const override { return text_; }
@@ -24,29 +31,46 @@ public:
     void SetSelLength(int length) override;
     std::u16string SelText() const override { return text_.substr(Offset(start_), Offset(length_)); }
     void SetSelText(std::u16string_view text) override;
+    void SetStyle(const EditBoxStyle&) override { }
+    void SetRightToLeft(bool) override { }
+    void SetPasswordChar(char16_t) override { }
+    void SetMaxLength(i32) override { }
+    void SetLocked(bool) override { }
+    void SetFont(const FontObject&) override { }
+    void SetColors(ColorRef, ColorRef) override { }
+    void SetBorder(bool) override { }
 
     void Select(int start, int length);
-    // Both return what the engine left of the key or character.
+    // Both return what the listener left of the key or character.
     i16 Press(i16 key, i16 shift = 0);
     i16 Type(char16_t character, i16 shift = 0);
     // Each character with its key.
     void TypeAll(std::u16string_view text);
-    void Backspace() { Type(8); }
-    // By the menu, by Ctrl+V, by the mouse.
+    void Backspace(i16 shift = 0) { Type(Keys::Backspace, shift); }
+    // The word in front of the caret, or the selection: by Ctrl+Backspace, which types 8 or 127.
+    void BackspaceWord(char16_t code);
+    // By the menu, by Ctrl+V, by Shift+Insert, by the mouse.
     void Paste(std::u16string_view text);
     void PasteByKey(std::u16string_view text);
+    void PasteByInsert(std::u16string_view text);
     void Drop(std::u16string_view text, int place);
     void CutByKey();
+    // Alt+Backspace brings another text back.
+    void UndoByKey(std::u16string_view text);
 
 private:
     static std::size_t Offset(int place) { return static_cast<std::size_t>(place); }
     bool IsLineEndAt(int place) const;
     void Replace(int start, int length, std::u16string_view text, ChangeOrigin origin);
+    bool PressWithCtrl(int key, char16_t character);
     void DoNatively(i16 key, i16 shift);
     void InsertNatively(char16_t character);
     void MoveTo(int place, bool extends);
 
-    MaskEngine* engine_ = nullptr;
+    class EngineListener;
+
+    std::unique_ptr<EngineListener> engine_;
+    EditBoxListener* listener_ = nullptr;
     bool tellsWrites_ = true;
     std::u16string text_;
     int start_ = 0;

@@ -11,6 +11,7 @@
 namespace vornix {
 
 class ScrollBar;
+class TextBox;
 class Vornix;
 
 // Calls a member with arguments that are complete and in its order, for a writing call with the value behind them. Those
@@ -29,8 +30,9 @@ template <typename Control> struct MemberCode {
     std::span<const DefaultValue> defaults;
 };
 
-// In the order of Members(), and of ScrollBarMembers().
+// In the order of Members(), of ScrollBarMembers(), and of TextBoxMembers().
 std::span<const MemberCode<Vornix>> MemberCodes();
 std::span<const MemberCode<ScrollBar>> ScrollBarCodes();
+std::span<const MemberCode<TextBox>> TextBoxCodes();
 
 } // namespace vornix

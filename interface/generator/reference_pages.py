@@ -146,12 +146,13 @@ def argument_table(interface: Interface, arguments: List[Argument]) -> List[str]
     return lines + [""]
 
 
-def notes(member: Member) -> List[str]:
+def notes(member: Member, event_pages: Dict[str, str]) -> List[str]:
     lines = []
     if member.errors:
         lines.append("Errors: " + ", ".join(f"{each} ({ERROR_WORDS[each]})" for each in member.errors) + ".")
     if member.raises:
-        lines.append("Raises: " + ", ".join(f"[{name}](events.md#{name.lower()})" for name in member.raises) + ".")
+        links = [f"[{name}]({event_pages[name]}.md#{name.lower()})" for name in member.raises]
+        lines.append(f"Raises: {', '.join(links)}.")
     if member.reports:
         lines.append(f'Written, it reports PropertyChanged for "{member.reports}".')
     if member.is_pending:
@@ -161,12 +162,14 @@ def notes(member: Member) -> List[str]:
     return [line for each in lines for line in (each, "")]
 
 
-def member_entry(interface: Interface, member: Member, variable: str) -> List[str]:
+def member_entry(
+    interface: Interface, member: Member, variable: str, event_pages: Dict[str, str]
+) -> List[str]:
     lines = [f"## {member.name}", "", f"{kind_words(interface, member)}. {member.sentence}", ""]
     lines += ["```cpp", *cpp_spellings(interface, member), "```", ""]
     lines += ["```python", *python_spellings(member, variable), "```", ""]
     lines += argument_table(interface, list(member.arguments))
-    lines += notes(member)
+    lines += notes(member, event_pages)
     if member.example.lines:
         lines += ["Example:", "", "```python", *member.example.lines, "```", ""]
     return lines
@@ -179,10 +182,15 @@ def event_entry(interface: Interface, event: Event) -> List[str]:
     return lines + (["**Not built yet**: it is never raised.", ""] if event.pending else [])
 
 
-def family_page(interface: Interface, family: Family, variable: str) -> str:
+def pages_of_events(control: ControlClass) -> Dict[str, str]:
+    """The page of each event of a control."""
+    return {event.name: family.name for family in control.families for event in family.events}
+
+
+def family_page(interface: Interface, control: ControlClass, family: Family) -> str:
     lines = [f"# {family.title}", "", family.sentence, ""]
     for member in family.members:
-        lines += member_entry(interface, member, variable)
+        lines += member_entry(interface, member, VARIABLES[control.name], pages_of_events(control))
     for event in family.events:
         lines += event_entry(interface, event)
     return "\n".join(lines).rstrip() + "\n"
@@ -208,7 +216,7 @@ def enum_page(interface: Interface) -> str:
 def emit(interface: Interface) -> Dict[str, str]:
     """The pages by their file names."""
     pages = {
-        f"{family.name}.md": family_page(interface, family, VARIABLES[each.name])
+        f"{family.name}.md": family_page(interface, each, family)
         for each in interface.classes
         for family in each.families
     }

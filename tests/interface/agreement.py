@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Fails where the C++ headers and the interface file say different things about the grid.
+"""Fails where the C++ headers and the interface file say different things about the controls.
 
-    agreement.py IFACE vornix.h events.h types.h
+    agreement.py IFACE vornix.h events.h types.h text_box.h scroll_bar.h
 
 Members are compared in both directions: names, arguments with their types, by-reference marks and
 defaults, results, and whether a reading member is const. So are the events in the order of their
@@ -12,28 +12,68 @@ import re
 import sys
 from dataclasses import dataclass
 from pathlib import Path
-from typing import Dict, Iterator, List, Optional, Tuple
+from typing import Dict, FrozenSet, Iterator, List, Optional, Tuple
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "interface" / "generator"))
 
 import cpp  # noqa: E402
 import iface  # noqa: E402
 
-# What the class has besides the members of the interface: for the container, late binding, itself.
-NOT_OF_THE_INTERFACE = frozenset(
-    """
-    Vornix ~Vornix operator= Enter
-    InitProperties ReadProperties Resize Show Hide Paint EnterFocus ExitFocus Terminate
-    IsTerminated IsInCall BackStore Repaints Refreshes ClearPaintCounters
-    Invoke
-    MouseDown MouseMove MouseUp Click DblClick KeyDown KeyPress KeyUp
-    ScrollBarNotify MouseWheel MoveScrollBar Tick
-    ChildMouseDown ChildMouseMove ChildMouseUp PaintChild EnterChildFocus
-    """.split()
+
+@dataclass(frozen=True)
+class Described:
+    """A control by its name in the interface, and by its classes in C++."""
+
+    name: str
+    owner: str
+    events: str
+    # What the class has besides the members: for the container, late binding, itself.
+    others: FrozenSet[str]
+    # Overloads beside the declaration that the interface describes.
+    overloads: FrozenSet[str] = frozenset()
+
+
+GRID = Described(
+    "Vornix",
+    "Vornix",
+    "VornixEvents",
+    frozenset(
+        """
+        Vornix ~Vornix operator= Enter
+        InitProperties ReadProperties Resize Show Hide Paint EnterFocus ExitFocus Terminate
+        IsTerminated IsInCall BackStore Repaints Refreshes ClearPaintCounters
+        Invoke
+        MouseDown MouseMove MouseUp Click DblClick KeyDown KeyPress KeyUp
+        ScrollBarNotify MouseWheel MoveScrollBar Tick
+        ChildMouseDown ChildMouseMove ChildMouseUp PaintChild EnterChildFocus
+        """.split()
+    ),
+    frozenset(["void SpanRows(i16 Col, bool&& bUseKey = false)"]),
 )
 
-# Overloads beside the declaration that the interface describes.
-OVERLOADS = frozenset(["void SpanRows(i16 Col, bool&& bUseKey = false)"])
+TEXT_BOX = Described(
+    "vxTextBox",
+    "TextBox",
+    "TextBoxEvents",
+    frozenset(
+        """
+        TextBox ~TextBox operator= Listener
+        InitProperties ReadProperties WriteProperties Show EnterFocus FollowAmbient
+        """.split()
+    ),
+)
+
+SCROLL_BAR = Described(
+    "vxScrollBar",
+    "ScrollBar",
+    "ScrollBarEvents",
+    frozenset(
+        """
+        ScrollBar ~ScrollBar operator=
+        InitProperties ReadProperties WriteProperties Show Hide IsShown Paint Notify
+        """.split()
+    ),
+)
 
 
 @dataclass(frozen=True)
@@ -182,20 +222,23 @@ def as_method(declared: Function, expected: Function, member: iface.Member) -> F
     return Function(expected.result, expected.name, expected.parameters, declared.is_const)
 
 
-def member_differences(interface: iface.Interface, header: str) -> Iterator[str]:
+def member_differences(
+    interface: iface.Interface, header: str, described: Described = GRID
+) -> Iterator[str]:
+    control = interface[described.name]
     declared: Dict[str, List[Function]] = {}
-    overloads = set(OVERLOADS)
-    for each in public_functions(header, "Vornix"):
+    overloads = set(described.overloads)
+    for each in public_functions(header, described.owner):
         if str(each) in overloads:
             overloads.remove(str(each))
-        elif each.name not in NOT_OF_THE_INTERFACE:
+        elif each.name not in described.others:
             declared.setdefault(each.name, []).append(each)
     yield from (f"not in the header: {each}" for each in sorted(overloads))
-    for member in interface.grid.members:
+    for member in control.members:
         for expected in member_functions(interface, member):
             yield from function_differences(declared.pop(expected.name, []), expected, member)
     for name, functions in declared.items():
-        state = "pending in" if name in pending_names(interface) else "not in"
+        state = "pending in" if name in pending_names(control) else "not in"
         yield from (f"{state} the interface: {each}" for each in functions)
 
 
@@ -212,15 +255,19 @@ def function_differences(
         yield f"an overload: {each}"
 
 
-def pending_names(interface: iface.Interface) -> List[str]:
-    reading = [member.name for member in interface.grid.members if member.pending_read]
-    return reading + [f"Set{each.name}" for each in interface.grid.members if each.pending_write]
+def pending_names(control: iface.ControlClass) -> List[str]:
+    reading = [member.name for member in control.members if member.pending_read]
+    return reading + [f"Set{each.name}" for each in control.members if each.pending_write]
 
 
-def event_differences(interface: iface.Interface, header: str) -> Iterator[str]:
-    declared = [each for each in public_functions(header, "VornixEvents") if each.name[0] != "~"]
-    expected = [event_function(interface, event) for event in interface.grid.events]
-    numbers = [event.number for event in interface.grid.events]
+def event_differences(
+    interface: iface.Interface, header: str, described: Described = GRID
+) -> Iterator[str]:
+    control = interface[described.name]
+    functions = public_functions(header, described.events)
+    declared = [each for each in functions if each.name[0] != "~"]
+    expected = [event_function(interface, event) for event in control.events]
+    numbers = [event.number for event in control.events]
     if numbers != list(range(1, len(numbers) + 1)):
         yield "the numbers of the events have gaps"
     for place in range(max(len(declared), len(expected))):
@@ -240,17 +287,24 @@ def enum_differences(interface: iface.Interface, header: str) -> Iterator[str]:
 
 def main(arguments: List[str]) -> int:
     interface = iface.read(Path(arguments[0]))
-    members, events, types = (Path(name).read_text(encoding="utf-8") for name in arguments[1:4])
-    found = [
-        *member_differences(interface, members),
-        *event_differences(interface, events),
-        *enum_differences(interface, types),
-    ]
+    vornix, events, types, text_box, scroll_bar = (
+        Path(name).read_text(encoding="utf-8") for name in arguments[1:6]
+    )
+    found = list(enum_differences(interface, types))
+    for described, members_header, events_header in (
+        (GRID, vornix, events),
+        (TEXT_BOX, text_box, text_box),
+        (SCROLL_BAR, scroll_bar, scroll_bar),
+    ):
+        found += member_differences(interface, members_header, described)
+        found += event_differences(interface, events_header, described)
     for difference in found:
         print(difference, file=sys.stderr)
     if found:
         return 1
-    print(f"{len(interface.grid.members)} members and {len(interface.grid.events)} events agree")
+    for control in interface.classes:
+        counts = f"{len(control.members)} members and {len(control.events)} events"
+        print(f"{control.name}: {counts} agree")
     return 0
 
 

@@ -17,6 +17,8 @@ INCLUDE = ROOT / "include" / "vornix"
 VORNIX = (INCLUDE / "vornix.h").read_text(encoding="utf-8")
 EVENTS = (INCLUDE / "events.h").read_text(encoding="utf-8")
 TYPES = (INCLUDE / "types.h").read_text(encoding="utf-8")
+TEXT_BOX = (INCLUDE / "text_box.h").read_text(encoding="utf-8")
+SCROLL_BAR = (INCLUDE / "scroll_bar.h").read_text(encoding="utf-8")
 
 
 def replaced(text: str, old: str, new: str) -> str:
@@ -61,7 +63,7 @@ class Members(unittest.TestCase):
         interface = interface_of(
             'class Vornix: S.\nfamily f "F" [pending]: S.\nproperty Rows() -> i16: S.\n'
         )
-        functions = ["i16 Rows() const", "void SetRows(i16 Value)", *agreement.OVERLOADS]
+        functions = ["i16 Rows() const", "void SetRows(i16 Value)", *agreement.GRID.overloads]
         header = f"class Vornix {{ public: {'; '.join(functions)}; }};"
         self.assertEqual(
             list(agreement.member_differences(interface, header)),
@@ -153,6 +155,36 @@ class EventsOfTheControl(unittest.TestCase):
         self.assertEqual(self.differences(last, "")[-1][-7:], "nothing")
         more = last + "    virtual void More() { }\n"
         self.assertIn("event 37", self.differences(last, more)[-1])
+
+
+class ControlsBesideTheGrid(unittest.TestCase):
+    def differences(self, described: agreement.Described, header: str) -> List[str]:
+        return [
+            *agreement.member_differences(INTERFACE, header, described),
+            *agreement.event_differences(INTERFACE, header, described),
+        ]
+
+    def test_agree_as_they_are(self) -> None:
+        self.assertEqual(self.differences(agreement.TEXT_BOX, TEXT_BOX), [])
+        self.assertEqual(self.differences(agreement.SCROLL_BAR, SCROLL_BAR), [])
+
+    def test_a_member_of_the_text_box_that_is_another(self) -> None:
+        header = replaced(TEXT_BOX, "void SetMaxWidth(i16 Value)", "void SetMaxWidth(i32 Value)")
+        self.assertEqual(
+            self.differences(agreement.TEXT_BOX, header),
+            ["the interface has void SetMaxWidth(i16 Value), the header void SetMaxWidth(i32 Value)"],
+        )
+
+    def test_one_that_is_pending(self) -> None:
+        header = replaced(TEXT_BOX, "    void Refresh();", "    void Refresh();\n    void OLEDrag();")
+        self.assertEqual(
+            self.differences(agreement.TEXT_BOX, header),
+            ["pending in the interface: void OLEDrag()"],
+        )
+
+    def test_an_event_that_is_missing(self) -> None:
+        header = replaced(TEXT_BOX, "    virtual void Resize() { }\n", "")
+        self.assertIn("event 16", self.differences(agreement.TEXT_BOX, header)[0])
 
 
 class EnumsOfTypes(unittest.TestCase):

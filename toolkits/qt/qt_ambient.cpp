@@ -1,6 +1,11 @@
 #include "qt_ambient.h"
 
+#include "automation/font_description.h"
+
+#include <QColor>
 #include <QFontInfo>
+
+#include <algorithm>
 
 namespace vornix {
 
@@ -70,6 +75,33 @@ FontPtr FontFrom(const QFont& font, int dotsPerInch)
     object->Underline = font.underline();
     object->Strikethrough = font.strikeOut();
     return object;
+}
+
+QFont QFontFrom(const FontObject& font)
+{
+    QFont made(ToQString(font.Name));
+    made.setPixelSize(std::max(-Described(font).height, 1));
+    made.setBold(font.Bold);
+    made.setItalic(font.Italic);
+    made.setUnderline(font.Underline);
+    made.setStrikeOut(font.Strikethrough);
+    // Characters stand where the grid puts them.
+    made.setHintingPreference(QFont::PreferNoHinting);
+    return made;
+}
+
+QColor QColorFrom(ColorRef color)
+{
+    return QColor(
+        static_cast<int>(color & 0xFF), static_cast<int>(color >> 8 & 0xFF), static_cast<int>(color >> 16 & 0xFF));
+}
+
+void UseColors(QPalette& palette, ColorRef foreColor, ColorRef backColor)
+{
+    for (const QPalette::ColorRole role : { QPalette::Text, QPalette::WindowText, QPalette::ButtonText })
+        palette.setColor(role, QColorFrom(foreColor));
+    for (const QPalette::ColorRole role : { QPalette::Base, QPalette::Window })
+        palette.setColor(role, QColorFrom(backColor));
 }
 
 bool SameFont(const FontObject& a, const FontObject& b)

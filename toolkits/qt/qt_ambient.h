@@ -4,6 +4,7 @@
 #include "vornix/platform/system_colors.h"
 #include "vornix/types.h"
 
+#include <QColor>
 #include <QFont>
 #include <QPalette>
 #include <QString>
@@ -16,6 +17,11 @@ namespace vornix {
 SystemColors SystemColorsFrom(const QPalette& palette);
 // The size in points of 1/72 inch at 96 pixels an inch, whatever the resolution that Qt reckons with.
 FontPtr FontFrom(const QFont& font, int dotsPerInch);
+// The other way round: as large as the grid draws it.
+QFont QFontFrom(const FontObject& font);
+QColor QColorFrom(ColorRef color);
+// Text and ground of a field, also while it is disabled.
+void UseColors(QPalette& palette, ColorRef foreColor, ColorRef backColor);
 bool SameFont(const FontObject& a, const FontObject& b);
 
 inline QString ToQString(std::u16string_view text)

@@ -30,6 +30,12 @@ QtChildWindow::QtChildWindow(QtSetting& setting, QPalette::ColorRole ground)
 {
 }
 
+QtChildWindow::QtChildWindow(QtSetting& setting, QtChildWindow& frame)
+    : QtChildWindow(setting)
+{
+    frame_ = &frame;
+}
+
 QtChildWindow::~QtChildWindow()
 {
     DropWidget();
@@ -77,7 +83,7 @@ QWidget* QtChildWindow::MakeWindow(QWidget& parent)
 QWidget& QtChildWindow::Window()
 {
     if (!window_) {
-        window_ = MakeWindow(setting_.widget);
+        window_ = MakeWindow(frame_ ? frame_->Window() : setting_.widget);
         window_->setVisible(false);
         window_->setEnabled(enabled_);
         if (!window_->testAttribute(Qt::WA_SetCursor))
@@ -91,7 +97,7 @@ void QtChildWindow::ApplyPlace()
 {
     if (!window_)
         return;
-    const QPoint client = setting_.widget.contentsRect().topLeft();
+    const QPoint client = frame_ ? QPoint(0, 0) : setting_.widget.contentsRect().topLeft();
     window_->setGeometry(place_.left + client.x(), place_.top + client.y(), place_.Width(), place_.Height());
 }
 
@@ -101,6 +107,20 @@ void QtChildWindow::Move(const Rect& place)
     ApplyPlace();
 }
 
+// Or would have it, were its window active.
+bool QtChildWindow::HasFocus() const
+{
+    const QWidget* const focus = setting_.widget.window()->focusWidget();
+    return focus && Owns(*focus);
+}
+
+// Qt would give it to the next widget of the form.
+void QtChildWindow::HandFocusBack()
+{
+    if (HasFocus())
+        setting_.widget.setFocus();
+}
+
 void QtChildWindow::Show(bool visible)
 {
     visible_ = visible;
@@ -108,14 +128,19 @@ void QtChildWindow::Show(bool visible)
         return;
     Window();
     ApplyPlace();
+    if (!visible)
+        HandFocusBack();
     Window().setVisible(visible);
 }
 
 void QtChildWindow::SetEnabled(bool enabled)
 {
     enabled_ = enabled;
-    if (window_)
-        window_->setEnabled(enabled);
+    if (!window_)
+        return;
+    if (!enabled)
+        HandFocusBack();
+    window_->setEnabled(enabled);
 }
 
 void QtChildWindow::Raise()
@@ -126,7 +151,7 @@ void QtChildWindow::Raise()
 
 bool QtChildWindow::SetFocus()
 {
-    if (!visible_ || !enabled_)
+    if (!visible_ || !enabled_ || (frame_ && !(frame_->visible_ && frame_->enabled_)))
         return false;
     Window().setFocus();
     return true;

@@ -12,10 +12,12 @@ class QEvent;
 
 namespace vornix {
 
-// A plain one. The pointer does not reach the control through it.
+// A plain one. The pointer does not reach the control through it. Where it has the focus when it goes, the control gets it.
 class QtChildWindow : public ChildWindow {
 public:
     explicit QtChildWindow(QtSetting& setting, QPalette::ColorRole ground = QPalette::Window);
+    // In a window that outlives it, and is there whenever this one is.
+    QtChildWindow(QtSetting& setting, QtChildWindow& frame);
     ~QtChildWindow() override;
     QtChildWindow(const QtChildWindow&) = delete;
     QtChildWindow& operator=(const QtChildWindow&) = delete;
@@ -48,15 +50,18 @@ protected:
     // Null until it was first used.
     QWidget* Widget() const { return window_; }
     QtSetting& Setting() const { return setting_; }
+    QWidget& Window();
 
 private:
     class Watch;
 
-    QWidget& Window();
+    bool HasFocus() const;
+    void HandFocusBack();
     void ApplyPlace();
 
     QtSetting& setting_;
     QPalette::ColorRole ground_;
+    QtChildWindow* frame_ = nullptr;
     std::unique_ptr<Watch> watch_;
     QPointer<QWidget> window_;
     Rect place_;

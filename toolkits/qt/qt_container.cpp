@@ -2,6 +2,10 @@
 
 #include "qt_ambient.h"
 #include "qt_canvas_window.h"
+#include "qt_combo_box.h"
+#include "qt_edit_box.h"
+#include "qt_editor_window.h"
+#include "qt_frame_window.h"
 #include "qt_scroll_bar.h"
 #ifdef VORNIX_WITH_ICU
 #include "vornix/icu_locale.h"
@@ -66,6 +70,9 @@ private:
     }
 };
 
+using TextWindow = QtEditorWindow<QtEditBox>;
+using ComboWindow = QtEditorWindow<QtComboBox>;
+
 Qt::CursorShape CursorOf(PointerShape shape)
 {
     switch (shape) {
@@ -83,6 +90,8 @@ Qt::CursorShape CursorOf(PointerShape shape)
 
 QtContainer::QtContainer(QFrame& widget)
     : setting_ { widget, {}, {}, 1.0 }
+    , focus_(setting_)
+    , hostWindows_(widget)
     , widget_(widget)
     , locale_(&BuiltinLocale())
     , settings_(std::make_unique<QtSettings>())
@@ -91,8 +100,15 @@ QtContainer::QtContainer(QFrame& widget)
     userLocale_ = MakeIcuLocale();
     locale_ = userLocale_.get();
 #endif
-    for (std::size_t child = 0; child < children_.size(); ++child)
-        children_[child] = MakeChild(static_cast<ChildName>(child));
+    // The frame before what is in it.
+    children_[static_cast<std::size_t>(ChildName::fraEdit)] = MakeChild(ChildName::fraEdit);
+    for (std::size_t child = 0; child < children_.size(); ++child) {
+        if (!children_[child])
+            children_[child] = MakeChild(static_cast<ChildName>(child));
+    }
+    const auto moveFocus = [this](bool forward) { return OnTab && OnTab(forward); };
+    ChildOf<TextWindow>(ChildName::txtTmp).TheBox().OnTab = moveFocus;
+    ChildOf<ComboWindow>(ChildName::cboTmp).TheBox().OnTab = moveFocus;
     Child(ChildName::picSplitCol).Move({ 0, 0, SplitHandleWidth, 0 });
     QObject::connect(
         &timer_, &QTimer::timeout, &timer_, [this] { setting_.grid.Tell([](Vornix& grid) { grid.Tick(); }); });
@@ -109,6 +125,7 @@ QtContainer::~QtContainer() = default;
 
 void QtContainer::DropChildWidgets()
 {
+    hostWindows_.LetGo();
     for (const auto& child : children_)
         child->DropWidget();
 }
@@ -125,9 +142,19 @@ std::unique_ptr<QtChildWindow> QtContainer::MakeChild(ChildName name)
         return std::make_unique<QtCanvasWindow>(setting_, name, QtCanvasWindow::Pointer::Through);
     case ChildName::cPivot:
         return std::make_unique<QtChildWindow>(setting_, QPalette::Button);
-    default:
-        return std::make_unique<QtChildWindow>(setting_);
+    case ChildName::fraEdit:
+        return std::make_unique<QtFrameWindow>(setting_);
+    case ChildName::txtTmp:
+        return std::make_unique<TextWindow>(setting_, ChildOf<QtFrameWindow>(ChildName::fraEdit));
+    case ChildName::cboTmp:
+        return std::make_unique<ComboWindow>(setting_, ChildOf<QtFrameWindow>(ChildName::fraEdit));
     }
+    return nullptr;
+}
+
+template <typename Window> Window& QtContainer::ChildOf(ChildName name) const
+{
+    return static_cast<Window&>(*children_[static_cast<std::size_t>(name)]);
 }
 
 bool QtContainer::ReadAmbient()
@@ -321,6 +348,34 @@ NativeScrollBar* QtContainer::ScrollBar(ChildName name)
     if (name != ChildName::scrV && name != ChildName::scrH)
         return nullptr;
     return static_cast<QtScrollBar*>(children_[static_cast<std::size_t>(name)].get());
+}
+
+NativeEditBox* QtContainer::TextEditor()
+{
+    return &ChildOf<TextWindow>(ChildName::txtTmp).TheBox();
+}
+
+NativeComboBox* QtContainer::ComboEditor()
+{
+    return &ChildOf<ComboWindow>(ChildName::cboTmp).TheBox();
+}
+
+bool QtContainer::ShowHostWindow(std::intptr_t window, const Rect& place)
+{
+    if (!hostWindows_.Show(window, place))
+        return false;
+    Child(ChildName::cPivot).Raise();
+    return true;
+}
+
+void QtContainer::HideHostWindow(std::intptr_t window)
+{
+    hostWindows_.Hide(window);
+}
+
+bool QtContainer::FocusHostWindow(std::intptr_t window)
+{
+    return hostWindows_.Focus(window);
 }
 
 std::u16string QtContainer::ClipboardText() const

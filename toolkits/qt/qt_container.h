@@ -2,6 +2,8 @@
 #pragma once
 
 #include "qt_child_window.h"
+#include "qt_focus_watch.h"
+#include "qt_host_windows.h"
 #include "qt_setting.h"
 #include "vornix/platform/container.h"
 #include "vornix/raster_surface.h"
@@ -25,6 +27,7 @@ public:
     // Before the parts of the widget go that hear of the pointer.
     void DropChildWidgets();
     QtSetting& Setting() { return setting_; }
+    QtFocusWatch& Focus() { return focus_; }
     // Whether Qt has told that the pointer is somewhere else.
     void SetPointerLeft(bool left) { pointerLeft_ = left; }
 
@@ -37,6 +40,8 @@ public:
     // Takes client area and resolution of the widget over; false when they are as before. The picture follows when the
     // control next asks for its back store.
     bool FitToWidget();
+    // Moves the focus on from an editor, past the control; false when it has nowhere to go.
+    std::function<bool(bool forward)> OnTab;
     // Called when part of the picture changed, in client coordinates.
     std::function<void(const QRect&)> OnPictureChanged;
 
@@ -59,6 +64,12 @@ public:
     void SetTimer(int interval, bool enabled) override;
     ChildWindow& Child(ChildName name) override;
     NativeScrollBar* ScrollBar(ChildName name) override;
+    NativeEditBox* TextEditor() override;
+    NativeComboBox* ComboEditor() override;
+    // A widget that QVornix::RegisterEditor gave the number for, or one with a native window, by its id.
+    bool ShowHostWindow(std::intptr_t window, const Rect& place) override;
+    void HideHostWindow(std::intptr_t window) override;
+    bool FocusHostWindow(std::intptr_t window) override;
     void PropertyChanged(std::string_view) override { }
     SettingsStore& Settings() override { return *settings_; }
     std::u16string ClipboardText() const override;
@@ -67,10 +78,13 @@ public:
 
 private:
     std::unique_ptr<QtChildWindow> MakeChild(ChildName name);
+    template <typename Window> Window& ChildOf(ChildName name) const;
     std::unique_ptr<RasterSurface> MakeSurface(Size size) const;
     void UseSurface(std::unique_ptr<RasterSurface> surface);
 
     QtSetting setting_;
+    QtFocusWatch focus_;
+    QtHostWindows hostWindows_;
     QFrame& widget_;
     FontPtr font_;
     std::unique_ptr<Locale> userLocale_;

@@ -1,29 +1,23 @@
 // What the window of a control and the windows on it have in common.
 #pragma once
 
+#include "qt_host_call.h"
 #include "vornix/platform/system_colors.h"
 #include "vornix/vornix.h"
 
 #include <QFrame>
-#include <QtGlobal>
 
 namespace vornix {
 
-// News from Qt on their way to the control. One that is closed, or not yet made, hears nothing; above Qt nobody could
-// take an error.
+// News from Qt on their way to the control. One that is closed, or not yet made, hears nothing.
 class GridLink {
 public:
     void Attach(Vornix* grid) { grid_ = grid; }
 
     template <typename Step> void Tell(const Step& step) const
     {
-        if (!grid_ || grid_->IsTerminated())
-            return;
-        try {
-            step(*grid_);
-        } catch (const AutomationError& error) {
-            qWarning("QVornix: error %d, %s", error.Number(), error.what());
-        }
+        if (grid_ && !grid_->IsTerminated())
+            CallFromQt([&] { step(*grid_); });
     }
 
 private:

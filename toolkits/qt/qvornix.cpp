@@ -3,6 +3,7 @@
 #include "picture_painter.h"
 #include "qt_accessible_news.h"
 #include "qt_container.h"
+#include "qt_host_windows.h"
 #include "qt_keyboard.h"
 #include "qt_pointer.h"
 #include "qt_wheel.h"
@@ -68,6 +69,7 @@ QVornix::QVornix(VornixEvents& events, QWidget* parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     // Every pixel of the client area comes from the grid's picture, and the frame is filled before it is drawn.
     setAttribute(Qt::WA_OpaquePaintEvent);
+    container_->OnTab = [this](bool forward) { return MoveFocusOn(forward); };
     container_->OnPictureChanged = [this](const QRect& area) { UpdatePart(area); };
     grid_->ReadProperties(EmptyBag());
 }
@@ -75,6 +77,7 @@ QVornix::QVornix(VornixEvents& events, QWidget* parent)
 QVornix::~QVornix()
 {
     Q_ASSERT_X(!grid_->IsInCall(), "QVornix", "deleted inside one of its own events; use deleteLater()");
+    container_->OnTab = nullptr;
     container_->OnPictureChanged = nullptr;
     grid_->Terminate();
     container_->Attach(nullptr);
@@ -99,6 +102,11 @@ Device& QVornix::MeasuringDevice()
 const SystemColors& QVornix::Colors() const
 {
     return container_->Colors();
+}
+
+i32 QVornix::RegisterEditor(QWidget* editor)
+{
+    return editor ? NumberOfHostWindow(*editor) : 0;
 }
 
 QSize QVornix::sizeHint() const
@@ -132,7 +140,7 @@ void QVornix::UpdatePart(const QRect& area)
 
 bool QVornix::event(QEvent* event)
 {
-    if (event->type() == QEvent::KeyPress && MovesFocus(static_cast<QKeyEvent&>(*event))) {
+    if (event->type() == QEvent::KeyPress && MovesFocus(static_cast<QKeyEvent&>(*event)) && !IsKeyOfChild()) {
         PressTab(static_cast<QKeyEvent&>(*event));
         return true;
     }
@@ -211,17 +219,16 @@ void QVornix::changeEvent(QEvent* event)
 
 void QVornix::focusInEvent(QFocusEvent*)
 {
-    TellGrid([](Vornix& grid) { grid.EnterFocus(); });
+    container_->Focus().Look();
     // It is the corner that has the focus for the grid.
     TellGrid([](Vornix& grid) { grid.EnterChildFocus(ChildName::cPivot); });
 }
 
 void QVornix::focusOutEvent(QFocusEvent* event)
 {
-    // A menu, or a child window of the grid, takes the focus for a while; the grid keeps it.
-    const bool stays = event->reason() == Qt::PopupFocusReason || isAncestorOf(QApplication::focusWidget());
-    if (!stays)
-        TellGrid([](Vornix& grid) { grid.ExitFocus(); });
+    // A menu takes it for a while.
+    if (event->reason() != Qt::PopupFocusReason)
+        container_->Focus().Look();
 }
 
 void QVornix::enterEvent(QEnterEvent* event)
@@ -263,14 +270,39 @@ void QVornix::wheelEvent(QWheelEvent* event)
     wheel_->Turn(*event);
 }
 
+// What a window on the grid has no use for is the form's.
+bool QVornix::IsKeyOfChild() const
+{
+    const QWidget* const focus = QApplication::focusWidget();
+    return focus && focus != this && isAncestorOf(focus);
+}
+
 void QVornix::keyPressEvent(QKeyEvent* event)
 {
+    if (IsKeyOfChild())
+        return event->ignore();
     keyboard_->Press(*event);
 }
 
 void QVornix::keyReleaseEvent(QKeyEvent* event)
 {
+    if (IsKeyOfChild())
+        return event->ignore();
     keyboard_->Release(*event);
+}
+
+// The window on the grid with the focus stands in the form where the grid does.
+bool QVornix::MoveFocusOn(bool forward)
+{
+    QWidget* const child = window()->focusWidget();
+    if (!child || !isAncestorOf(child))
+        return false;
+    setTabOrder(this, child);
+    const Qt::FocusPolicy policy = focusPolicy();
+    setFocusPolicy(Qt::NoFocus);
+    const bool isMoved = focusNextPrevChild(forward) && window()->focusWidget() != child;
+    setFocusPolicy(policy);
+    return isMoved;
 }
 
 // Qt would move the focus before anybody hears of the key.

@@ -52,6 +52,18 @@ public:
     // The system colours that the grid sees, from the palette of the widget.
     const SystemColors& Colors() const;
 
+    // A number for CustomhWnd: the widget edits cells of the mode vxCustom. Valid until the widget is destroyed, and the
+    // same each time. The widget's winId() serves as well, but makes a native window of it.
+    //
+    //     void BeforeCustom(i16, i16, i32&, i32&, i32&, i32&) override
+    //     {
+    //         table.Grid().SetCustomhWnd(QVornix::RegisterEditor(&calendar));
+    //     }
+    //
+    // Shown over a cell, the widget becomes a child of the grid's; the host still owns it. When the grid's widget goes,
+    // it is without a parent if it had none before; otherwise it comes back to its parent.
+    static i32 RegisterEditor(QWidget* editor);
+
     QSize sizeHint() const override;
 
 protected:
@@ -76,6 +88,8 @@ protected:
 private:
     template <typename Step> void TellGrid(const Step& step);
     void PressTab(QKeyEvent& event);
+    bool IsKeyOfChild() const;
+    bool MoveFocusOn(bool forward);
     void FollowWidget();
     QRect Client() const;
     void UpdatePart(const QRect& area);

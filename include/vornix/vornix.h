@@ -618,6 +618,62 @@ public:
     // Whether the pair is exactly the current cell; a cell inside its span is not. Error 6 for an index beyond 16 bits.
     bool IsCurrent(i16 Row, i16 Col) const;
 
+    // -- Editing in place --
+    // A cell of mode vxTextBox, vxComboDropDownBox, vxComboListBox or vxCustom is edited by a window over it. What is typed
+    // goes into the cell at once: closing the editor only hides it, and nothing is taken back.
+
+    // Opens the editor of the current cell: BeforeEdit, which refuses by calling ExitEdit, and BeforeCustom. A disabled
+    // cell has none. A cell that is not edited comes into view, and the control takes the focus.
+    void EnterEdit();
+    // Hides the editor without an event. Nothing without a current cell.
+    void ExitEdit();
+    bool IsEditMode() const;
+    // Of the text in the editor, in UTF-16 units; without one they are kept for the next editor that opens. Negative ones
+    // are error 5.
+    i32 SelStart() const;
+    void SetSelStart(i32 Value);
+    i32 SelLength() const;
+    void SetSelLength(i32 Value);
+    // Writing takes the place of the selection and raises TextChange; nothing without an editor.
+    std::u16string SelText() const;
+    void SetSelText(std::u16string_view Value);
+    // The window that edits a vxCustom cell, by the number that the toolkit knows it under; to be written in BeforeCustom,
+    // which says where it goes.
+    void SetCustomhWnd(std::intptr_t Value);
+    // Of the text editor: whether it grows with its text, within the client area. False closes the editor and raises
+    // AfterEdit.
+    bool TBoxAutoResize() const;
+    void SetTBoxAutoResize(bool Value);
+    // Whether cells carry the literals of the column's mask.
+    bool TBoxIncludeLiteral() const;
+    void SetTBoxIncludeLiteral(bool Value);
+    // What empty places of the mask show ("_"), and what they are in the cell's text (NUL). The first character counts; ""
+    // leaves the one before in force.
+    std::u16string TBoxPromptChar() const;
+    void SetTBoxPromptChar(std::u16string_view Value);
+    std::u16string TBoxReplaceChar() const;
+    void SetTBoxReplaceChar(std::u16string_view Value);
+
+    // The list of the combo editor: one for the whole grid, to be filled in BeforeEdit or before. Rows count from 0; those
+    // outside the list are error 9.
+    //
+    // At the end without an index.
+    void ComboAddItem(std::u16string_view Item, i16 index = -32767);
+    void ComboRemoveItem(i16 index);
+    void ComboClear();
+    // A number kept with a row; it becomes the key of the cell when the row is chosen.
+    i32 ComboItemData(i16 index) const;
+    void SetComboItemData(i16 index, i32 Value);
+    std::u16string ComboList(i16 index) const;
+    void SetComboList(i16 index, std::u16string_view Value);
+    // Error 6 for more than 32767 rows, as ComboListIndex for a row behind them.
+    i16 ComboListCount() const;
+    // -1 for none. Writing it while the combo shows counts as a click in the list and raises TextChange.
+    i16 ComboListIndex() const;
+    void SetComboListIndex(i16 Value);
+    // The row that was added last; -1 when it is gone.
+    i16 ComboNewIndex() const;
+
     // -- Virtual mode, as far as it is read --
 
     // Rows of the page, 0 without virtual mode; place of the page in the list.

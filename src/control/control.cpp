@@ -25,6 +25,10 @@ Control::Control(Container& windowContainer, VornixEvents& host)
     , hidden(store)
     , spans(store)
     , selection(store, current)
+    , editor({ store, layout, gate, current, mover, selection, scrolling, funnel, sizing, mouse, keyboard, recordSource,
+          container, events })
+    , textRelay(*this)
+    , comboRelay(*this)
     , interaction(current, editor, selection, pressed)
     , paint({ store, layout, scroll, gate, interaction, container, events })
     , funnel({ store, layout, paint, gate, editor, scrolling, container })
@@ -112,6 +116,7 @@ void Control::Close()
     // The steps still running put the value of Redraw back into the gate: it must not open again.
     gate.SetRedraw(false);
     gate.Close();
+    IgnoringFailures([this] { editor.Dispose(); });
     // Stops a paint that is going on.
     IgnoringFailures([this] { paint.Release(); });
     if (depth_ == 0)
@@ -132,6 +137,7 @@ void Control::Release() noexcept
     IgnoringFailures([this] { container.SetTimer(0, false); });
     IgnoringFailures([this] { FreeTable(); });
     HookBars(false);
+    HookEditors(false);
 }
 
 void Control::FreeTable()

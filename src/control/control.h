@@ -3,12 +3,14 @@
 
 #include "control/broadcast.h"
 #include "control/collaborators.h"
+#include "control/editor_relay.h"
 #include "control/event_relay.h"
 #include "control/grid_interaction.h"
 #include "control/repaint_funnel.h"
 #include "interact/check_toggle.h"
 #include "interact/current_cell.h"
 #include "interact/current_cell_mover.h"
+#include "interact/edit_session.h"
 #include "interact/grid_selection.h"
 #include "interact/keyboard.h"
 #include "interact/mouse.h"
@@ -58,9 +60,11 @@ public:
     GridSelection selection;
     ShellSettings settings;
 
-    EditSessionControl editor;
     VirtualModeControl virtualMode;
     RecordSourceControl recordSource;
+    EditSession editor;
+    TextEditorRelay textRelay;
+    ComboEditorRelay comboRelay;
 
     PressedCell pressed;
     GridInteraction interaction;
@@ -124,6 +128,8 @@ public:
     // Closes the gate and has the host fill the page. False when the host closed the control meanwhile.
     bool PopulatePage();
     void HookBars(bool hooked);
+    // Whether the boxes of the editors tell what the user does in them.
+    void HookEditors(bool hooked);
 
     void ReadSettings(const PropertyBag& bag);
     void Load();
@@ -148,23 +154,27 @@ private:
     int depth_ = 0;
 };
 
-// One call into the control; every public member makes one.
-class Vornix::Call {
+// One call into the control; every public member makes one, and so does what the user does in an editor.
+class ControlCall {
 public:
-    explicit Call(Control& control)
+    explicit ControlCall(Control& control)
         : control_(control)
     {
         control_.BeginCall();
     }
-    ~Call() { control_.EndCall(); }
-    Call(const Call&) = delete;
-    Call& operator=(const Call&) = delete;
+    ~ControlCall() { control_.EndCall(); }
+    ControlCall(const ControlCall&) = delete;
+    ControlCall& operator=(const ControlCall&) = delete;
 
     Control* operator->() const { return &control_; }
     Control& operator*() const { return control_; }
 
 private:
     Control& control_;
+};
+
+class Vornix::Call : public ControlCall {
+    using ControlCall::ControlCall;
 };
 
 template <typename Field, typename Value>

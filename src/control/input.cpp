@@ -43,7 +43,10 @@ void Vornix::DblClick()
 
 void Vornix::Tick()
 {
-    Enter()->mouse.Tick();
+    const auto control = Enter();
+    control->editor.TimerTicked();
+    if (control->HearsUser())
+        control->mouse.Tick();
 }
 
 void Vornix::ChildMouseDown(ChildName Child, i16 Button, float x, float /*y*/)
@@ -53,11 +56,18 @@ void Vornix::ChildMouseDown(ChildName Child, i16 Button, float x, float /*y*/)
         control->split.Press(Button, PixelAt(x));
 }
 
-void Vornix::ChildMouseMove(ChildName Child, i16 /*Button*/, i16 /*Shift*/, float x, float /*y*/)
+void Vornix::ChildMouseMove(ChildName Child, i16 Button, i16 Shift, float x, float y)
 {
     const auto control = Enter();
-    if (control->HearsUser() && Child == ChildName::picSplitCol)
+    if (!control->HearsUser())
+        return;
+    if (Child == ChildName::picSplitCol) {
         control->split.Move(PixelAt(x));
+    } else if (Child == ChildName::fraEdit) {
+        const Rect frame = control->container.Child(Child).Place();
+        control->editor.PointerMoved(
+            Button, Shift, x + static_cast<float>(frame.left), y + static_cast<float>(frame.top));
+    }
 }
 
 void Vornix::ChildMouseUp(ChildName Child, i16 Button, float x, float /*y*/)
@@ -74,14 +84,16 @@ void Vornix::PaintChild(ChildName Child)
         control->funnel.PaintSplitBar();
 }
 
-// The corner between the bars hands the focus on.
+// The corner between the bars and the frame of the editor hand the focus on.
 void Vornix::EnterChildFocus(ChildName Child)
 {
     const auto control = Enter();
+    if (Child == ChildName::fraEdit)
+        return control->editor.TakeFocusShown();
     if (Child != ChildName::cPivot || control->mouse.IsArmed())
         return;
     if (control->editor.IsEditorOpen())
-        control->editor.TakeFocus();
+        control->editor.TakeFocusShown();
     else if (control->mover.HasCurrent() && !control->layout.IsBeforeView(control->mover.Current()))
         control->mover.Repaint();
 }

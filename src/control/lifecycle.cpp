@@ -48,6 +48,7 @@ void Control::BuildTable()
     ApplyAdjustLast();
     store.InitGridStore(container.Colors());
     layout.ResetFor(store);
+    editor.Reset();
     current.Clear();
     selection.Reset();
     mouse.Reset();
@@ -73,6 +74,14 @@ void Control::HookBars(bool hooked)
     scrolling.SetHooked(hooked);
 }
 
+void Control::HookEditors(bool hooked)
+{
+    if (NativeEditBox* const box = container.TextEditor())
+        box->Listen(hooked ? &textRelay : nullptr);
+    if (NativeComboBox* const box = container.ComboEditor())
+        box->Listen(hooked ? &comboRelay : nullptr);
+}
+
 bool Control::PopulatePage()
 {
     RedrawGate::Closed closed(gate);
@@ -87,6 +96,7 @@ void Control::Load()
     if (!IsRunMode())
         return;
     HookBars(true);
+    HookEditors(true);
     if (layout.Settings.ScrollHBar == vxScrollSmooth)
         scrolling.HorizontalBar().SetSmoothScroll(true);
     gate.RestoreFromRedraw();
@@ -266,6 +276,7 @@ void Vornix::RefreshCell(i16 Row, i16 Col)
     const auto control = Enter();
     const auto [row, col] = control->Internal(Row, Col);
     control->funnel.RefreshOneCell(row, col);
+    control->editor.Reload({ row, col });
 }
 
 Hdc Vornix::hDC() const

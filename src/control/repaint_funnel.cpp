@@ -1,29 +1,15 @@
 #include "control/repaint_funnel.h"
 
+#include "automation/scoped_flag.h"
+
 namespace vornix {
-
-// True for a scope.
-class RepaintFunnel::Flag {
-public:
-    explicit Flag(bool& flag)
-        : flag_(flag)
-    {
-        flag_ = true;
-    }
-    ~Flag() { flag_ = false; }
-    Flag(const Flag&) = delete;
-    Flag& operator=(const Flag&) = delete;
-
-private:
-    bool& flag_;
-};
 
 template <typename Step> void RepaintFunnel::Paint(const Step& step)
 {
     if (!ready_ || painting_)
         return;
     {
-        Flag painting(painting_);
+        const ScopedFlag painting(painting_);
         step();
     }
     if (sizeChangePending_ && !followingSize_ && ready_)
@@ -115,7 +101,7 @@ void RepaintFunnel::ClientSizeChanged()
 
 void RepaintFunnel::FollowClientSize()
 {
-    Flag following(followingSize_);
+    const ScopedFlag following(followingSize_);
     sizeChangePending_ = false;
     const Size client = context_.container.ClientSize();
     context_.layout.SetScaleSize(client);

@@ -56,7 +56,6 @@ public:
     void PaintSplitBar();
 
 private:
-    class Flag;
     template <typename Step> void Paint(const Step& step);
     void FollowClientSize();
 

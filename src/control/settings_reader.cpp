@@ -22,6 +22,11 @@ public:
     bool ToTruth() const { return value_.ToBool(locale_); }
     OleColor ToColor() const { return value_.ToColor(locale_); }
     std::u16string ToText() const { return value_.ToText(locale_); }
+    std::u16string ToTextOr(const std::u16string& absent) const
+    {
+        const std::u16string text = ToText();
+        return text.empty() ? absent : text;
+    }
     PicturePtr ToPicture() const { return value_.ToPicture(); }
 
     i16 ToCount() const
@@ -144,6 +149,18 @@ const std::array settingsInOrder {
         "ScrollBarSize", 17, [](Control& c, const SettingValue& v) { c.layout.Settings.ScrollBarSize = v.ToShort(); } },
     Setting { "AdjustLast", vxBoth, [](Control& c, const SettingValue& v) { c.settings.AdjustLast = v.ToInteger(); } },
     Setting { "Opacity", 100, [](Control& c, const SettingValue& v) { c.paint.Settings.Opacity = v.ToShort(); } },
+    Setting { "TBoxAutoResize", false,
+        [](Control& c, const SettingValue& v) { c.editor.Settings.TBoxAutoResize = v.ToTruth(); } },
+    Setting { "TBoxIncludeLiteral", false,
+        [](Control& c, const SettingValue& v) { c.editor.Settings.TBoxIncludeLiteral = v.ToTruth(); } },
+    Setting { "TBoxPromptChar", std::u16string(),
+        [](Control& c, const SettingValue& v) {
+            c.editor.Settings.TBoxPromptChar = v.ToTextOr(c.editor.Text().Box().PromptChar());
+        } },
+    Setting { "TBoxReplaceChar", std::u16string(),
+        [](Control& c, const SettingValue& v) {
+            c.editor.Settings.TBoxReplaceChar = v.ToTextOr(c.editor.Text().Box().ReplaceChar());
+        } },
 };
 
 } // namespace
@@ -152,6 +169,7 @@ void Control::ReadSettings(const PropertyBag& bag)
 {
     for (const Setting& setting : settingsInOrder)
         setting.store(*this, { bag.ReadProperty(setting.name).value_or(setting.fallback), container.GetLocale() });
+    editor.ApplySettings();
 }
 
 } // namespace vornix

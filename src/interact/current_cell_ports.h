@@ -10,16 +10,16 @@ public:
     virtual bool IsEditorOpenOn(CellIndex cell) const = 0;
     // CloseEditor, and the cell is painted.
     virtual void CloseEditorAndRepaint() = 0;
-    // Opens over a cell that is edited in place and enabled, and brings it into view. False when there is no editor to
-    // open, and nothing was done. Raises BeforeEdit.
-    virtual bool OpenEditor(int row, int col) = 0;
+    // Brings a cell that is edited in place and enabled into view and opens its editor, unless the host refuses. Raises
+    // BeforeEdit, and BeforeCustom. Nothing opens in a control that was closed.
+    virtual void OpenEditor(int row, int col) = 0;
     // Opens on the current cell or brings it into view, as a host asks for it.
     virtual void EnterEdit() = 0;
-    // Where the caret stands in the editor's text.
+    // Where the caret stands in the text of an editor that shows one; it is not kept for a later one.
     virtual void SetSelStart(int place) = 0;
-    // Hides frame and window without an event; a session that was about to begin anew does not.
+    // Hides frame and windows without an event. No editor is open any more, while the cell is remembered.
     virtual void HideEditor() = 0;
-    // No cell is edited.
+    // No cell is edited. A session that is about to open does not.
     virtual void ForgetEditCell() = 0;
 };
 

@@ -228,16 +228,15 @@ void Keyboard::Arrive(int key)
 
 void Keyboard::OpenEditor(int key)
 {
-    if (!context_.editor.OpenEditor(context_.current.Row(), context_.current.Col()))
-        return context_.mover.Show();
-    if (!context_.mover.HasCurrent())
+    const CellIndex cell = context_.mover.Current();
+    context_.editor.OpenEditor(cell.row, cell.col);
+    if (!context_.editor.IsEditorOpenOn(cell) || !context_.mover.IsReal(cell))
         return;
     // The caret goes on in the direction of the key, and so stands at the far end.
-    const auto [row, col] = context_.mover.Current();
     if (key == Keys::Left)
         context_.editor.SetSelStart(0);
     else if (key == Keys::Right)
-        context_.editor.SetSelStart(static_cast<int>(context_.store.CellAt(row, col).Text().size()));
+        context_.editor.SetSelStart(static_cast<int>(context_.store.CellAt(cell.row, cell.col).Text().size()));
 }
 
 // -- The other keys --

@@ -34,12 +34,11 @@ public:
         isOpen = false;
         Note("CloseEditorAndRepaint");
     }
-    bool OpenEditor(int row, int col) override
+    void OpenEditor(int row, int col) override
     {
         isOpen = true;
         openedOn = { row, col };
         Note("OpenEditor" + At(row, col));
-        return true;
     }
     void EnterEdit() override { Note("EnterEdit"); }
     void SetSelStart(int place) override { Note("SetSelStart " + std::to_string(place)); }

@@ -104,8 +104,10 @@ TEST_F(KeyboardAndEditor, AnEditorThatTakesTheCellAwayEndsTheMove)
 TEST_F(KeyboardAndEditor, AnOpeningThatTakesTheCellAwaySetsNoCaret)
 {
     editor.then = [&](const std::string& call) {
-        if (call == "OpenEditor 2 3")
+        if (call == "OpenEditor 2 3") {
             control.current.Clear();
+            editor.isOpen = false;
+        }
     };
     EXPECT_EQ(Press(Keys::Right), (Calls { "CellChange 1 2", "OpenEditor 2 3" }));
 }

@@ -179,9 +179,7 @@ TEST_F(PointerWatch, OverTheListOfAComboTheTickMovesOn)
     ShowChild(ChildName::fraEdit, { 100, 100, 400, 300 });
     ShowChild(ChildName::cboTmp, { 0, 0, 300, 200 });
     host->ClickAt(110, 110);
-    EXPECT_EQ(SaidNames(), Lines {});
-    host->Tick();
-    EXPECT_EQ(SaidNames(), (Lines { "MouseMove", "CellOver" }));
+    EXPECT_EQ(SaidNames(), (Lines { "MouseMove", "CellOver" })) << "the box tells of moves itself";
     host->Tick();
     EXPECT_EQ(Said(), (Lines { "MouseMove Button=0 Shift=0 x=110 y=110" }));
     EXPECT_TRUE(host->IsTimerEnabled());

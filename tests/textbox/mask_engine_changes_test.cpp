@@ -124,9 +124,9 @@ TEST_F(MaskEngineChangesTest, ErasingAWordIsForeign)
         Engine.SetText(u"1 2");
         Box.SetSelStart(2);
         Box.BackspaceWord(code);
-        EXPECT_EQ(Box.Text(), u"12_");
-        EXPECT_EQ(Engine.TextInput(), u"12");
-        EXPECT_EQ(Box.SelStart(), 1);
+        EXPECT_EQ(Box.Text(), u"2__");
+        EXPECT_EQ(Engine.TextInput(), u"2");
+        EXPECT_EQ(Box.SelStart(), 0);
     }
 }
 

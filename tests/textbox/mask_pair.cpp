@@ -207,7 +207,7 @@ void MaskPair::TypeOrErase()
     case 0:
         Tell("delete with " + std::to_string(shift));
         box_.Press(Keys::Delete, shift);
-        return plain_.Delete();
+        return plain_.Delete(shift == Shifts::Shift);
     case 1:
         Tell("backspace with " + std::to_string(shift));
         box_.Backspace(shift);

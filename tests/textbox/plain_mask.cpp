@@ -7,6 +7,25 @@
 
 namespace vornix {
 
+namespace {
+
+// A line end or a character of two units, which a box erases as one.
+bool IsPair(const std::u16string& text, int place)
+{
+    if (place < 0 || place + 1 >= static_cast<int>(text.size()))
+        return false;
+    const char16_t first = text[static_cast<std::size_t>(place)];
+    const char16_t second = text[static_cast<std::size_t>(place) + 1];
+    return (first == u'\r' && second == u'\n') || (first >> 10 == 0x36 && second >> 10 == 0x37);
+}
+
+bool IsBlank(char16_t unit)
+{
+    return std::u16string(u" \t\r\n\u00A0").find(unit) != std::u16string::npos;
+}
+
+} // namespace
+
 void PlainMask::SetMask(const std::u16string& mask)
 {
     mask_ = mask;
@@ -117,7 +136,7 @@ void PlainMask::Enter()
         TypeIntoBox(u"\r\n");
 }
 
-void PlainMask::Delete()
+void PlainMask::Delete(bool cuts)
 {
     if (IsForm()) {
         if (EraseSelection())
@@ -134,9 +153,9 @@ void PlainMask::Delete()
     }
     if (length > 0)
         return TypeIntoBox(u"");
-    if (Offset(start) == text_.size())
+    if (cuts || Offset(start) == text_.size())
         return;
-    text_.erase(Offset(start), text_.compare(Offset(start), 2, u"\r\n") == 0 ? 2 : 1);
+    text_.erase(Offset(start), IsPair(text_, start) ? 2 : 1);
     Told();
 }
 
@@ -160,7 +179,7 @@ void PlainMask::Backspace()
         return TypeIntoBox(u"");
     if (start == 0)
         return;
-    const int units = start >= 2 && text_.compare(Offset(start - 2), 2, u"\r\n") == 0 ? 2 : 1;
+    const int units = IsPair(text_, start - 2) ? 2 : 1;
     start -= units;
     text_.erase(Offset(start), Offset(units));
     Told();
@@ -195,8 +214,10 @@ void PlainMask::BackspaceWord()
     if (length == 0 && start == 0)
         return;
     if (length == 0) {
-        int first = start - 1;
-        while (first > 0 && text_[Offset(first)] != u' ')
+        int first = start;
+        while (first > 0 && IsBlank(text_[Offset(first - 1)]))
+            --first;
+        while (first > 0 && !IsBlank(text_[Offset(first - 1)]))
             --first;
         length = start - first;
         start = first;

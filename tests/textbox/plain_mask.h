@@ -28,7 +28,8 @@ public:
 
     void Type(char16_t character);
     void Enter();
-    void Delete();
+    // With Shift the key cuts where there is no form.
+    void Delete(bool cuts = false);
     void Backspace();
     void Escape();
     void Paste(const std::u16string& text);

@@ -1,9 +1,11 @@
 // A plain edit box, and the person before it: keys and characters go to the listener first, and what it lets through is
-// done as the platform's box does it.
+// done as the platform's box does it. Unlike the box of the container without a screen it may tell of what a program
+// writes, and takes pasting and undoing by some keys for typing: a text box has to cope with such boxes as well.
 #pragma once
 
 #include "automation/key_codes.h"
 #include "textbox/mask_engine.h"
+#include "vornix/edited_text.h"
 
 #include <memory>
 
@@ -23,13 +25,13 @@ public:
     // Whether SetText and SetSelText tell the listener too. Some boxes do.
     void SetTellsWrites(bool tells) { tellsWrites_ = tells; }
 
-    std::u16string Text() const override { return text_; }
+    std::u16string Text() const override { return text_.Text(); }
     void SetText(std::u16string_view text) override;
-    int SelStart() const override { return start_; }
-    void SetSelStart(int start) override;
-    int SelLength() const override { return length_; }
-    void SetSelLength(int length) override;
-    std::u16string SelText() const override { return text_.substr(Offset(start_), Offset(length_)); }
+    int SelStart() const override { return text_.SelStart(); }
+    void SetSelStart(int start) override { text_.SetSelStart(start); }
+    int SelLength() const override { return text_.SelLength(); }
+    void SetSelLength(int length) override { text_.SetSelLength(length); }
+    std::u16string SelText() const override { return text_.SelText(); }
     void SetSelText(std::u16string_view text) override;
     void SetStyle(const EditBoxStyle&) override { }
     void SetRightToLeft(bool) override { }
@@ -59,24 +61,17 @@ public:
     void UndoByKey(std::u16string_view text);
 
 private:
-    static std::size_t Offset(int place) { return static_cast<std::size_t>(place); }
-    bool IsLineEndAt(int place) const;
     void Replace(int start, int length, std::u16string_view text, ChangeOrigin origin);
     bool PressWithCtrl(int key, char16_t character);
-    void DoNatively(i16 key, i16 shift);
-    void InsertNatively(char16_t character);
-    void MoveTo(int place, bool extends);
+    void TellChange(std::optional<ChangeOrigin> origin);
 
     class EngineListener;
 
     std::unique_ptr<EngineListener> engine_;
     EditBoxListener* listener_ = nullptr;
     bool tellsWrites_ = true;
-    std::u16string text_;
-    int start_ = 0;
-    int length_ = 0;
-    // The end of the selection that stays while Shift extends it.
-    int anchor_ = 0;
+    std::u16string clipboard_;
+    EditedText text_ { clipboard_ };
 };
 
 } // namespace vornix

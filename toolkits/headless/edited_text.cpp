@@ -14,7 +14,6 @@ constexpr char16_t CtrlA = 1;
 constexpr char16_t CtrlC = 3;
 constexpr char16_t CtrlV = 22;
 constexpr char16_t CtrlX = 24;
-constexpr char16_t CtrlReturn = 10;
 constexpr char16_t CtrlBack = 127;
 
 std::size_t Offset(int place)
@@ -243,7 +242,6 @@ std::optional<ChangeOrigin> EditedText::DoCharacter(char16_t character, i16 shif
     case CtrlBack:
         return EraseTo(WordBefore(caret_));
     case ReturnKey:
-    case CtrlReturn:
         return isMultiLine_ && Insert(LineBreak) ? std::optional(ChangeOrigin::Key) : std::nullopt;
     case CtrlA:
         SelectAll();

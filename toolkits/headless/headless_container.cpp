@@ -179,6 +179,11 @@ bool HeadlessContainer::HasFocus() const
     return windows_->HasFocus();
 }
 
+bool HeadlessContainer::HasFocus(ChildName name) const
+{
+    return windows_->Focused() == children_[static_cast<std::size_t>(name)];
+}
+
 PointerLocation HeadlessContainer::LocatePointer() const
 {
     return windows_->LocatePointer();

@@ -53,9 +53,9 @@ public:
     // with Shift to select, with Ctrl by words or to the ends of the text; Delete, with Ctrl to the next word; Ctrl+Insert,
     // Shift+Insert and Shift+Delete copy, paste and cut. Gives who changed the text, if that was done.
     std::optional<ChangeOrigin> DoKey(i16 code, i16 shift);
-    // What it does for a character: Backspace (8), with Ctrl (127) to the start of the word; Return (13, with Ctrl 10),
-    // which begins a line where there are several; Ctrl+A, C, X and V (1, 3, 24, 22). Others from the space on take the
-    // place of the selection, unless they come with Ctrl alone; other control characters do nothing.
+    // What it does for a character: Backspace (8), with Ctrl (127) to the start of the word; Return (13), which begins a
+    // line where there are several; Ctrl+A, C, X and V (1, 3, 24, 22). Others from the space on take the place of the
+    // selection, unless they come with Ctrl alone; other control characters do nothing.
     std::optional<ChangeOrigin> DoCharacter(char16_t character, i16 shift);
     // Takes the place of the selection as far as there is room: without several lines the first line, otherwise with
     // all line ends made CR LF. False, with nothing changed, where the text is locked or empty.

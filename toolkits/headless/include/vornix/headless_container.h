@@ -143,6 +143,8 @@ public:
     void HoldKey(int code, bool down);
     // Whether the control or one of its children has the focus.
     bool HasFocus() const;
+    // Whether the focus is on this child.
+    bool HasFocus(ChildName name) const;
 
     // What the control said since ClearLog.
     const std::vector<LoggedEvent>& Log() const { return log_.Events(); }

@@ -40,6 +40,7 @@ struct Word {
     bool value;
     Content content;
 };
+// In pairs of opposites.
 constexpr std::array Words {
     Word { u"TRUE", true, WordTrueFalse },
     Word { u"FALSE", false, WordTrueFalse },
@@ -76,6 +77,21 @@ std::optional<bool> TruthValueOf(std::u16string_view text)
 {
     const Word* word = FindWord(Normalized(text));
     return word ? std::optional(word->value) : std::nullopt;
+}
+
+std::u16string OppositeTruthText(std::u16string_view text)
+{
+    const Word& word = *FindWord(Normalized(text));
+    std::u16string opposite(Words[static_cast<std::size_t>(&word - Words.data()) ^ 1].text);
+    const std::u16string_view written = text.substr(text.find_first_not_of(u" \u00A0\u202F\u2009"));
+    const auto isSmall = [](char16_t unit) { return unit >= u'a' && unit <= u'z'; };
+    for (std::size_t i = 0; i < opposite.size(); ++i) {
+        // TRUE, True and true differ in their first two letters.
+        const bool makeSmall = isSmall(written[i == 0 ? 0 : std::min<std::size_t>(1, written.size() - 1)]);
+        if (makeSmall && opposite[i] >= u'A')
+            opposite[i] = static_cast<char16_t>(opposite[i] - u'A' + u'a');
+    }
+    return opposite;
 }
 
 } // namespace vornix::viewer

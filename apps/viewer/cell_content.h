@@ -41,4 +41,7 @@ Content ContentOf(std::u16string_view text);
 // True for true, yes, y, t and 1; false for their opposites; nothing for any other text. In any case.
 std::optional<bool> TruthValueOf(std::u16string_view text);
 
+// No for Yes, t for f: the other truth value in the same writing. The text must be a truth value.
+std::u16string OppositeTruthText(std::u16string_view text);
+
 } // namespace vornix::viewer

@@ -14,6 +14,14 @@ bool IsPlaceholder(std::u16string_view text)
     return text == u"NA" || text == u"N/A" || text == u"n/a" || text == u"NULL" || text == u"null";
 }
 
+void CompleteTruthTexts(Column& column)
+{
+    if (column.trueText.empty() && !column.falseText.empty())
+        column.trueText = OppositeTruthText(column.falseText);
+    if (column.falseText.empty() && !column.trueText.empty())
+        column.falseText = OppositeTruthText(column.trueText);
+}
+
 } // namespace
 
 void ColumnContent::Add(std::u16string_view text)
@@ -83,12 +91,19 @@ void SetKindsByContent(Table& table)
 
 void WriteTruthValues(Table& table, int column)
 {
+    Column& described = table.Columns()[static_cast<std::size_t>(column)];
     for (int row = 0; row < table.RowCount(); ++row) {
         if (table.IsNull(row, column))
             continue;
-        if (const auto value = TruthValueOf(table.Text(row, column)))
-            table.ReplaceText(row, column, *value ? u"-1" : u"0");
+        const auto value = TruthValueOf(table.Text(row, column));
+        if (!value)
+            continue;
+        std::u16string& written = *value ? described.trueText : described.falseText;
+        if (written.empty())
+            written = table.Text(row, column);
+        table.ReplaceText(row, column, *value ? u"-1" : u"0");
     }
+    CompleteTruthTexts(described);
 }
 
 } // namespace vornix::viewer

@@ -31,7 +31,8 @@ private:
 // Finds the kind of each column from its texts, and writes truth values as check boxes have them.
 void SetKindsByContent(Table& table);
 
-// Writes "-1" or "0" for every text of a Boolean column. A text that is no truth value stays.
+// Writes "-1" or "0" for every text of a Boolean column, and notes how the first ones were written. A text that is no
+// truth value stays.
 void WriteTruthValues(Table& table, int column);
 
 } // namespace vornix::viewer

@@ -34,6 +34,7 @@ void CsvParser::Feed(std::u16string_view text)
             break;
         }
     }
+    pieceStart_ += text.size();
 }
 
 void CsvParser::Finish()
@@ -41,8 +42,11 @@ void CsvParser::Finish()
     if (state_ == State::Quoted)
         Raise(fieldLine_, "the quoted field that begins here does not end");
     const bool nothingBegun = state_ == State::FieldStart && fieldCount_ == 0;
-    if (!nothingBegun)
-        EndRecord();
+    if (nothingBegun)
+        return;
+    if (state_ == State::FieldStart)
+        fieldPlace_ = pieceStart_;
+    EndRecord(pieceStart_);
 }
 
 std::size_t CsvParser::BeginField(std::u16string_view text, std::size_t position)
@@ -53,6 +57,7 @@ std::size_t CsvParser::BeginField(std::u16string_view text, std::size_t position
         return position + 1;
 
     fieldLine_ = line_;
+    fieldPlace_ = pieceStart_ + position;
     if (text[position] != Quote) {
         state_ = State::Plain;
         return position;
@@ -76,10 +81,10 @@ std::size_t CsvParser::TakePlain(std::u16string_view text, std::size_t position)
     if (unit == 0)
         Raise(line_, "there is a NUL byte, so this is not a text file");
     if (unit == separator_) {
-        EndField();
+        EndField(pieceStart_ + position);
         return position + 1;
     }
-    EndRecord();
+    EndRecord(pieceStart_ + position);
     previousWasReturn_ = unit == u'\r';
     ++line_;
     BeginRecord();
@@ -128,21 +133,23 @@ void CsvParser::Append(std::u16string_view text)
         text_.append(text);
 }
 
-void CsvParser::EndField()
+void CsvParser::EndField(std::uint64_t place)
 {
     ++fieldCount_;
     // Beyond the limit only the count matters, for the message.
-    if (fieldCount_ <= static_cast<std::size_t>(limits_.maxColumns))
-        ends_.push_back({ text_.size(), fieldWasQuoted_ });
+    if (fieldCount_ <= static_cast<std::size_t>(limits_.maxColumns)) {
+        ends_.push_back(text_.size());
+        places_.push_back({ fieldPlace_, place, fieldWasQuoted_ });
+    }
     fieldStart_ = text_.size();
     fieldWasQuoted_ = false;
     state_ = State::FieldStart;
 }
 
-void CsvParser::EndRecord()
+void CsvParser::EndRecord(std::uint64_t place)
 {
     const bool isBlank = IsBlankLine();
-    EndField();
+    EndField(place);
     if (fieldCount_ > static_cast<std::size_t>(limits_.maxColumns))
         Raise(recordLine_,
             std::to_string(fieldCount_) + " columns are more than the grid can hold (at most "
@@ -160,12 +167,12 @@ void CsvParser::PassOn()
 {
     fields_.clear();
     std::size_t start = 0;
-    for (const FieldEnd& field : ends_) {
-        const auto text = std::u16string_view(text_).substr(start, field.end - start);
-        fields_.push_back({ text, text.empty() && !field.wasQuoted });
-        start = field.end;
+    for (std::size_t field = 0; field < ends_.size(); ++field) {
+        const auto text = std::u16string_view(text_).substr(start, ends_[field] - start);
+        fields_.push_back({ text, text.empty() && !places_[field].isQuoted });
+        start = ends_[field];
     }
-    onRecord_({ fields_, recordLine_ });
+    onRecord_({ fields_, places_, recordLine_ });
 }
 
 void CsvParser::BeginRecord()
@@ -173,6 +180,7 @@ void CsvParser::BeginRecord()
     recordLine_ = line_;
     text_.clear();
     ends_.clear();
+    places_.clear();
     fieldCount_ = 0;
     fieldStart_ = 0;
 }

@@ -19,8 +19,16 @@ namespace vornix::viewer {
 // Text comes in pieces of any size. Raises LoadError, naming the line (from 1; line breaks in quotes count).
 class CsvParser {
 public:
+    // Where a field stands, its quotes included, in UTF-16 units of all the text fed.
+    struct Place {
+        std::uint64_t begin = 0;
+        std::uint64_t end = 0;
+        bool isQuoted = false;
+    };
+    // Valid during the call.
     struct Record {
-        const std::vector<Field>& fields; // valid during the call
+        const std::vector<Field>& fields;
+        const std::vector<Place>& places; // of the same fields
         std::uint64_t line = 1; // where it begins
     };
     using RecordFunction = std::function<void(const Record&)>;
@@ -36,10 +44,6 @@ public:
 
 private:
     enum class State { FieldStart, Plain, Quoted, QuoteInQuoted };
-    struct FieldEnd {
-        std::size_t end; // into text_
-        bool wasQuoted;
-    };
 
     // Each takes what belongs to its state and returns the position of what it leaves.
     std::size_t BeginField(std::u16string_view text, std::size_t position);
@@ -47,8 +51,9 @@ private:
     std::size_t TakeQuoted(std::u16string_view text, std::size_t position);
     std::size_t EndQuotes(std::u16string_view text, std::size_t position);
     void Append(std::u16string_view text);
-    void EndField();
-    void EndRecord();
+    // Each takes where in all of the text the field ends.
+    void EndField(std::uint64_t place);
+    void EndRecord(std::uint64_t place);
     void BeginRecord();
     bool IsBlankLine() const;
     void PassOn();
@@ -64,10 +69,13 @@ private:
     std::uint64_t line_ = 1;
     std::uint64_t recordLine_ = 1;
     std::uint64_t fieldLine_ = 1;
+    std::uint64_t pieceStart_ = 0; // units fed before the present piece
+    std::uint64_t fieldPlace_ = 0; // where in all of the text the field begins
     std::size_t fieldStart_ = 0; // into text_
-    std::size_t fieldCount_ = 0; // of the record so far; ends_ stops at the limit
+    std::size_t fieldCount_ = 0; // of the record so far; ends_ and places_ stop at the limit
     std::u16string text_; // the record's fields so far, one after the other
-    std::vector<FieldEnd> ends_;
+    std::vector<std::size_t> ends_; // into text_
+    std::vector<Place> places_;
     std::vector<Field> fields_;
 };
 

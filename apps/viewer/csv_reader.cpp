@@ -1,19 +1,16 @@
 #include "csv_reader.h"
 
-#include "column_content.h"
 #include "csv_format.h"
 #include "csv_parser.h"
 #include "input_file.h"
 #include "row_collector.h"
-#include "text_decoder.h"
+#include "text_file.h"
 
 #include <algorithm>
 
 namespace vornix::viewer {
 
 namespace {
-
-constexpr std::size_t PieceSize = 1 << 18; // bytes
 
 // Hands the file's text to the parser, piece by piece.
 class CsvReader {
@@ -22,77 +19,61 @@ public:
         : file_(file)
         , limits_(limits)
         , progress_(progress)
-        , buffer_(PieceSize)
+        , text_(file)
         , collector_(limits)
     {
     }
 
     Table Read()
     {
-        DecodeFirstPiece();
-        const char16_t separator = SeparatorOf(text_, bytesRead_ == file_.Size());
-        CsvParser parser(separator, limits_, [this](const CsvParser::Record& record) { collector_.Add(record); });
-        while (!text_.empty() || decoder_.HasFailed()) {
-            parser.Feed(text_);
+        bool hasText = text_.Next();
+        FindSeparator();
+        CsvParser parser(
+            layout_.separator, limits_, [this](const CsvParser::Record& record) { collector_.Add(record); });
+        for (; hasText; hasText = text_.Next()) {
+            parser.Feed(text_.Text());
             RaiseIfNoText(parser);
             Report();
-            DecodePiece();
         }
-        decoder_.Finish();
         RaiseIfNoText(parser);
         parser.Finish();
-        return collector_.Finish();
+        Table table = collector_.Finish();
+        layout_.encoding = text_.Encoding().encoding;
+        layout_.hasHeader = collector_.HasHeader();
+        layout_.print = text_.Print();
+        return table;
     }
+
+    const CsvLayout& Layout() const { return layout_; }
 
 private:
-    void DecodeFirstPiece()
-    {
-        const std::string_view bytes = ReadPiece();
-        const EncodingGuess guess = GuessEncoding(bytes);
-        decoder_ = TextDecoder(guess.encoding);
-        encoding_ = guess.encoding;
-        decoder_.Decode(bytes.substr(guess.markLength), text_);
-    }
-
-    // Leaves the text empty only at the end of the file: a piece is longer than any character.
-    void DecodePiece()
-    {
-        text_.clear();
-        decoder_.Decode(ReadPiece(), text_);
-    }
-
-    std::string_view ReadPiece()
-    {
-        const std::size_t count = file_.Read(buffer_);
-        bytesRead_ += count;
-        return { buffer_.data(), count };
-    }
-
     // The first line may name the separator, as in: sep=;
-    char16_t SeparatorOf(std::u16string& text, bool isWholeFile) const
+    void FindSeparator()
     {
         constexpr std::u16string_view marker = u"sep=";
+        std::u16string& text = text_.Text();
+        const bool isWholeFile = text_.BytesRead() == file_.Size();
         const std::size_t lineEnd = std::min(text.find_first_of(u"\r\n"), text.size());
-        if (lineEnd != marker.size() + 1 || !text.starts_with(marker) || text.size() == lineEnd)
-            return GuessSeparator(
-                std::u16string_view(text).substr(0, SampleLength), isWholeFile && text.size() <= SampleLength);
-        const char16_t separator = text[marker.size()];
+        if (lineEnd != marker.size() + 1 || !text.starts_with(marker) || text.size() == lineEnd) {
+            const auto sample = std::u16string_view(text).substr(0, SampleLength);
+            layout_.separator = GuessSeparator(sample, isWholeFile && text.size() <= SampleLength);
+            return;
+        }
+        layout_.separator = text[marker.size()];
+        layout_.markerLength = lineEnd;
         text.erase(0, lineEnd); // its line break stays, as a blank line, for the line numbers
-        return separator;
     }
 
     void RaiseIfNoText(const CsvParser& parser) const
     {
-        if (!decoder_.HasFailed())
-            return;
-        const char* name = encoding_ == TextEncoding::Utf8 ? "UTF-8" : "UTF-16";
-        throw LoadError("line " + std::to_string(parser.Line()) + ": invalid " + name + " text");
+        if (text_.HasFailed())
+            throw LoadError("line " + std::to_string(parser.Line()) + ": invalid " + text_.EncodingName() + " text");
     }
 
     void Report() const
     {
         if (progress_)
-            progress_({ collector_.RowCount(), bytesRead_, file_.Size() });
+            progress_({ collector_.RowCount(), text_.BytesRead(), file_.Size() });
     }
 
     static constexpr std::size_t SampleLength = 1 << 16; // UTF-16 units
@@ -100,19 +81,20 @@ private:
     InputFile& file_;
     const LoadLimits& limits_;
     const ProgressFunction& progress_;
-    std::vector<char> buffer_;
-    std::uint64_t bytesRead_ = 0;
-    TextEncoding encoding_ = TextEncoding::Utf8;
-    TextDecoder decoder_ { TextEncoding::Utf8 };
-    std::u16string text_;
+    TextFile text_;
+    CsvLayout layout_;
     RowCollector collector_;
 };
 
 } // namespace
 
-Table ReadCsv(InputFile& file, const LoadLimits& limits, const ProgressFunction& progress)
+Table ReadCsv(InputFile& file, const LoadLimits& limits, const ProgressFunction& progress, CsvLayout* layout)
 {
-    return CsvReader(file, limits, progress).Read();
+    CsvReader reader(file, limits, progress);
+    Table table = reader.Read();
+    if (layout)
+        *layout = reader.Layout();
+    return table;
 }
 
 } // namespace vornix::viewer

@@ -32,7 +32,8 @@ Table RowCollector::Finish()
         throw LoadError("there is nothing in it but blank lines");
     RequireEvenRows();
     NameColumns(false, firstLineOfCount_.rbegin()->first);
-    if (HasHeader(table_))
+    hasHeader_ = viewer::HasHeader(table_);
+    if (hasHeader_)
         TakeHeader();
     while (table_.RowCount() > limits_.maxRows)
         table_.DropLastRow();

@@ -22,6 +22,8 @@ public:
     // The table with header, kinds and notices. Raises LoadError for a file without rows, and for rows that do
     // not all have the same number of fields.
     Table Finish();
+    // Whether the first row was the header, once finished.
+    bool HasHeader() const { return hasHeader_; }
 
 private:
     bool HasRoom(std::size_t fields) const;
@@ -32,6 +34,7 @@ private:
     LoadLimits limits_;
     Table table_;
     bool isFull_ = false;
+    bool hasHeader_ = false;
     std::uint64_t rowCount_ = 0;
     // The line where each number of fields was first met.
     std::map<std::size_t, std::uint64_t> firstLineOfCount_;

@@ -1,26 +1,28 @@
 #include "sqlite_reader.h"
 
+#include "database_rows.h"
 #include "notices.h"
 #include "stored_column.h"
 #include "unicode.h"
+#include "value_text.h"
 
 #include "vornix/sqlite/database.h"
-
-#include <array>
-#include <cstdio>
 
 namespace vornix::viewer {
 
 namespace {
 
-// Reads the rows of one statement into a table.
+// Reads the rows of one statement into a table, and notes what they are where they may be changed: they have their key
+// first then.
 class RowReader {
 public:
     RowReader(sqlite::Database& database, sqlite::Statement& statement, const LoadLimits& limits,
-        const ProgressFunction& progress)
+        const ProgressFunction& progress, DatabaseRows* rows = nullptr)
         : statement_(statement)
         , limits_(limits)
         , progress_(progress)
+        , rows_(rows)
+        , keyLength_(rows ? rows->KeyLength() : 0)
     {
         database.SetProgress([this] {
             Report();
@@ -52,7 +54,7 @@ public:
         table_.SetTotalRows(totalRows);
         AddMissingRowsNotice(table_);
         for (int column = 0; column < table_.ColumnCount(); ++column)
-            columns_[static_cast<std::size_t>(column)].Settle(table_, column);
+            columns_[static_cast<std::size_t>(column)].Settle(table_, column, rows_ != nullptr);
         return std::move(table_);
     }
 
@@ -61,12 +63,13 @@ public:
 private:
     void AddColumns()
     {
-        if (statement_.ColumnCount() > limits_.maxColumns)
-            throw LoadError(std::to_string(statement_.ColumnCount())
-                + " columns are more than the grid can hold (at most " + std::to_string(limits_.maxColumns) + ")");
-        for (int column = 0; column < statement_.ColumnCount(); ++column) {
-            table_.Columns().push_back({ statement_.ColumnName(column) });
-            columns_.emplace_back(statement_.Kind(column));
+        const int count = statement_.ColumnCount() - keyLength_;
+        if (count > limits_.maxColumns)
+            throw LoadError(std::to_string(count) + " columns are more than the grid can hold (at most "
+                + std::to_string(limits_.maxColumns) + ")");
+        for (int column = 0; column < count; ++column) {
+            table_.Columns().push_back({ statement_.ColumnName(keyLength_ + column) });
+            columns_.emplace_back(statement_.Kind(keyLength_ + column));
         }
         texts_.resize(columns_.size());
         fields_.resize(columns_.size());
@@ -80,57 +83,34 @@ private:
 
     void AppendRow()
     {
-        for (int column = 0; column < statement_.ColumnCount(); ++column) {
+        if (rows_)
+            rows_->Append(rows_->Read(statement_));
+        for (int column = 0; column < table_.ColumnCount(); ++column) {
             const auto index = static_cast<std::size_t>(column);
-            const sqlite::ValueType type = statement_.Type(column);
-            texts_[index] = TextOf(column, type);
+            const sqlite::ValueType type = statement_.Type(keyLength_ + column);
+            RequireShort(column, type);
+            if (rows_ && !IsPlainValue(statement_, keyLength_ + column))
+                rows_->SetLocked(table_.RowCount(), column, true);
+            texts_[index] = TextOfValue(statement_, keyLength_ + column);
+            if (texts_[index].size() > limits_.maxFieldLength)
+                RaiseTooLong(column);
             columns_[index].Add(type, texts_[index]);
             fields_[index] = { texts_[index], type == sqlite::ValueType::Null };
         }
         table_.AppendRow(fields_);
     }
 
-    std::u16string TextOf(int column, sqlite::ValueType type) const
+    // Before a copy is made: a text has at least a third as many units as bytes.
+    void RequireShort(int column, sqlite::ValueType type) const
     {
-        switch (type) {
-        case sqlite::ValueType::Integer:
-            return ToUtf16(std::to_string(statement_.Integer(column)));
-        case sqlite::ValueType::Real:
-            return RealText(statement_.Real(column));
-        case sqlite::ValueType::Text:
-            return CheckedText(column);
-        case sqlite::ValueType::Blob:
-            return ToUtf16("<blob, " + std::to_string(statement_.ByteCount(column)) + " bytes>");
-        default:
-            return {};
-        }
-    }
-
-    static std::u16string RealText(double value)
-    {
-        // Fifteen digits are what a double holds of any decimal number.
-        std::array<char, 32> text {};
-        std::snprintf(text.data(), text.size(), "%.15g", value);
-        return ToUtf16(text.data());
-    }
-
-    std::u16string CheckedText(int column) const
-    {
-        // A text has at least a third as many units as bytes.
-        if (statement_.ByteCount(column) / 3 > limits_.maxFieldLength)
+        if (type == sqlite::ValueType::Text && statement_.ByteCount(keyLength_ + column) / 3 > limits_.maxFieldLength)
             RaiseTooLong(column);
-        std::u16string text(statement_.Text(column));
-        if (text.size() > limits_.maxFieldLength)
-            RaiseTooLong(column);
-        for (char16_t& unit : text)
-            unit = unit == 0 ? u'\u2400' : unit; // the picture of a NUL; a cell's text ends at a real one
-        return text;
     }
 
     [[noreturn]] void RaiseTooLong(int column) const
     {
         throw LoadError("row " + std::to_string(rowsRead_) + ", column "
-            + OneLine(ToUtf8(statement_.ColumnName(column))) + ": a text is longer than "
+            + OneLine(ToUtf8(statement_.ColumnName(keyLength_ + column))) + ": a text is longer than "
             + std::to_string(limits_.maxFieldLength) + " characters, the most a cell takes");
     }
 
@@ -150,6 +130,8 @@ private:
     sqlite::Statement& statement_;
     const LoadLimits& limits_;
     const ProgressFunction& progress_;
+    DatabaseRows* const rows_;
+    const int keyLength_;
     Table table_;
     std::vector<StoredColumn> columns_;
     std::vector<std::u16string> texts_; // of the row being read
@@ -172,6 +154,17 @@ private:
     sqlite::Database& database_;
 };
 
+Table ReadRows(sqlite::Database& database, const std::string& name, sqlite::Statement& statement, DatabaseRows* rows,
+    const LoadLimits& limits, const ProgressFunction& progress)
+{
+    const ProgressScope scope(database);
+    RowReader reader(database, statement, limits, progress, rows);
+    const bool isWhole = reader.ReadUpToLimit();
+    Table table = reader.Finish(isWhole ? reader.RowsRead() : database.CountRows(name));
+    table.SetName(ToUtf16(name));
+    return table;
+}
+
 } // namespace
 
 Table ReadDatabaseTable(
@@ -180,12 +173,18 @@ Table ReadDatabaseTable(
     try {
         const std::string exactName = database.FindTable(name).name;
         sqlite::Statement statement = database.ReadTable(exactName);
-        const ProgressScope scope(database);
-        RowReader reader(database, statement, limits, progress);
-        const bool isWhole = reader.ReadUpToLimit();
-        Table table = reader.Finish(isWhole ? reader.RowsRead() : database.CountRows(exactName));
-        table.SetName(ToUtf16(exactName));
-        return table;
+        return ReadRows(database, exactName, statement, nullptr, limits, progress);
+    } catch (const sqlite::Error& error) {
+        throw LoadError(error.what());
+    }
+}
+
+Table ReadChangeableTable(
+    sqlite::Database& database, DatabaseRows& rows, const LoadLimits& limits, const ProgressFunction& progress)
+{
+    try {
+        sqlite::Statement statement = database.ReadQuery(rows.SelectAll());
+        return ReadRows(database, rows.Layout().name, statement, &rows, limits, progress);
     } catch (const sqlite::Error& error) {
         throw LoadError(error.what());
     }

@@ -85,13 +85,15 @@ ColumnKind StoredColumn::TextKind() const
     return common & DateAndTime ? ColumnKind::DateTime : ColumnKind::Text;
 }
 
-void StoredColumn::Settle(Table& table, int column) const
+void StoredColumn::Settle(Table& table, int column, bool plain) const
 {
     const ColumnKind kind = Kind();
     table.Columns()[static_cast<std::size_t>(column)].kind = kind;
     if (kind == ColumnKind::Boolean)
         WriteTruthValues(table, column);
     const bool isMoney = kind == ColumnKind::Money;
+    if (plain)
+        return;
     if (!isMoney && (kind != ColumnKind::Real || !hasPlainDecimals_ || decimals_ > MaxDecimals))
         return;
     for (int row = 0; row < table.RowCount(); ++row) {

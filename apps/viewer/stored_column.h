@@ -19,8 +19,9 @@ public:
 
     void Add(sqlite::ValueType type, std::u16string_view text);
     ColumnKind Kind() const;
-    // Sets the table's kind and rewrites the texts that this kind shows in its own way.
-    void Settle(Table& table, int column) const;
+    // Sets the table's kind and rewrites the texts that this kind shows in its own way; numbers stay as they are when
+    // they are `plain`.
+    void Settle(Table& table, int column, bool plain) const;
 
 private:
     void NoteNumber(std::u16string_view text);

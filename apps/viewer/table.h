@@ -19,6 +19,9 @@ Alignment AlignmentOf(ColumnKind kind);
 struct Column {
     std::u16string name;
     ColumnKind kind = ColumnKind::Text;
+    // How the source writes truth values; of Boolean columns only.
+    std::u16string trueText = {};
+    std::u16string falseText = {};
 };
 
 // One value on its way into a table. The text is copied by Table::AppendRow.

@@ -106,6 +106,18 @@ std::string ToUtf8(std::u16string_view text)
     return bytes;
 }
 
+std::u16string WellFormed(std::u16string_view text)
+{
+    std::u16string formed(text);
+    for (std::size_t i = 0; i < formed.size(); ++i) {
+        if (IsLeadSurrogate(formed[i]) && i + 1 < formed.size() && IsTrailSurrogate(formed[i + 1]))
+            ++i;
+        else if (IsLeadSurrogate(formed[i]) || IsTrailSurrogate(formed[i]))
+            formed[i] = ReplacementCharacter;
+    }
+    return formed;
+}
+
 std::u16string ToUtf16(std::string_view bytes)
 {
     std::u16string text;

@@ -9,6 +9,9 @@ namespace vornix::viewer {
 // Unpaired surrogates become U+FFFD.
 std::string ToUtf8(std::u16string_view text);
 
+// The text with U+FFFD for each unpaired surrogate.
+std::u16string WellFormed(std::u16string_view text);
+
 // Bytes that are no UTF-8 become U+FFFD, one for each.
 std::u16string ToUtf16(std::string_view text);
 

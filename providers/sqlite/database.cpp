@@ -1,5 +1,6 @@
 #include "vornix/sqlite/database.h"
 
+#include "names.h"
 #include "raise.h"
 
 #include <filesystem>
@@ -45,24 +46,13 @@ char LowerCase(char c)
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
 
-bool SameName(std::string_view a, std::string_view b)
-{
-    if (a.size() != b.size())
-        return false;
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        if (LowerCase(a[i]) != LowerCase(b[i]))
-            return false;
-    }
-    return true;
-}
-
 int ReportProgress(void* context)
 {
     const auto& progress = *static_cast<const ProgressFunction*>(context);
     return progress && !progress() ? 1 : 0;
 }
 
-sqlite3_stmt* Prepare(sqlite3* connection, std::string_view sql, std::string_view* rest = nullptr)
+sqlite3_stmt* Compile(sqlite3* connection, std::string_view sql, std::string_view* rest = nullptr)
 {
     sqlite3_stmt* statement = nullptr;
     const char* tail = nullptr;
@@ -75,6 +65,17 @@ sqlite3_stmt* Prepare(sqlite3* connection, std::string_view sql, std::string_vie
 }
 
 } // namespace
+
+bool SameName(std::string_view a, std::string_view b)
+{
+    if (a.size() != b.size())
+        return false;
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        if (LowerCase(a[i]) != LowerCase(b[i]))
+            return false;
+    }
+    return true;
+}
 
 bool IsDatabaseHeader(std::string_view firstBytes)
 {
@@ -98,10 +99,25 @@ void Database::Closer::operator()(sqlite3* connection) const
 }
 
 Database::Database(const std::string& path, std::chrono::milliseconds patience)
+    : Database(path, Access::Read, patience)
+{
+}
+
+Database::Database(const std::string& path, Access access, std::chrono::milliseconds patience)
     : progress_(std::make_unique<ProgressFunction>())
 {
+    if (access == Access::Write)
+        Open(path, OpenMode::Write, patience);
+    else
+        OpenForReading(path, patience);
+}
+
+Database::~Database() = default;
+
+void Database::OpenForReading(const std::string& path, std::chrono::milliseconds patience)
+{
     try {
-        Open(path, false, patience);
+        Open(path, OpenMode::Read, patience);
     } catch (const Error& error) {
         // A write-ahead database in a folder that cannot be written has no place for its lock file.
         std::error_code ignored;
@@ -109,22 +125,25 @@ Database::Database(const std::string& path, std::chrono::milliseconds patience)
         const bool hasNoPlace = error.Kind() == ErrorKind::CannotOpen || error.Kind() == ErrorKind::Unfinished;
         if (!hasNoPlace || !isFile || HasPendingChanges(path))
             throw;
-        Open(path, true, patience);
+        Open(path, OpenMode::ReadImmutable, patience);
     }
 }
 
-Database::~Database() = default;
-
-void Database::Open(const std::string& path, bool immutable, std::chrono::milliseconds patience)
+void Database::Open(const std::string& path, OpenMode mode, std::chrono::milliseconds patience)
 {
     // As a URI with an absolute path, so that no name can be taken for an option or for a database in memory.
     const std::string absolute = std::filesystem::absolute(path).string();
-    const std::string uri = "file://" + EscapedForUri(absolute) + (immutable ? "?immutable=1" : "");
+    const std::string uri
+        = "file://" + EscapedForUri(absolute) + (mode == OpenMode::ReadImmutable ? "?immutable=1" : "");
+    const int flags = mode == OpenMode::Write ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY;
     sqlite3* connection = nullptr;
-    const int result = sqlite3_open_v2(uri.c_str(), &connection, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, nullptr);
+    const int result = sqlite3_open_v2(uri.c_str(), &connection, flags | SQLITE_OPEN_URI, nullptr);
     connection_.reset(connection);
     if (result != SQLITE_OK)
         throw ErrorOf(connection, result);
+    // A file that may not be written opens for reading instead.
+    if (mode == OpenMode::Write && sqlite3_db_readonly(connection, "main") != 0)
+        throw Error(ErrorKind::CannotOpen, "no permission to write the file");
     sqlite3_extended_result_codes(connection, 1);
     sqlite3_busy_timeout(connection, static_cast<int>(patience.count()));
     sqlite3_db_config(connection, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
@@ -136,11 +155,11 @@ void Database::Open(const std::string& path, bool immutable, std::chrono::millis
 // Opening reads nothing yet; the first read finds out what the file is.
 void Database::Probe(const std::string& path) const
 {
-    Statement firstRead(connection_.get(), Prepare(connection_.get(), "SELECT count(*) FROM sqlite_schema"));
+    Statement firstRead(connection_.get(), Compile(connection_.get(), "SELECT count(*) FROM sqlite_schema"));
     firstRead.Next();
     // While that statement has not ended its read lock stands, so no writer can be halfway through a page. The engine
     // itself reads what is missing of a last page as zeros.
-    Statement pageSize(connection_.get(), Prepare(connection_.get(), "PRAGMA page_size"));
+    Statement pageSize(connection_.get(), Compile(connection_.get(), "PRAGMA page_size"));
     std::error_code ignored;
     const auto size = std::filesystem::file_size(path, ignored);
     if (!ignored && !HasPendingChanges(path) && pageSize.Next()
@@ -156,7 +175,7 @@ void Database::SetProgress(ProgressFunction progress)
 std::vector<TableInfo> Database::Tables() const
 {
     Statement statement(connection_.get(),
-        Prepare(connection_.get(),
+        Compile(connection_.get(),
             "SELECT name, type FROM sqlite_schema WHERE type IN ('table', 'view')"
             " AND name NOT LIKE 'sqlite\\_%' ESCAPE '\\' ORDER BY rowid"));
     std::vector<TableInfo> tables;
@@ -186,10 +205,10 @@ Statement Database::ReadTable(std::string_view name) const
 Statement Database::ReadQuery(std::string_view sql) const
 {
     std::string_view rest;
-    Statement statement(connection_.get(), Prepare(connection_.get(), sql, &rest));
+    Statement statement(connection_.get(), Compile(connection_.get(), sql, &rest));
     if (!statement.statement_)
         throw Error(ErrorKind::NotAQuery, "the query is empty");
-    const Statement second(connection_.get(), Prepare(connection_.get(), rest));
+    const Statement second(connection_.get(), Compile(connection_.get(), rest));
     if (second.statement_)
         throw Error(ErrorKind::NotAQuery, "the query is more than one statement");
     if (statement.ColumnCount() == 0)
@@ -204,6 +223,18 @@ std::uint64_t Database::CountRows(std::string_view name) const
     Statement statement = ReadQuery("SELECT count(*) FROM " + QuotedName(name));
     statement.Next();
     return static_cast<std::uint64_t>(statement.Integer(0));
+}
+
+Statement Database::Prepare(std::string_view sql) const
+{
+    return { connection_.get(), Compile(connection_.get(), sql) };
+}
+
+void Database::Execute(std::string_view sql)
+{
+    Statement statement = Prepare(sql);
+    while (statement.Next())
+        continue;
 }
 
 } // namespace vornix::sqlite

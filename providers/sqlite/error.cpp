@@ -28,6 +28,20 @@ Error SystemError(sqlite3* connection, const Error& otherwise)
     return systemError != 0 ? Error(ErrorKind::CannotOpen, std::strerror(systemError)) : otherwise;
 }
 
+bool IsOfWriting(int resultCode)
+{
+    switch (resultCode) {
+    case SQLITE_IOERR_WRITE:
+    case SQLITE_IOERR_FSYNC:
+    case SQLITE_IOERR_DIR_FSYNC:
+    case SQLITE_IOERR_TRUNCATE:
+    case SQLITE_IOERR_DELETE:
+        return true;
+    default:
+        return false;
+    }
+}
+
 } // namespace
 
 Error::Error(ErrorKind kind, const std::string& message)
@@ -51,12 +65,21 @@ Error ErrorOf(sqlite3* connection, int resultCode)
     case SQLITE_PROTOCOL:
         return { ErrorKind::InUse, "the database is in use: another program has locked it" };
     case SQLITE_READONLY:
+        if (resultCode == SQLITE_READONLY_DIRECTORY)
+            return { ErrorKind::CannotOpen,
+                "no permission to write into the database's folder, where it keeps a journal" };
+        if (resultCode == SQLITE_READONLY_DBMOVED)
+            return { ErrorKind::CannotOpen, "the database file was moved or replaced meanwhile" };
         return { ErrorKind::Unfinished,
             "the database was left in the middle of a change; a program that may write to it must open it first" };
     case SQLITE_CORRUPT:
         return { ErrorKind::Damaged, "the database is damaged (" + message + ")" };
     case SQLITE_IOERR:
+        if (IsOfWriting(resultCode))
+            return { ErrorKind::Other, "the database cannot be written (" + message + ")" };
         return SystemError(connection, { ErrorKind::Damaged, "the database is damaged (" + message + ")" });
+    case SQLITE_FULL:
+        return { ErrorKind::NoRoom, "there is no room on the disk" };
     case SQLITE_TOOBIG:
         return { ErrorKind::TooLong, "a value of the database is too long" };
     case SQLITE_INTERRUPT:

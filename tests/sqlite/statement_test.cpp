@@ -65,3 +65,31 @@ TEST(Statement, RaisesAnErrorThatComesUpWhileStepping)
         EXPECT_STREQ(error.what(), "SQL error: integer overflow");
     }
 }
+
+TEST(Statement, TakesValuesForItsParametersAndGivesThemBack)
+{
+    const MadeDatabase made("CREATE TABLE t(a);");
+    const Database database(made.Path());
+    Statement echo = database.Prepare("SELECT ?");
+    const std::vector<Value> values { std::monostate(), std::int64_t(-9007199254740993), 0.1,
+        std::string("\xE1\xBB\x8C\0!", 5), std::string(), Blob { std::string("\0\xFF", 2) }, Blob {} };
+    for (const Value& value : values) {
+        echo.Bind(1, value);
+        ASSERT_TRUE(echo.Next());
+        EXPECT_EQ(echo.ValueOf(0), value) << value.index();
+        EXPECT_FALSE(echo.Next());
+        echo.Reset();
+    }
+    EXPECT_THROW(echo.Bind(2, std::int64_t(1)), Error);
+}
+
+TEST(Statement, GivesTheBytesOfTextsAndBlobs)
+{
+    const MadeDatabase made("CREATE TABLE t(a); INSERT INTO t VALUES(CAST(x'41FF' AS TEXT)), (x'00'), (5), (NULL);");
+    const Database database(made.Path());
+    Statement row = database.ReadTable("t");
+    for (const std::string_view bytes : { std::string_view("A\xFF"), std::string_view("\0", 1), {}, {} }) {
+        ASSERT_TRUE(row.Next());
+        EXPECT_EQ(row.Bytes(0), bytes);
+    }
+}

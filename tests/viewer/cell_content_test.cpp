@@ -106,3 +106,12 @@ TEST(CellContent, GivesUpOnLongTexts)
 {
     EXPECT_EQ(ContentOf(std::u16string(1000, u'1')), 0u);
 }
+
+TEST(CellContent, KnowsTheOppositeInTheSameWriting)
+{
+    const std::vector<std::pair<std::u16string, std::u16string>> pairs { { u"true", u"false" }, { u"True", u"False" },
+        { u"TRUE", u"FALSE" }, { u"no", u"yes" }, { u"No", u"Yes" }, { u"NO", u"YES" }, { u"y", u"n" }, { u"F", u"T" },
+        { u"1", u"0" }, { u" Yes ", u"No" } };
+    for (const auto& [text, opposite] : pairs)
+        EXPECT_EQ(OppositeTruthText(text), opposite);
+}

@@ -72,3 +72,21 @@ TEST(ColumnContent, WritesTruthValuesAsCheckBoxesHaveThem)
     EXPECT_TRUE(table.IsNull(2, 0));
     EXPECT_EQ(table.Text(0, 1), u"4");
 }
+
+TEST(ColumnContent, NotesHowTruthValuesAreWritten)
+{
+    const auto written = [](std::vector<std::u16string_view> texts) {
+        Table table;
+        table.Columns() = { { u"paid" } };
+        for (const std::u16string_view text : texts) {
+            const Field row[] = { { text } };
+            table.AppendRow(row);
+        }
+        SetKindsByContent(table);
+        return table.Columns()[0].trueText + u"/" + table.Columns()[0].falseText;
+    };
+    EXPECT_EQ(written({ u"Yes", u"NO", u"yes", u"no" }), u"Yes/NO");
+    EXPECT_EQ(written({ u"False", u" " }), u"True/False");
+    EXPECT_EQ(written({ u"TRUE" }), u"TRUE/FALSE");
+    EXPECT_EQ(written({ u"abc" }), u"/");
+}

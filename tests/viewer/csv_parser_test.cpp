@@ -127,3 +127,25 @@ TEST(CsvParser, CountsTheColumnsOfARowThatIsTooWide)
     EXPECT_EQ(MessageOf(u"1,2,3,4\n1,2,3,4,\"5\",6\n", limits),
         "line 2: 6 columns are more than the grid can hold (at most 4)");
 }
+
+TEST(CsvParser, TellsWhereFieldsStandInAllOfTheText)
+{
+    const std::u16string text = u"a,\"b\"\"c\"d,\r\n\n\"\",e\r  f,g\n,";
+    for (std::size_t piece = 1; piece <= text.size(); ++piece) {
+        std::vector<std::u16string> fields;
+        std::vector<bool> quoted;
+        CsvParser parser(u',', LoadLimits(), [&](const CsvParser::Record& record) {
+            ASSERT_EQ(record.places.size(), record.fields.size());
+            for (const CsvParser::Place& place : record.places) {
+                fields.push_back(text.substr(place.begin, place.end - place.begin));
+                quoted.push_back(place.isQuoted);
+            }
+        });
+        for (std::size_t start = 0; start < text.size(); start += piece)
+            parser.Feed(std::u16string_view(text).substr(start, piece));
+        parser.Finish();
+        EXPECT_EQ(
+            fields, (std::vector<std::u16string> { u"a", u"\"b\"\"c\"d", u"", u"\"\"", u"e", u"  f", u"g", u"", u"" }));
+        EXPECT_EQ(quoted, (std::vector<bool> { false, true, false, true, false, false, false, false, false }));
+    }
+}

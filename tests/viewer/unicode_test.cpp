@@ -50,3 +50,12 @@ TEST(Unicode, PutsAMessageOnOneLine)
 {
     EXPECT_EQ(OneLine("a\nb\tc\x1B\x7F"), "a b c  ");
 }
+
+TEST(Unicode, MendsHalvesOfCharacters)
+{
+    EXPECT_EQ(WellFormed(u"a😀\xD800"
+                         u"b\xDC00"),
+        u"a😀\uFFFDb\uFFFD");
+    EXPECT_EQ(WellFormed(u"\xDC00\xD800"), u"\uFFFD\uFFFD");
+    EXPECT_EQ(WellFormed(u""), u"");
+}

@@ -1,4 +1,4 @@
-// A SQLite database opened for reading only.
+// A SQLite database, opened for reading only or for writing too.
 #pragma once
 
 #include "vornix/sqlite/error.h"
@@ -28,12 +28,18 @@ bool IsDatabaseHeader(std::string_view firstBytes);
 // A name as it stands in a statement: in double quotes, inner ones doubled.
 std::string QuotedName(std::string_view name);
 
-// Every member raises Error. Nothing is ever written to the file.
+enum class Access { Read, Write };
+
+// Every member raises Error.
 class Database {
 public:
-    // Waits up to `patience` for a lock of another program to go away. A file that another program is not using
-    // and whose folder cannot be written opens all the same.
+    // For reading: nothing is ever written to the file. Waits up to `patience` for a lock of another program to go away.
+    // A file that another program is not using and whose folder cannot be written opens all the same.
     explicit Database(const std::string& path, std::chrono::milliseconds patience = std::chrono::milliseconds(1000));
+    // For writing, the file must be one that exists and may be written. A change that another program was ended in the
+    // middle of is taken back.
+    Database(
+        const std::string& path, Access access, std::chrono::milliseconds patience = std::chrono::milliseconds(1000));
     ~Database();
     Database(const Database&) = delete;
     Database& operator=(const Database&) = delete;
@@ -50,12 +56,20 @@ public:
     Statement ReadQuery(std::string_view sql) const;
     std::uint64_t CountRows(std::string_view name) const;
 
+    // Any single statement, with ? for its parameters.
+    Statement Prepare(std::string_view sql) const;
+    // A statement that gives no rows worth reading.
+    void Execute(std::string_view sql);
+
 private:
     struct Closer {
         void operator()(sqlite3* connection) const;
     };
 
-    void Open(const std::string& path, bool immutable, std::chrono::milliseconds patience);
+    enum class OpenMode { Read, ReadImmutable, Write };
+
+    void OpenForReading(const std::string& path, std::chrono::milliseconds patience);
+    void Open(const std::string& path, OpenMode mode, std::chrono::milliseconds patience);
     void Probe(const std::string& path) const;
 
     std::unique_ptr<ProgressFunction> progress_; // at a fixed address: the engine keeps a pointer to it

@@ -15,6 +15,7 @@ enum class ErrorKind {
     Sql, // the statement is wrong: syntax, unknown names, failing expressions
     NotAQuery, // the statement is fine but gives no rows to show, or would change something
     TooLong, // a value is longer than the library can hand over
+    NoRoom, // the disk is full
     Stopped, // the progress function said so
     Other,
 };

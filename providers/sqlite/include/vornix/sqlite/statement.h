@@ -2,6 +2,7 @@
 #pragma once
 
 #include "vornix/sqlite/declared_kind.h"
+#include "vornix/sqlite/value.h"
 
 #include <cstdint>
 #include <memory>
@@ -26,6 +27,11 @@ public:
     std::string DeclaredType(int column) const;
     DeclaredKind Kind(int column) const { return KindOfDeclaredType(DeclaredType(column)); }
 
+    // The value of a parameter, which count from 1; before the first Next() or after Reset(). Raises Error.
+    void Bind(int parameter, const Value& value);
+    // Back to before the first row; the parameters keep their values.
+    void Reset();
+
     // Steps to the next row; false after the last one. Raises Error.
     bool Next();
 
@@ -37,6 +43,10 @@ public:
     // UTF-16; bytes that are no text read as U+FFFD. Valid until the next call on the same column. Raises Error
     // (TooLong).
     std::u16string_view Text(int column) const;
+    // Of a text, in UTF-8, or of a blob, as stored as long as Text() of the column was not asked for; empty for anything
+    // else. Valid until the next call on the same column.
+    std::string_view Bytes(int column) const;
+    Value ValueOf(int column) const;
 
 private:
     friend class Database;

@@ -1,0 +1,64 @@
+// How the rows of a database table are told apart, and what they were when they were read.
+#pragma once
+
+#include "fingerprint.h"
+
+#include "vornix/sqlite/statement.h"
+#include "vornix/sqlite/table_layout.h"
+
+#include <cstdint>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace vornix::viewer {
+
+// A row on its own: what identifies it, and a fingerprint of all its values.
+struct DatabaseRow {
+    std::vector<sqlite::Value> key;
+    std::uint64_t print = 0;
+};
+
+// The statements that read and change rows give the key's columns first, then those of the table.
+class DatabaseRows {
+public:
+    explicit DatabaseRows(sqlite::TableLayout layout)
+        : layout_(std::move(layout))
+    {
+    }
+
+    const sqlite::TableLayout& Layout() const { return layout_; }
+    int KeyLength() const { return static_cast<int>(layout_.key.size()); }
+    std::string SelectAll() const;
+    // The parameters are the key's values.
+    std::string SelectOne() const;
+    // The parameters are the columns' new values, then those of the key; gives the key as it is then.
+    std::string Update(const std::vector<int>& columns) const;
+
+    // The row that the statement stands on, before any of its values was read as UTF-16.
+    DatabaseRow Read(const sqlite::Statement& statement) const;
+
+    // The rows count as the table's do.
+    const DatabaseRow& Row(int row) const { return rows_[static_cast<std::size_t>(row)]; }
+    void Append(DatabaseRow row) { rows_.push_back(std::move(row)); }
+    void Replace(int row, DatabaseRow read) { rows_[static_cast<std::size_t>(row)] = std::move(read); }
+
+    // A cell shows something other than its value: a blob, or bytes that are no text.
+    bool IsLocked(int row, int column) const { return locked_.contains({ row, column }); }
+    void SetLocked(int row, int column, bool isLocked);
+
+private:
+    std::string Columns() const;
+    std::string WhereKey() const;
+
+    sqlite::TableLayout layout_;
+    std::vector<DatabaseRow> rows_;
+    std::set<std::pair<int, int>> locked_;
+};
+
+// True when a cell's text says all of the value, so that it may be typed anew. To be asked before the value is read as
+// UTF-16.
+bool IsPlainValue(const sqlite::Statement& statement, int column);
+
+} // namespace vornix::viewer

@@ -1,0 +1,72 @@
+#include "document.h"
+
+#include <stdexcept>
+
+namespace vornix::viewer {
+
+namespace {
+
+// The first line break of the text; CR LF is one.
+std::u16string_view LineBreakOf(std::u16string_view text)
+{
+    const auto start = text.find_first_of(u"\r\n");
+    if (start == std::u16string_view::npos)
+        return {};
+    const bool isPair = text.substr(start).starts_with(u"\r\n");
+    return text.substr(start, isPair ? 2 : 1);
+}
+
+std::u16string WithLineBreaks(std::u16string_view text, std::u16string_view lineBreak)
+{
+    std::u16string result;
+    while (true) {
+        const std::u16string_view found = LineBreakOf(text);
+        if (found.empty())
+            return result.append(text);
+        const auto start = static_cast<std::size_t>(found.data() - text.data());
+        result.append(text.substr(0, start)).append(lineBreak);
+        text.remove_prefix(start + found.size());
+    }
+}
+
+} // namespace
+
+Document::Document(ChangeableSource source)
+    : source_(std::move(source))
+    , whyReadOnly_(source_.saver->WhyReadOnly())
+    , edits_(*source_.table)
+{
+}
+
+bool Document::CanChange(int row, int column) const
+{
+    return !whyReadOnly_ && source_.saver->CanChange(row, column);
+}
+
+void Document::Change(int row, int column, std::u16string_view text)
+{
+    const std::u16string_view lineBreak = LineBreakOf(Saved().Text(row, column));
+    if (!CanChange(row, column))
+        throw std::logic_error("this cell cannot be changed");
+    if (lineBreak.empty())
+        edits_.Set(row, column, text);
+    else
+        edits_.Set(row, column, WithLineBreaks(text, lineBreak));
+}
+
+std::vector<CellText> Document::Save()
+{
+    if (!IsChanged())
+        return {};
+    std::vector<CellText> others = source_.saver->Save(edits_);
+    for (const auto& [row, cells] : edits_.Rows()) {
+        for (const auto& [column, text] : cells)
+            source_.table->ReplaceText(row, column, text);
+    }
+    for (const CellText& cell : others)
+        source_.table->ReplaceText(cell.row, cell.column, cell.text);
+    edits_.Clear();
+    return others;
+}
+
+} // namespace vornix::viewer

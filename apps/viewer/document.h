@@ -1,0 +1,43 @@
+// A table that can be changed and saved.
+#pragma once
+
+#include "edits.h"
+#include "open_source.h"
+#include "saver.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vornix::viewer {
+
+// Rows, columns and texts as the table has them.
+class Document {
+public:
+    explicit Document(ChangeableSource source);
+
+    // As it was saved last.
+    const Table& Saved() const { return *source_.table; }
+    std::optional<std::string> WhyReadOnly() const { return whyReadOnly_; }
+    bool CanChange(int row, int column) const;
+
+    // Line breaks become those of the text that was saved, if it has any; an editor writes them all as CR LF. Throws
+    // std::out_of_range when there is no such cell, std::logic_error when it cannot be changed.
+    void Change(int row, int column, std::u16string_view text);
+    std::u16string_view Text(int row, int column) const { return edits_.Text(row, column); }
+    bool IsChanged() const { return !edits_.IsEmpty(); }
+    std::size_t ChangeCount() const { return edits_.Count(); }
+
+    // Saves all changes; nothing happens without one. Gives the cells that the source has given another text than they
+    // had here. Raises SaveError; the changes are all still there then.
+    std::vector<CellText> Save();
+
+private:
+    ChangeableSource source_;
+    std::optional<std::string> whyReadOnly_; // as it was when the source was opened
+    Edits edits_;
+};
+
+} // namespace vornix::viewer

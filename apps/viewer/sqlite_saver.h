@@ -1,0 +1,54 @@
+// Writes changed cells into a table of a database.
+#pragma once
+
+#include "database_rows.h"
+#include "saver.h"
+
+#include <string>
+#include <vector>
+
+namespace vornix::sqlite {
+class Database;
+}
+
+namespace vornix::viewer {
+
+// All changes are one transaction. A row that is gone, or of which anything was changed since it was read, is an error
+// that names it. A column makes of a text what its type says, as for any program that writes a text; where it takes
+// anything, a cell that held a number, or stands in a column of numbers, gets a number where the text is one. Without a
+// text a cell of a text column holds an empty one, and any other a null.
+class SqliteSaver final : public Saver {
+public:
+    // The table is what ReadChangeableTable has made of `rows`; it must outlive this. A reason not to change anything
+    // that was found when opening comes with it.
+    SqliteSaver(std::string path, const Table& table, DatabaseRows rows, std::optional<std::string> whyReadOnly);
+
+    std::optional<std::string> WhyReadOnly() const override { return whyReadOnly_; }
+    bool CanChange(int row, int column) const override;
+    std::vector<CellText> Save(const Edits& edits) override;
+
+private:
+    // A changed row as the database has it then.
+    struct ReadRow {
+        int row = 0;
+        DatabaseRow saved;
+        std::vector<std::u16string> texts;
+        std::vector<bool> isLocked;
+    };
+    using Types = std::map<int, sqlite::ValueType>; // by column
+
+    std::map<int, Types> RequireUnchanged(const sqlite::Database& database, const Edits& edits) const;
+    std::vector<sqlite::Value> Update(
+        const sqlite::Database& database, int row, const Edits::RowEdits& cells, const Types& types) const;
+    ReadRow Read(const sqlite::Database& database, int row, const std::vector<sqlite::Value>& key) const;
+    sqlite::Value ValueFor(int column, std::u16string_view text, sqlite::ValueType oldType) const;
+    std::u16string ShownText(const sqlite::Statement& statement, int column) const;
+    std::vector<CellText> TakeOver(std::vector<ReadRow> rows, const Edits& edits);
+
+    std::string path_;
+    const Table& table_;
+    DatabaseRows rows_;
+    std::optional<std::string> whyReadOnly_;
+};
+
+} // namespace vornix::viewer

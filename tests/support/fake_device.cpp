@@ -272,6 +272,12 @@ void FakeDevice::SetBkMode(BackgroundMode mode)
 int FakeDevice::DrawText(std::u16string_view text, Rect& rect, u32 format)
 {
     Note("DrawText \"" + Narrow(text) + "\" " + Text(rect) + " " + Hex(format, 1, ""));
+    if (format & DT_CALCRECT && screen_->measure) {
+        const Size size = screen_->measure(text, rect, format);
+        rect.right = rect.left + size.width;
+        rect.bottom = rect.top + size.height;
+        return size.height;
+    }
     if (format & DT_CALCRECT) {
         rect.right = rect.left + CharWidth * static_cast<int>(text.size());
         rect.bottom = rect.top + LineHeight;

@@ -3,6 +3,7 @@
 
 #include "vornix/platform/device.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -21,6 +22,8 @@ struct FakeScreen {
     int surfacesAlive = 0;
     int surfacesMade = 0;
     double scale = 1;
+    // How texts are measured: the size for a text, its rectangle and format. Without it, one line of the device's grid.
+    std::function<Size(std::u16string_view, const Rect&, u32)> measure;
 
     // Lines that begin with the device's name.
     std::vector<std::string> LinesOf(const std::string& name) const;

@@ -16,6 +16,7 @@ constexpr int Left = 37;
 constexpr int Up = 38;
 constexpr int Right = 39;
 constexpr int Down = 40;
+constexpr int Insert = 45;
 constexpr int Delete = 46;
 constexpr int F2 = 113;
 } // namespace Keys

@@ -36,14 +36,6 @@ int BorderWidth(u32 extendedStyle)
     return extendedStyle & StaticEdge ? 1 : 0;
 }
 
-FontPtr MakeAmbientFont()
-{
-    FontObject font;
-    font.Name = u"DejaVu Sans";
-    font.Size = 9;
-    return std::make_shared<const FontObject>(font);
-}
-
 [[noreturn]] void RaiseInvalid(const std::string& description)
 {
     throw AutomationError(ErrorNumber::InvalidArgument, description);

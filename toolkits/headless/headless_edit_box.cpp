@@ -13,6 +13,14 @@ constexpr i16 LeftButton = 1;
 
 } // namespace
 
+FontPtr MakeAmbientFont()
+{
+    FontObject font;
+    font.Name = u"DejaVu Sans";
+    font.Size = 9;
+    return std::make_shared<const FontObject>(font);
+}
+
 void HeadlessEditBox::KeyDown(i16& code, i16& shift)
 {
     if (!IsUsable())

@@ -14,7 +14,6 @@ constexpr i16 LeftButton = 1;
 constexpr i16 RightButton = 2;
 constexpr i16 MiddleButton = 4;
 constexpr i32 MostSteps = 32767;
-constexpr int LastKeyCode = 254;
 
 void Check(bool holds, const char* description)
 {
@@ -31,11 +30,6 @@ void CheckButton(i16 button)
 {
     Check(button == LeftButton || button == RightButton || button == MiddleButton,
         "A button is 1 (left), 2 (right) or 4 (middle)");
-}
-
-void CheckShift(i16 shift)
-{
-    Check(shift >= 0 && shift <= 7, "Keys held are the sum of 1 (Shift), 2 (Ctrl) and 4 (Alt)");
 }
 
 void CheckPress(PointerPlace place, i16 button, i16 shift)
@@ -205,12 +199,8 @@ void Person::RequireFocus()
 void Person::Type(std::u16string_view text)
 {
     RequireFocus();
-    char16_t before = 0;
-    for (const char16_t character : text) {
-        if (before != u'\r' || character != u'\n')
-            Strike(StrokeFor(character));
-        before = character;
-    }
+    for (const KeyStroke& stroke : StrokesFor(text))
+        Strike(stroke);
 }
 
 void Person::Press(std::string_view key, i16 shift)
@@ -222,7 +212,7 @@ void Person::Press(std::string_view key, i16 shift)
 
 void Person::Press(i16 code, i16 shift)
 {
-    Check(code >= 1 && code <= LastKeyCode, "A key code is 1 to 254");
+    CheckKey(code);
     CheckShift(shift);
     RequireFocus();
     Strike(StrokeOf(code, shift));

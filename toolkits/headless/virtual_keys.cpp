@@ -226,6 +226,31 @@ KeyStroke StrokeFor(char16_t character)
     return { SentCharacter, 0, static_cast<i16>(character) };
 }
 
+std::vector<KeyStroke> StrokesFor(std::u16string_view text)
+{
+    std::vector<KeyStroke> strokes;
+    strokes.reserve(text.size());
+    char16_t before = 0;
+    for (const char16_t character : text) {
+        if (before != u'\r' || character != u'\n')
+            strokes.push_back(StrokeFor(character));
+        before = character;
+    }
+    return strokes;
+}
+
+void CheckKey(i16 code)
+{
+    if (code < 1 || code > LastKeyCode)
+        throw AutomationError(ErrorNumber::InvalidArgument, "A key code is 1 to 254");
+}
+
+void CheckShift(i16 shift)
+{
+    if (shift < 0 || shift > (ShiftDown | CtrlDown | AltDown))
+        throw AutomationError(ErrorNumber::InvalidArgument, "Keys held are the sum of 1 (Shift), 2 (Ctrl) and 4 (Alt)");
+}
+
 i16 CodeOfKey(std::string_view name)
 {
     return ChordOfKey(name).code;

@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string_view>
+#include <vector>
 
 namespace vornix {
 
@@ -32,6 +33,7 @@ inline constexpr i16 InsertKey = 45;
 inline constexpr i16 DeleteKey = 46;
 inline constexpr i16 F1Key = 112;
 inline constexpr i16 F4Key = 115;
+inline constexpr i16 LastKeyCode = 254;
 
 // A key that is struck, what is held with it, and the character that comes of it.
 struct KeyStroke {
@@ -44,6 +46,9 @@ struct KeyStroke {
 // control characters up to 26 are letters with Ctrl. What no key gives arrives with the code 231, which stands for a
 // character that was sent in place of a key.
 KeyStroke StrokeFor(char16_t character);
+
+// How a text is typed: as above, and a line break of two characters with one Return.
+std::vector<KeyStroke> StrokesFor(std::u16string_view text);
 
 // What comes of a key with these held: no character with Alt. With Ctrl, letters give 1 to 26, Return 10, Back 127,
 // Escape and Space themselves, and other keys nothing.
@@ -62,6 +67,10 @@ KeyChord ChordOfKey(std::string_view name);
 
 // The code alone.
 i16 CodeOfKey(std::string_view name);
+
+// Error 5 for a code that is not 1 to 254, and for a sum of keys held that there is not.
+void CheckKey(i16 code);
+void CheckShift(i16 shift);
 
 // The flag in shift that the key itself sets while it is down; 0 for keys that set none.
 i16 ShiftFlagOf(i16 code);

@@ -9,6 +9,9 @@
 
 namespace vornix {
 
+// DejaVu Sans, 9 points.
+FontPtr MakeAmbientFont();
+
 // What a box stands in. The clipboard must outlive the box.
 struct FieldSurroundings {
     std::u16string& clipboard;

@@ -104,8 +104,8 @@ public:
     // mask and MultiLine.
     bool NumericOnly() const;
     void SetNumericOnly(bool Value);
-    // What an empty place shows ("_"), and what it gives in Text (NUL). The first character counts; "" is ignored. The
-    // form follows when Mask is written.
+    // What an empty place shows ("_"), and what it gives in Text (NUL). The first character counts; "" is ignored, and so
+    // is a character of two units, which no place of a form holds. The form follows when Mask is written.
     std::u16string PromptChar() const;
     void SetPromptChar(std::u16string_view Value);
     std::u16string ReplaceChar() const;
@@ -120,14 +120,18 @@ public:
     void SetSelStart(i32 Value);
     i32 SelLength() const;
     void SetSelLength(i32 Value);
-    // Writing goes through the mask and raises Change.
+    // Writing goes through the mask and raises Change: behind a mask if the text is another then, without one always but
+    // for "" in place of nothing.
     std::u16string SelText() const;
     void SetSelText(std::u16string_view Value);
 
     // -- Size --
 
-    // Whether the box grows with its text, between the normal size and the greatest one, pixels. At the greatest height it
-    // gets a scroll bar. It then breaks lines, whatever MultiLine says.
+    // Whether the box grows with its text, between the normal size and the greatest one, pixels: when the user changes it,
+    // on Escape, and when the box is shown. A text that needs more than the normal size gets a border, and Resize is
+    // raised. At the greatest height the box gets a scroll bar, left aligned, and keeps it until AutoResize or a setting
+    // of the kind is written. Lines break, whatever MultiLine says. All four sizes are 0 at the start, and the box
+    // then stays as it is.
     bool AutoResize() const;
     void SetAutoResize(bool Value);
     i16 NormalWidth() const;
@@ -158,7 +162,7 @@ public:
 
     bool RightToLeft() const;
     void SetRightToLeft(bool Value);
-    // The first character counts; "" shows the text.
+    // The first character counts; "" shows the text, and a character of two units is ignored.
     std::u16string PasswordChar() const;
     void SetPasswordChar(std::u16string_view Value);
     i32 MousePointer() const;
@@ -172,7 +176,7 @@ public:
     FontPtr Font() const;
     // Null is error 5.
     void SetFont(const FontPtr& Value);
-    // Points.
+    // Points. What is not above 0, or above 32767, is error 5.
     float FontSize() const;
     void SetFontSize(float Value);
     std::u16string FontName() const;
@@ -193,9 +197,10 @@ public:
     void SetOLEDropMode(i32 Value);
     i32 OLEDragMode() const;
     void SetOLEDragMode(i32 Value);
-    // Characters that the user can type; 0 for any.
+    // Characters that the user can type into a box without a mask; 0 for any.
     i32 MaxLength() const;
     void SetMaxLength(i32 Value);
+    // Whether the user cannot change the text.
     bool Locked() const;
     void SetLocked(bool Value);
     // 0 none, others a single line.

@@ -274,7 +274,10 @@ std::u16string TextBox::PasswordChar() const
 
 void TextBox::SetPasswordChar(std::u16string_view Value)
 {
-    parts_->settings.PasswordChar = Value.empty() ? char16_t { 0 } : Value.front();
+    if (Value.empty())
+        parts_->settings.PasswordChar = 0;
+    else if (!IsSurrogate(Value.front()))
+        parts_->settings.PasswordChar = Value.front();
     parts_->box.SetPasswordChar(parts_->settings.PasswordChar);
     parts_->Report("PasswordChar");
 }

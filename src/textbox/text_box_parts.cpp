@@ -3,6 +3,7 @@
 #include "automation/colors.h"
 #include "automation/font_description.h"
 #include "automation/key_codes.h"
+#include "automation/scoped_flag.h"
 #include "textbox/box_choice.h"
 
 #include <algorithm>
@@ -11,22 +12,6 @@
 namespace vornix {
 
 namespace {
-
-// Sets a flag for as long as it lives.
-class Raised {
-public:
-    explicit Raised(bool& flag)
-        : flag_(flag)
-    {
-        flag_ = true;
-    }
-    ~Raised() { flag_ = false; }
-    Raised(const Raised&) = delete;
-    Raised& operator=(const Raised&) = delete;
-
-private:
-    bool& flag_;
-};
 
 Size SizeOf(const Rect& rect)
 {
@@ -204,7 +189,7 @@ bool TextBox::Parts::IsFlat() const
 
 void TextBox::Parts::TakeSize(Size size)
 {
-    const Raised sizing(sizingSelf_);
+    const ScopedFlag sizing(sizingSelf_);
     const Rect place = window.Place();
     window.Move({ place.left, place.top, place.left + std::max(size.width, 0), place.top + std::max(size.height, 0) });
 }
@@ -214,7 +199,7 @@ void TextBox::Parts::EnterFocus()
 {
     if (enteringFocus_ || !window.IsVisible())
         return;
-    const Raised entering(enteringFocus_);
+    const ScopedFlag entering(enteringFocus_);
     window.SetEnabled(true);
     window.SetFocus();
 }

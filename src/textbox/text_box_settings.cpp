@@ -1,6 +1,7 @@
 #include "textbox/text_box_settings.h"
 
 #include "automation/checked.h"
+#include "textbox/mask_form.h"
 
 #include <array>
 #include <cmath>
@@ -40,11 +41,11 @@ std::u16string TextOf(char16_t character)
     return character == 0 ? std::u16string() : std::u16string(1, character);
 }
 
-// The first character; an empty text leaves what is there.
+// The first character; an empty text leaves what is there, and so does a character of two units.
 void TakeFirst(char16_t& character, const BagValue& value)
 {
     const std::u16string text = Text(value);
-    if (!text.empty())
+    if (!text.empty() && !IsSurrogate(text.front()))
         character = text.front();
 }
 

@@ -235,6 +235,8 @@ TEST_F(TextBoxMembersTest, EverySettingIsKeptAndGivenToTheBox)
     EXPECT_EQ(Box.BorderStyle(), 2);
     EXPECT_TRUE(Native.hasBorder);
     EXPECT_EQ(Box.WhatsThisHelpID(), -5);
+    Box.SetPasswordChar(u"\U0001F600");
+    EXPECT_EQ(Box.PasswordChar(), u"*") << "a sign has one unit";
     Box.SetPasswordChar(u"");
     EXPECT_EQ(Box.PasswordChar(), u"");
     EXPECT_EQ(Native.passwordChar, 0);

@@ -209,6 +209,9 @@ TEST_F(TextBoxSettingsTest, OfCharactersTheFirstCountsAndNoneIsIgnored)
     EXPECT_EQ(Box.PromptChar(), u"_");
     EXPECT_EQ(Box.ReplaceChar(), u"\0"s);
     EXPECT_EQ(Box.PasswordChar(), u"");
+    ReadFrom(
+        { { "PromptChar", u"\U0001F600"s }, { "ReplaceChar", u"\U0001F600"s }, { "PasswordChar", u"\U0001F600"s } });
+    EXPECT_THAT(Keys(), testing::IsEmpty());
 }
 
 TEST_F(TextBoxSettingsTest, TruthValuesMayBeNumbers)

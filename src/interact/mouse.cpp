@@ -30,6 +30,7 @@ void Mouse::ForgetPressUnlessHeld()
 
 void Mouse::Abandon()
 {
+    isAbandoned_ = true;
     context_.sizing.End();
     context_.sizing.RestoreCursor();
     isArmed_ = hasMoved_ = isClickArmed_ = inDblClick_ = false;
@@ -84,6 +85,7 @@ void Mouse::Down(i16 button, i16 shift, float x, float y)
     button_ = button;
     shift_ = shift;
     isArmed_ = false;
+    isAbandoned_ = false;
     isButtonCell_ = false;
     context_.current.HostMovedCurrent = false;
 
@@ -125,17 +127,19 @@ void Mouse::PressOnCell(i16 shift, Point at, float x, float y)
     context_.pressed.cell = hover_;
     downAt_ = at;
     downHit_ = hit_;
-    if (context_.editor.IsEditorOpenOn(Pressed())) // the press belongs to the editor
+    if (context_.editor.IsEditorOpenOn(Pressed())) { // the press belongs to the editor
+        context_.selection.PressKind = SelectionKind::None;
         return;
+    }
     const PressZone zone = ZoneOfPress();
     const CellIndex chosenAs = context_.mover.PublicPlaceOf(Pressed());
     isArmed_ = true;
     {
         const CurrentCell::EventGuard guard(context_.current);
         context_.events.MouseDown(Buttons::Left, shift, x, y);
-        if (IsHovering())
+        if (!isAbandoned_ && IsHovering())
             ShowPress();
-        if (context_.mover.IsStill(Pressed(), chosenAs)) {
+        if (!isAbandoned_ && context_.mover.IsStill(Pressed(), chosenAs)) {
             context_.selecting.Press(zone, Pressed(), shift);
             if (!MoveCurrentToPress(shift, chosenAs))
                 context_.selection.EndDrag();
@@ -162,6 +166,8 @@ void Mouse::ShowPress()
         const RedrawGate::Closed closed(context_.gate);
         Raise(&VornixEvents::CellDown, Pressed());
     }
+    if (isAbandoned_)
+        return;
     const i32 mode = ModeOf(Pressed());
     isButtonCell_ = mode == vxCommandButton || mode == vxPressButton;
     RepaintButton();
@@ -179,7 +185,11 @@ bool Mouse::MoveCurrentToPress(i16 shift, CellIndex chosenAs)
         context_.editor.CloseEditor();
     if (leavesRow)
         context_.events.ValidateRow();
+    if (isAbandoned_)
+        return false;
     const CurrentCellMover::Answer answer = mover.AskHost(target, chosenAs);
+    if (isAbandoned_)
+        return false;
     if (answer == CurrentCellMover::Answer::Take)
         mover.Take(target);
     return answer != CurrentCellMover::Answer::Refused;

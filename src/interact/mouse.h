@@ -51,7 +51,7 @@ public:
     void Tick();
 
     void ExitHover() override;
-    // Of the latest press, 0 behind a click; of the latest press or move.
+    // Of the latest press, 0 behind a Click that a cell has answered; of the latest press or move.
     i16 Button() const { return button_; }
     i16 ShiftState() const { return shift_; }
     // The left button went down on a cell and is held.
@@ -117,6 +117,8 @@ private:
     Point downAt_;
     CellIndex downHit_ = Nowhere;
     bool isArmed_ = false;
+    // A handler has disabled the control in the middle of a press or a release, which then goes no further.
+    bool isAbandoned_ = false;
     // The pointer has left the pixels around the press.
     bool hasMoved_ = false;
     // The cell of the press looks pressed while it is held down.

@@ -11,6 +11,7 @@ namespace vornix {
 void Mouse::Up(i16 button, i16 shift, float x, float y)
 {
     isArmed_ = false;
+    isAbandoned_ = false;
     Watch(true);
     inDblClick_ = false;
     isClickArmed_ = false;
@@ -28,6 +29,8 @@ void Mouse::Up(i16 button, i16 shift, float x, float y)
     context_.selection.EndDrag();
     hasMoved_ = false;
     RaiseUp(button, shift, x, y);
+    if (isAbandoned_)
+        return;
 
     const Point at = PixelAt(x, y);
     TakeHit(context_.layout.HitTestCell(at.x, at.y));

@@ -11,9 +11,9 @@ namespace {
 // So many pixels outside give one row more at every move.
 constexpr int PixelsPerRow = 5;
 
-LineRange UpTo(int last, LineRange range)
+LineRange Within(int last, LineRange range)
 {
-    return { std::min(range.first, last), std::min(range.last, last) };
+    return { std::clamp(range.first, 0, last), std::clamp(range.last, 0, last) };
 }
 
 } // namespace
@@ -151,12 +151,13 @@ void MouseSelection::ToggleLine(CellIndex cell)
         AddDragged(false);
 }
 
-// Without the lines that a handler has taken away meanwhile; the filler may be among them, as the paint has it.
+// Without lines that there are not: those that a handler has taken away meanwhile, and the one before the first that a
+// drag beyond the left edge ends in. The filler may be among them, as the paint has it.
 void MouseSelection::AddDragged(bool reset)
 {
     GridSelection& selection = context_.selection;
-    const LineRange rows = UpTo(context_.store.MaxRow(), selection.DragRows());
-    const LineRange cols = UpTo(context_.store.MaxCol(), selection.DragCols());
+    const LineRange rows = Within(context_.store.MaxRow(), selection.DragRows());
+    const LineRange cols = Within(context_.store.MaxCol(), selection.DragCols());
     switch (selection.PressKind) {
     case SelectionKind::Cells:
         return selection.Ranges().AddCells(reset, rows.first, cols.first, rows.last, cols.last);

@@ -78,7 +78,8 @@ void SelectCollection::AddRange(i32 first, i32 last)
 
 SelectedRange& SelectCollection::Item(int slot)
 {
-    answers_.clear();
+    if (!answers_.empty()) // clearing costs as much as there once were
+        answers_.clear();
     return items_[static_cast<std::size_t>(slot)];
 }
 

@@ -70,8 +70,8 @@ TEST_F(MouseClick, OnADisabledCellThatIsEditedEndsWithoutTheGrids)
     for (const i32 mode : { vxTextBox, vxComboDropDownBox, vxComboListBox, vxCustom }) {
         Grid().SetColMode(2, mode);
         Grid().SetCellEnabled(1, 2, true);
-        EXPECT_THAT(ClickEvents(1, 2),
-            testing::AllOf(testing::Contains("BeforeEdit Row=1 Col=2"), testing::Contains("Click")))
+        EXPECT_THAT(
+            ClickEvents(1, 2), testing::AllOf(testing::Contains("BeforeEdit Row=1 Col=2"), testing::Contains("Click")))
             << mode;
         Grid().ExitEdit();
         Grid().SetCellEnabled(1, 2, false);

@@ -284,6 +284,31 @@ TEST_F(MousePress, EndsWhenTheControlIsDisabled)
     EXPECT_EQ(host->Pointer(), PointerShape::Default);
 }
 
+TEST_F(MousePress, GoesNoFurtherBehindAnEventThatDisablesTheControl)
+{
+    Grid().SetCellSelection(true);
+    const auto disable = [&] { Grid().SetEnabled(false); };
+    const auto saidWith = [&](const std::function<void()>& set) {
+        handlers.OnMouseDown = nullptr;
+        handlers.OnCellDown = nullptr;
+        handlers.OnMouseUp = nullptr;
+        set();
+        Grid().SetEnabled(true);
+        host->ClearLog();
+        ClickOn(1, 2);
+        return SaidNames();
+    };
+    EXPECT_EQ(
+        saidWith([&] { handlers.OnMouseDown = [=](i16, i16, float, float) { disable(); }; }), Lines { "MouseDown" });
+    EXPECT_EQ(
+        saidWith([&] { handlers.OnCellDown = [=](i16, i16) { disable(); }; }), (Lines { "MouseDown", "CellDown" }));
+    EXPECT_EQ(Current(), NoCell);
+    EXPECT_EQ(saidWith([&] { handlers.OnMouseUp = [=](i16, i16, float, float) { disable(); }; }),
+        (Lines { "MouseDown", "CellDown", "CellChange", "MouseUp" }));
+    Grid().SetEnabled(true);
+    EXPECT_FALSE(LooksSelected(2, 2));
+}
+
 TEST_F(MousePress, IsForgottenWithItsTable)
 {
     Grid().SetColMode(2, vxPressButton);

@@ -449,6 +449,17 @@ TEST_F(MouseScrolls, UpOntoTheFixedRowAtTheTop)
     EXPECT_EQ((CellPlace { Row2, Col2 }), (CellPlace { 2, 1 }));
 }
 
+TEST_F(MouseScrolls, LeftOfATableWithoutFixedColumns)
+{
+    Grid().SetFixedCols(0);
+    Press(2, 1);
+    host->MouseMove(-1, Y(2), 1);
+    host->MouseUp(-1, Y(2));
+    i16 Row1 = 0, Col1 = 0, Row2 = 0, Col2 = 0;
+    ASSERT_TRUE(Grid().GetSelectedCells(Row1, Col1, Row2, Col2));
+    EXPECT_EQ(Col1, 0) << "there is none before the first";
+}
+
 TEST_F(MouseScrolls, UpAndThenOutBelow)
 {
     Grid().SetFirstRow(50);

@@ -44,7 +44,8 @@ public:
 
     // A key, and each character that it types, before the box acts on them: what is set to 0 is not for the box. Shift is
     // the sum of the keys held: 1 Shift, 2 Ctrl, 4 Alt. A key that types nothing has no KeyPress; neither has one whose
-    // code was set to 0. What an input method has composed comes as characters without keys, one for each UTF-16 unit.
+    // code was set to 0. What an input method has composed comes as one KeyDown of the code 229, without a KeyUp, and as a
+    // KeyPress for each UTF-16 unit.
     virtual void KeyDown(i16& KeyCode, i16& Shift) = 0;
     virtual void KeyPress(i16& KeyAscii, i16 Shift) = 0;
     virtual void KeyUp(i16& KeyCode, i16& Shift) = 0;

@@ -1,6 +1,9 @@
 #include "qt_ambient.h"
 
 #include "automation/font_description.h"
+#ifdef VORNIX_WITH_ICU
+#include "vornix/icu_locale.h"
+#endif
 
 #include <QColor>
 #include <QFontInfo>
@@ -51,6 +54,16 @@ ColorRef ColorFrom(const QColor& color)
 }
 
 } // namespace
+
+const Locale& UserLocale()
+{
+#ifdef VORNIX_WITH_ICU
+    static const std::unique_ptr<Locale> locale = MakeIcuLocale();
+    return *locale;
+#else
+    return BuiltinLocale();
+#endif
+}
 
 SystemColors SystemColorsFrom(const QPalette& palette)
 {

@@ -1,6 +1,7 @@
 // What the grid takes from the application's look: colours, font, and texts between the two worlds.
 #pragma once
 
+#include "vornix/platform/locale.h"
 #include "vornix/platform/system_colors.h"
 #include "vornix/types.h"
 
@@ -14,6 +15,8 @@
 
 namespace vornix {
 
+// The running user's own where ICU is built in; otherwise the built-in one.
+const Locale& UserLocale();
 SystemColors SystemColorsFrom(const QPalette& palette);
 // The size in points of 1/72 inch at 96 pixels an inch, whatever the resolution that Qt reckons with.
 FontPtr FontFrom(const QFont& font, int dotsPerInch);

@@ -398,8 +398,20 @@ void QtComboBox::Choose(int index)
         HearActivation(chosen);
 }
 
+// In a field without characters of its own.
+bool QtComboBox::WalksToEnd(const QKeyEvent& event)
+{
+    const bool isEnd = event.key() == Qt::Key_End;
+    if (!isListOnly_ || !IsPlain(event) || (!isEnd && event.key() != Qt::Key_Home))
+        return false;
+    Choose(isEnd ? model_.Count() - 1 : 0);
+    return true;
+}
+
 bool QtComboBox::Walks(const QKeyEvent& event)
 {
+    if (WalksToEnd(event))
+        return true;
     const int rows = RowsOf(event);
     if (rows == 0)
         return false;

@@ -61,6 +61,7 @@ private:
     bool Hears(QObject& watched, QEvent& event);
     bool HearsInList(QEvent& event);
     bool Walks(const QKeyEvent& event);
+    bool WalksToEnd(const QKeyEvent& event);
     void Choose(int index);
     void ShowIndex();
     void HearEdit();

@@ -7,9 +7,6 @@
 #include "qt_editor_window.h"
 #include "qt_frame_window.h"
 #include "qt_scroll_bar.h"
-#ifdef VORNIX_WITH_ICU
-#include "vornix/icu_locale.h"
-#endif
 
 #include <QApplication>
 #include <QClipboard>
@@ -93,13 +90,8 @@ QtContainer::QtContainer(QFrame& widget)
     , focus_(setting_)
     , hostWindows_(widget)
     , widget_(widget)
-    , locale_(&BuiltinLocale())
     , settings_(std::make_unique<QtSettings>())
 {
-#ifdef VORNIX_WITH_ICU
-    userLocale_ = MakeIcuLocale();
-    locale_ = userLocale_.get();
-#endif
     // The frame before what is in it.
     children_[static_cast<std::size_t>(ChildName::fraEdit)] = MakeChild(ChildName::fraEdit);
     for (std::size_t child = 0; child < children_.size(); ++child) {
@@ -225,6 +217,11 @@ Surface* QtContainer::BackStore(Size size)
             UseSurface(std::move(surface));
     }
     return window_.get();
+}
+
+const Locale& QtContainer::GetLocale() const
+{
+    return UserLocale();
 }
 
 Size QtContainer::ScreenSizeInTwips() const

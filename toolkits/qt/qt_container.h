@@ -48,7 +48,7 @@ public:
     bool UserMode() const override { return true; }
     FontPtr AmbientFont() const override { return font_; }
     const SystemColors& Colors() const override { return setting_.colors; }
-    const Locale& GetLocale() const override { return *locale_; }
+    const Locale& GetLocale() const override;
     Size ScreenSizeInTwips() const override;
     Size TwipsPerPixel() const override;
     Size ClientSize() const override { return client_; }
@@ -87,8 +87,6 @@ private:
     QtHostWindows hostWindows_;
     QFrame& widget_;
     FontPtr font_;
-    std::unique_ptr<Locale> userLocale_;
-    const Locale* locale_;
     Size client_;
     u32 extendedStyle_ = 0;
     PointerShape pointer_ = PointerShape::Default;

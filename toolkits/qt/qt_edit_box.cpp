@@ -22,6 +22,8 @@ public:
     {
         setAutoFillBackground(true);
     }
+    // The fields go next.
+    ~Frame() override { box_.field_ = nullptr; }
 
 protected:
     void resizeEvent(QResizeEvent* event) override
@@ -300,11 +302,15 @@ template <typename Step> void QtEditBox::Tell(const Step& step)
 
 bool QtEditBox::Hears(QObject& watched, QEvent& event)
 {
-    if (!field_ || !frame_)
+    if (!field_)
         return false;
     if (&watched == &field_->Canvas() && pointer_.Hears(field_->Canvas(), *frame_, event))
         return true;
-    return &watched == &field_->Widget() && keys_.Hears(event);
+    if (&watched != &field_->Widget())
+        return false;
+    if (event.type() == QEvent::FocusIn && OnFocus)
+        OnFocus(field_->Widget());
+    return keys_.Hears(event);
 }
 
 void QtEditBox::HearChange(const QtEditField& field)
@@ -363,6 +369,9 @@ QWidget& QtEditBox::KeyWidget()
 
 void QtEditBox::ActOnKey(QKeyEvent& event, ChangeOrigin origin)
 {
+    const QString text = event.text();
+    if (!text.isEmpty() && text.front().isPrint() && !field_->HasRoomFor(static_cast<int>(text.size())))
+        return event.accept();
     Acting(origin, [&] { event.setAccepted(field_->Act(event)); });
 }
 

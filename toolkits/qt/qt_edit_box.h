@@ -29,6 +29,8 @@ public:
     QWidget& Window();
     // Who moves the focus on for Tab. Otherwise Qt does.
     std::function<bool(bool forward)> OnTab;
+    // A field of the box is about to learn that it has the focus.
+    std::function<void(QWidget& field)> OnFocus;
 
     std::u16string Text() const override;
     void SetText(std::u16string_view text) override;

@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QProxyStyle>
+#include <QRegularExpression>
+#include <QScopedValueRollback>
 #include <QStyleFactory>
 
 #include <algorithm>
@@ -18,6 +20,8 @@ namespace {
 constexpr int SideMargin = 2;
 constexpr int TopMargin = 1;
 constexpr int Unlimited = std::numeric_limits<int>::max();
+
+const QRegularExpression LineBreak(QStringLiteral("[\\r\\n\u2028\u2029]"));
 
 } // namespace
 
@@ -47,16 +51,45 @@ QtLineField::QtLineField(QWidget* parent)
     setFrame(false);
     setMaxLength(Unlimited);
     setTextMargins(-SideMargin, -TopMargin, -SideMargin, -TopMargin);
-    QObject::connect(this, &QLineEdit::textChanged, this, [this] {
-        FitMaxLength();
-        if (OnChange)
-            OnChange();
-    });
+    QObject::connect(this, &QLineEdit::textChanged, this, [this] { HearChange(); });
 }
 
 QtLineField::~QtLineField()
 {
     setStyle(nullptr);
+}
+
+void QtLineField::HearChange()
+{
+    if (!isProgram_)
+        TameAdded();
+    former_ = text();
+    if (OnChange)
+        OnChange();
+}
+
+// Of what is pasted or dropped the first line stays, as far as there is room. Qt's own limit would cut what a program
+// has written, too.
+void QtLineField::TameAdded()
+{
+    const QString now = text();
+    const auto begins = std::mismatch(now.begin(), now.end(), former_.begin(), former_.end());
+    const qsizetype start = begins.first - now.begin();
+    const qsizetype most = std::min(now.size(), former_.size()) - start;
+    qsizetype same = 0;
+    while (same < most && now[now.size() - 1 - same] == former_[former_.size() - 1 - same])
+        ++same;
+    const QString added = now.mid(start, now.size() - same - start);
+    qsizetype kept = added.indexOf(LineBreak);
+    if (kept < 0)
+        kept = added.size();
+    if (mostTyped_ > 0)
+        kept = std::min(kept, std::max<qsizetype>(mostTyped_ - (now.size() - added.size()), 0));
+    if (kept == added.size())
+        return;
+    const QScopedValueRollback<bool> program(isProgram_, true);
+    setSelection(static_cast<int>(start + kept), static_cast<int>(added.size() - kept));
+    del();
 }
 
 void QtLineField::Apply(const QtEditSettings& settings)
@@ -75,7 +108,6 @@ void QtLineField::Apply(const QtEditSettings& settings)
     setLayoutDirection(direction);
     ShowSign(settings.passwordChar);
     mostTyped_ = settings.maxLength;
-    FitMaxLength();
 }
 
 void QtLineField::ShowSign(char16_t sign)
@@ -91,12 +123,6 @@ void QtLineField::ShowSign(char16_t sign)
     setEchoMode(sign ? Password : Normal);
 }
 
-// A text that is longer than what can be typed stays whole.
-void QtLineField::FitMaxLength()
-{
-    setMaxLength(mostTyped_ <= 0 ? Unlimited : std::max(int { mostTyped_ }, static_cast<int>(text().size())));
-}
-
 bool QtLineField::HasRoomFor(int characters) const
 {
     return mostTyped_ <= 0 || text().size() - SelLength() + characters <= mostTyped_;
@@ -109,9 +135,8 @@ std::u16string QtLineField::Text() const
 
 void QtLineField::SetText(std::u16string_view text)
 {
-    setMaxLength(Unlimited);
+    const QScopedValueRollback<bool> program(isProgram_, true);
     setText(ToQString(text));
-    FitMaxLength();
     setCursorPosition(0);
 }
 
@@ -135,12 +160,13 @@ void QtLineField::Select(int start, int length)
 
 void QtLineField::Insert(std::u16string_view text)
 {
-    setMaxLength(Unlimited);
+    const QScopedValueRollback<bool> program(isProgram_, true);
+    if (text.empty() && !hasSelectedText())
+        return;
     if (text.empty())
         del();
     else
         insert(ToQString(text));
-    FitMaxLength();
 }
 
 bool QtLineField::Act(QKeyEvent& event)

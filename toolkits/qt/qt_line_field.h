@@ -30,11 +30,14 @@ public:
 private:
     class SignStyle;
 
+    void HearChange();
+    void TameAdded();
     void ShowSign(char16_t sign);
-    void FitMaxLength();
 
     i32 mostTyped_ = 0;
     char16_t sign_ = 0;
+    QString former_;
+    bool isProgram_ = false;
     std::unique_ptr<SignStyle> signStyle_;
 };
 

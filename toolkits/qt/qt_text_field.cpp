@@ -152,9 +152,10 @@ void QtTextField::insertFromMimeData(const QMimeData* source)
 bool QtTextField::Act(QKeyEvent& event)
 {
     event.accept();
-    // With Shift it would be another kind of line's end.
+    // With Shift it would be another kind of line's end, and with Ctrl none.
     const bool isReturn = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-    if (isReturn && event.modifiers().testFlag(Qt::ShiftModifier)) {
+    const bool isOther = event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier);
+    if (isReturn && isOther && !event.modifiers().testFlag(Qt::AltModifier)) {
         QKeyEvent plain(event.type(), Qt::Key_Return, Qt::NoModifier, event.text());
         return Act(plain);
     }

@@ -1,4 +1,5 @@
-// vornix-view: shows a file of separated values or a table of a database.
+// vornix-view: shows a file of separated values or a table of a database, and changes it.
+#include "document.h"
 #include "open_source.h"
 #include "options.h"
 #include "progress_line.h"
@@ -17,13 +18,21 @@ namespace {
 
 using namespace vornix::viewer;
 
-Table Load(const ViewerOptions& options)
+template <typename Source>
+Source Load(
+    const ViewerOptions& options, Source (*open)(const ViewerOptions&, const LoadLimits&, const ProgressFunction&))
 {
     ProgressLine line(std::cerr, FileName(options));
     ProgressFunction progress;
     if (::isatty(STDERR_FILENO))
         progress = [&](const Progress& state) { line.Update(state); };
-    return OpenSource(options, LoadLimits(), progress);
+    return open(options, LoadLimits(), progress);
+}
+
+void ReportNotices(const ViewerOptions& options, const Table& table)
+{
+    for (const std::string& notice : table.Notices())
+        ReportLine(FileName(options) + ": " + notice);
 }
 
 int List(const ViewerOptions& options)
@@ -33,11 +42,19 @@ int List(const ViewerOptions& options)
     return 0;
 }
 
+int LoadAndEdit(const ViewerOptions& options)
+{
+    Document document(Load(options, OpenForChanging));
+    ReportNotices(options, document.Saved());
+    if (const auto reason = document.WhyReadOnly())
+        ReportLine(FileName(options) + ": nothing can be changed: " + *reason);
+    return EditDocument(document, options);
+}
+
 int LoadAndShow(const ViewerOptions& options)
 {
-    const Table table = Load(options);
-    for (const std::string& notice : table.Notices())
-        ReportLine(FileName(options) + ": " + notice);
+    const Table table = Load(options, OpenSource);
+    ReportNotices(options, table);
     if (options.action == ViewerAction::Show)
         return ShowTable(table, options);
     WriteAsText(table, std::cout);
@@ -52,7 +69,9 @@ int Act(ViewerOptions& options)
     }
     if (options.file.empty())
         options.file = SamplePath();
-    return options.action == ViewerAction::List ? List(options) : LoadAndShow(options);
+    if (options.action == ViewerAction::List)
+        return List(options);
+    return options.edit ? LoadAndEdit(options) : LoadAndShow(options);
 }
 
 int Run(int count, const char* const* arguments)

@@ -66,6 +66,9 @@ public:
         snapshot_ = Add("--snapshot", "OUT.png", "write a picture to this file instead of opening a window");
         size_ = Add("--size", "WxH", "width and height in logical pixels, 1280x800 unless given");
         scale_ = Add("--scale", "S", "device pixels for each logical pixel, from 1 to 4");
+        edit_ = AddFlag("--edit",
+            "open for changing: what is typed into a cell is stored as it is typed, Ctrl+S saves; needs FILE and a "
+            "display");
         list_ = AddFlag("--list", "list the tables and views, and do nothing else");
         text_ = AddFlag("--text", "write the table as tab separated values, and do nothing else");
         parser_.set_version_flag("--version", "vornix-view " VORNIX_VERSION, "show the version and exit");
@@ -73,6 +76,7 @@ public:
         query_->excludes(table_);
         list_->excludes(table_)->excludes(query_)->excludes(snapshot_)->excludes(text_);
         text_->excludes(snapshot_);
+        edit_->excludes(query_)->excludes(snapshot_)->excludes(list_)->excludes(text_);
     }
 
     ViewerOptions Parse(int count, const char* const* arguments)
@@ -128,6 +132,9 @@ private:
         if (const auto scale = ValueOf(scale_))
             SetScale(options, *scale);
         CheckPictureSize(options);
+        options.edit = edit_->count() > 0;
+        if (options.edit && options.file.empty())
+            throw OptionsError("--edit needs the name of a file");
         if (list_->count() > 0)
             options.action = ViewerAction::List;
         if (text_->count() > 0)
@@ -135,13 +142,17 @@ private:
         return options;
     }
 
-    CLI::App parser_ { "Shows a file of separated values (CSV, TSV) or a table of a SQLite database.", "vornix-view" };
+    CLI::App parser_ {
+        "Shows a file of separated values (CSV, TSV) or a table of a SQLite database, and changes it with --edit.",
+        "vornix-view"
+    };
     CLI::Option* file_ = nullptr;
     CLI::Option* table_ = nullptr;
     CLI::Option* query_ = nullptr;
     CLI::Option* snapshot_ = nullptr;
     CLI::Option* size_ = nullptr;
     CLI::Option* scale_ = nullptr;
+    CLI::Option* edit_ = nullptr;
     CLI::Option* list_ = nullptr;
     CLI::Option* text_ = nullptr;
 };

@@ -20,6 +20,7 @@ struct ViewerOptions {
     std::optional<std::string> table;
     std::optional<std::string> query;
     std::optional<std::string> snapshot; // where the picture goes
+    bool edit = false; // cells can be changed and saved; only with a file, in a window
     // In logical pixels; a picture has this many times the scale, rounded.
     int width = 1280;
     int height = 800;

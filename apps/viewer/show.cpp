@@ -57,4 +57,23 @@ int ShowTable(const Table& table, const ViewerOptions& options)
     return WritePicture(table, options);
 }
 
+#ifdef VORNIX_VIEWER_WINDOW
+int EditDocument(Document& document, const ViewerOptions& options)
+{
+    const auto fail = [](const char* reason) {
+        ReportLine(reason);
+        return 1;
+    };
+    if (!HasDisplay())
+        return fail("there is no display, which --edit needs");
+    return ShowWindow(document, options, [&] { return fail("the display cannot be reached, which --edit needs"); });
+}
+#else
+int EditDocument(Document&, const ViewerOptions&)
+{
+    ReportLine("this build opens no window, which --edit needs");
+    return 1;
+}
+#endif
+
 } // namespace vornix::viewer

@@ -10,4 +10,10 @@ int ShowTable(const Table&, const ViewerOptions&)
     return 1;
 }
 
+int EditDocument(Document&, const ViewerOptions&)
+{
+    ReportLine("this build opens no window, which --edit needs");
+    return 1;
+}
+
 } // namespace vornix::viewer

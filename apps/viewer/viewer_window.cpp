@@ -72,8 +72,7 @@ ViewerWindow::ViewerWindow(const Table& table)
     PresentTable(grid_->Grid(), grid_->MeasuringDevice(), grid_->Colors(), table);
     GiveToUser(grid_->Grid());
     // A check box that is clicked shows what the table holds.
-    handlers_.OnTextChange
-        = [this, &table](i16 Row, i16 Col) { grid_->Grid().SetCellChecked(Row, Col, table.IsTrue(Row, Col)); };
+    handlers_.OnTextChange = [this, &table](i16 Row, i16 Col) { ResetCheckBox(table, Row, Col); };
     connect(grid_, &UsedGrid::Used, this, &ViewerWindow::TellState);
     grid_->setFocus();
     TellState();
@@ -95,6 +94,11 @@ QLabel* ViewerWindow::AddLabel(const char* name, int stretch)
     label->setContentsMargins(SpaceBeside, 0, SpaceBeside, 0);
     statusBar()->addWidget(label, stretch);
     return label;
+}
+
+void ViewerWindow::ResetCheckBox(const Table& table, i16 Row, i16 Col)
+{
+    grid_->Grid().SetCellChecked(Row, Col, table.IsTrue(Row, Col));
 }
 
 void ViewerWindow::TellState()

@@ -27,7 +27,7 @@ protected:
 
 // The table can be selected from, its lines sized and its first columns split off, but not changed; the first cell is the
 // current one. Refers to the table for as long as it lives.
-class ViewerWindow final : public QMainWindow {
+class ViewerWindow : public QMainWindow {
     Q_OBJECT
 
 public:
@@ -36,10 +36,16 @@ public:
 
     UsedGrid& GridWidget() { return *grid_; }
 
-private:
+protected:
+    EventHandlers& Handlers() { return handlers_; }
+    // In the line below the table.
     QLabel* AddLabel(const char* name, int stretch);
+    // About the current cell and the selection.
     void TellState();
+    // A check box as the table holds it.
+    void ResetCheckBox(const Table& table, i16 Row, i16 Col);
 
+private:
     EventHandlers handlers_;
     UsedGrid* const grid_;
     QLabel* currentCell_ = nullptr;

@@ -1,5 +1,6 @@
 #include "window.h"
 
+#include "editor_window.h"
 #include "viewer_window.h"
 
 #include <QApplication>
@@ -63,21 +64,32 @@ void CloseOn(QKeySequence::StandardKey key, QWidget& window)
     QObject::connect(shortcut, &QShortcut::activated, &window, &QWidget::close);
 }
 
-} // namespace
-
-int ShowWindow(const Table& table, const ViewerOptions& options, const std::function<int()>& withoutDisplay)
+template <typename Window, typename Source>
+int RunWindow(Source& source, const ViewerOptions& options, const std::function<int()>& withoutDisplay)
 {
     if (options.scaleGiven)
         qputenv("QT_SCALE_FACTOR", QByteArray::number(options.scale));
     Arguments arguments;
     const std::unique_ptr<QApplication> application = MakeApplication(arguments, withoutDisplay);
 
-    ViewerWindow window(table);
+    Window window(source);
     window.resize(options.width, options.height);
     CloseOn(QKeySequence::Quit, window);
     CloseOn(QKeySequence::Close, window);
     window.show();
     return QApplication::exec();
+}
+
+} // namespace
+
+int ShowWindow(const Table& table, const ViewerOptions& options, const std::function<int()>& withoutDisplay)
+{
+    return RunWindow<ViewerWindow>(table, options, withoutDisplay);
+}
+
+int ShowWindow(Document& document, const ViewerOptions& options, const std::function<int()>& withoutDisplay)
+{
+    return RunWindow<EditorWindow>(document, options, withoutDisplay);
 }
 
 } // namespace vornix::viewer

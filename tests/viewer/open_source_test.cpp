@@ -105,3 +105,62 @@ TEST(OpenSource, ListsWhatThereIs)
     EXPECT_EQ(file[0].name, "a.csv");
     EXPECT_EQ(file[0].kind, "file");
 }
+
+TEST(OpenForChanging, ReadsTheSameTable)
+{
+    const ScratchFolder folder;
+    ViewerOptions text = Opening(folder.Write("a.csv", "id,paid\n1,yes\n2,no\n"));
+    const ChangeableSource file = OpenForChanging(text, {}, {});
+    EXPECT_EQ(file.table->Name(), u"a.csv");
+    EXPECT_EQ(file.table->Text(1, 1), u"0");
+    EXPECT_FALSE(file.saver->WhyReadOnly());
+    EXPECT_TRUE(file.saver->CanChange(0, 0));
+
+    const MadeDatabase made(
+        "CREATE TABLE first(a DECIMAL(10,2), b); INSERT INTO first VALUES(1234.5, 'x'), (2, NULL);");
+    const ChangeableSource table = OpenForChanging(Opening(made.Path()), {}, {});
+    EXPECT_EQ(table.table->Name(), u"first");
+    ASSERT_EQ(table.table->ColumnCount(), 2) << "what identifies the rows is not shown";
+    EXPECT_EQ(table.table->Columns()[0].name, u"a");
+    EXPECT_EQ(table.table->Columns()[0].kind, ColumnKind::Money);
+    EXPECT_EQ(table.table->Text(0, 0), u"1234.5");
+    EXPECT_TRUE(table.table->IsNull(1, 1));
+    EXPECT_FALSE(table.saver->WhyReadOnly());
+}
+
+TEST(OpenForChanging, FindsTheFaultsThatReadingFinds)
+{
+    const ScratchFolder folder;
+    const auto message = [](const ViewerOptions& options) {
+        try {
+            OpenForChanging(options, {}, {});
+        } catch (const LoadError& error) {
+            return std::string(error.what());
+        }
+        return std::string("no error");
+    };
+    EXPECT_EQ(message(Opening(folder.Path("none"))), "there is no such file");
+    EXPECT_EQ(message(Opening(folder.Write("fake.db", "x"))), "this is not a SQLite database (or an encrypted one)");
+    EXPECT_EQ(message(Opening(folder.Write("a.csv", "a,b\n1\n"))),
+        "line 2: the rows are ragged: this one has 1 field, line 1 has 2");
+    const MadeDatabase made("CREATE TABLE t(a);");
+    ViewerOptions options = Opening(made.Path());
+    options.table = "none";
+    EXPECT_EQ(message(options), "the database has no table or view named none");
+    options.table.reset();
+    options.query = "SELECT 1";
+    EXPECT_EQ(message(options), "the rows of a query cannot be changed");
+    MadeDatabase locked("CREATE TABLE t(a);");
+    locked.Execute("BEGIN EXCLUSIVE");
+    EXPECT_EQ(message(Opening(locked.Path())), "the database is in use: another program has locked it");
+}
+
+TEST(OpenForChanging, LeavesRowsOutAsReadingDoes)
+{
+    LoadLimits limits;
+    limits.maxRows = 10;
+    const MadeDatabase made(ManyRows(50));
+    const ChangeableSource source = OpenForChanging(Opening(made.Path()), limits, {});
+    EXPECT_EQ(source.table->RowCount(), 10);
+    EXPECT_EQ(source.table->TotalRows(), 50u);
+}

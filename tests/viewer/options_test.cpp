@@ -98,6 +98,19 @@ TEST(Options, RefuseWhatContradictsItself)
     EXPECT_THAT(MessageOf({ "--text", "--snapshot", "a.png" }), HasSubstr("excludes"));
 }
 
+TEST(Options, OpenAFileForChanging)
+{
+    EXPECT_FALSE(Parse({ "a.csv" }).edit);
+    const ViewerOptions options = Parse({ "--edit", "a.db", "--table", "t" });
+    EXPECT_TRUE(options.edit);
+    EXPECT_EQ(options.action, ViewerAction::Show);
+    EXPECT_EQ(options.table, "t");
+    EXPECT_THAT(Parse({ "--help" }).message, HasSubstr("--edit"));
+    EXPECT_EQ(MessageOf({ "--edit" }), "--edit needs the name of a file") << "the sample stays as it is";
+    for (const char* other : { "--list", "--text", "--query=SELECT 1", "--snapshot=a.png" })
+        EXPECT_THAT(MessageOf({ "--edit", "a.db", other }), HasSubstr("excludes")) << other;
+}
+
 TEST(Options, RefuseWhatTheyDoNotKnowOrWhatIsMissing)
 {
     EXPECT_THAT(MessageOf({ "--bogus" }), HasSubstr("--bogus"));

@@ -233,6 +233,26 @@ TEST(VornixView, KeepsItsMessageOnOneLineWhateverTheFileIsCalled)
     EXPECT_EQ(std::count(result.error.begin(), result.error.end(), '\n'), 1);
 }
 
+TEST(VornixView, ChangesNothingWithoutAWindow)
+{
+    const ScratchFolder folder;
+    const std::string file = folder.Write("a.csv", "a,b\n1,2\n");
+    const ProgramResult result = RunViewerIn({ "TMPDIR=" + folder.Path("") }, { "--edit", file });
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.output, "") << "no picture is written instead";
+    EXPECT_THAT(result.error, testing::EndsWith("which --edit needs\n"));
+    EXPECT_EQ(Content(file), "a,b\n1,2\n");
+    ExpectRefusal({ "--edit" }, "--edit needs the name of a file");
+}
+
+TEST(VornixView, SaysWhyATableIsReadOnly)
+{
+    const MadeDatabase made("CREATE TABLE t(a); CREATE VIEW v AS SELECT 1;");
+    const ProgramResult result = RunViewerIn({}, { "--edit", made.Path(), "--table", "v" });
+    EXPECT_THAT(result.error,
+        StartsWith("vornix-view: made.db: nothing can be changed: it is a view, which has no rows of its own\n"));
+}
+
 #ifdef VORNIX_VIEW_DRAWS
 TEST(VornixView, TakesAPictureOfAsManyRowsAndColumnsAsAGridHolds)
 {

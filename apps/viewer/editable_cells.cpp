@@ -1,0 +1,100 @@
+#include "editable_cells.h"
+
+namespace vornix::viewer {
+
+namespace {
+
+bool HasLineBreak(std::u16string_view text)
+{
+    return text.find_first_of(u"\r\n") != std::u16string_view::npos;
+}
+
+class CellOpener {
+public:
+    CellOpener(Vornix& grid, const Document& document)
+        : grid_(grid)
+        , document_(document)
+        , table_(document.Saved())
+    {
+    }
+
+    void OpenColumn(int column)
+    {
+        const i16 Col = static_cast<i16>(column);
+        const bool isBoolean = table_.Columns()[static_cast<std::size_t>(column)].kind == ColumnKind::Boolean;
+        if (!isBoolean && CanChangeAny(column))
+            grid_.SetColMode(Col, vxTextBox);
+        for (int row = 0; row < table_.RowCount(); ++row)
+            OpenCell(static_cast<i16>(row), Col);
+    }
+
+    void OpenCell(i16 Row, i16 Col)
+    {
+        if (grid_.CellMode(Row, Col) == vxCheckBox)
+            return;
+        SetMode(Row, Col, document_.CanChange(Row, Col) ? vxTextBox : vxCellFixed);
+        // An editor of one line could not keep the breaks.
+        if (HasLineBreak(table_.Text(Row, Col)))
+            grid_.SetTextAlignment(Row, Col, grid_.TextAlignment(Row, Col) & ~vxSingleLine);
+    }
+
+private:
+    bool CanChangeAny(int column) const
+    {
+        for (int row = 0; row < table_.RowCount(); ++row) {
+            if (document_.CanChange(row, column))
+                return true;
+        }
+        return false;
+    }
+
+    void SetMode(i16 Row, i16 Col, vxCellModeEnum mode)
+    {
+        if (grid_.CellMode(Row, Col) != mode)
+            grid_.SetCellMode(Row, Col, mode);
+    }
+
+    Vornix& grid_;
+    const Document& document_;
+    const Table& table_;
+};
+
+bool IsBeingEdited(const Vornix& grid, int row, int column)
+{
+    return grid.IsEditMode() && grid.CurrentRow() == row && grid.CurrentCol() == column;
+}
+
+} // namespace
+
+void MakeEditable(Vornix& grid, const Document& document)
+{
+    if (document.WhyReadOnly())
+        return;
+    grid.SetRedraw(false);
+    CellOpener opener(grid, document);
+    for (int column = 0; column < document.Saved().ColumnCount(); ++column)
+        opener.OpenColumn(column);
+    grid.SetRedraw(true);
+}
+
+void ShowText(Vornix& grid, const Document& document, const CellText& cell)
+{
+    if (IsBeingEdited(grid, cell.row, cell.column))
+        grid.ExitEdit();
+    const i16 Row = static_cast<i16>(cell.row);
+    const i16 Col = static_cast<i16>(cell.column);
+    if (grid.CellMode(Row, Col) == vxCheckBox && (cell.text == u"-1" || cell.text == u"0"))
+        grid.SetCellChecked(Row, Col, cell.text == u"-1");
+    else
+        grid.SetText(Row, Col, cell.text);
+    CellOpener(grid, document).OpenCell(Row, Col);
+}
+
+std::u16string TextForDocument(const Vornix& grid, i16 Row, i16 Col)
+{
+    if (grid.CellMode(Row, Col) == vxCheckBox)
+        return grid.CellChecked(Row, Col) ? u"-1" : u"0";
+    return grid.Text(Row, Col);
+}
+
+} // namespace vornix::viewer

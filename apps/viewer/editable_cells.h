@@ -1,0 +1,19 @@
+// The cells of the grid that a document lets be changed.
+#pragma once
+
+#include "document.h"
+#include "vornix/vornix.h"
+
+namespace vornix::viewer {
+
+// Gives the grid, which shows the document's table, text boxes where something can be typed. Check boxes stay; where a
+// column of them has no truth value, its text can be typed. The rest stays as it is shown.
+void MakeEditable(Vornix& grid, const Document& document);
+
+// A cell that now reads otherwise, without an event. Its editor closes if it has one.
+void ShowText(Vornix& grid, const Document& document, const CellText& cell);
+
+// What a changed cell says, as the document takes it.
+std::u16string TextForDocument(const Vornix& grid, i16 Row, i16 Col);
+
+} // namespace vornix::viewer

@@ -1,0 +1,42 @@
+// The viewer's window for changing a table: what is typed and clicked goes into a document, which can be saved.
+#pragma once
+
+#include "document.h"
+#include "viewer_window.h"
+
+class QAction;
+class QCloseEvent;
+
+namespace vornix::viewer {
+
+// The title carries a mark while something is not saved, and closing asks what to do with it. The line below the table
+// says how much it is, or why nothing can be changed. Refers to the document for as long as it lives.
+class EditorWindow final : public ViewerWindow {
+    Q_OBJECT
+
+public:
+    explicit EditorWindow(Document& document);
+
+    // False when it failed; the reader has been told why, and nothing is lost.
+    bool Save();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void AddFileMenu();
+    void ListenToGrid();
+    void TakeChange(i16 Row, i16 Col);
+    void TellStateLater();
+    void TellChanges();
+    void TellFailure(const QString& reason);
+    // What the reader wants done with the changes: QMessageBox::Save, Discard or Cancel.
+    int AskAboutChanges();
+
+    Document& document_;
+    QAction* save_ = nullptr;
+    QLabel* changes_ = nullptr;
+    bool wasSaved_ = false;
+};
+
+} // namespace vornix::viewer

@@ -1,0 +1,301 @@
+// The viewer's window for changing a table, in the hands of a person.
+#include "editor_window.h"
+
+#include "scratch_folder.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QMessageBox>
+#include <QTest>
+#include <QTimer>
+#include <QWindow>
+
+#include <gtest/gtest.h>
+
+namespace vornix::viewer {
+
+namespace {
+
+constexpr const char* Orders = "city,total,paid,note\nOslo,12.50,yes,\"a\nb\"\nRoma,7,no,c\nBern,8,,d\n";
+
+Document Opened(const std::string& path)
+{
+    ViewerOptions options;
+    options.file = path;
+    return Document(OpenForChanging(options, LoadLimits(), {}));
+}
+
+std::string Content(const std::string& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return { std::istreambuf_iterator<char>(file), {} };
+}
+
+// Presses a button of the next box that is shown, and keeps what the box said.
+class BoxAnswer {
+public:
+    explicit BoxAnswer(QMessageBox::StandardButton button)
+    {
+        QObject::connect(&timer_, &QTimer::timeout, [this, button] { Answer(button); });
+        timer_.start(10);
+    }
+    const std::string& Text() const { return text_; }
+    bool WasShown() const { return !text_.empty(); }
+
+private:
+    void Answer(QMessageBox::StandardButton button)
+    {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box)
+            return;
+        timer_.stop();
+        text_ = box->text().toStdString();
+        box->button(button)->click();
+    }
+
+    QTimer timer_;
+    std::string text_;
+};
+
+class EditorWindowTest : public testing::Test {
+protected:
+    EditorWindowTest()
+    {
+        window.resize(600, 400);
+        window.show();
+        window.activateWindow();
+        Settle();
+    }
+
+    Vornix& Grid() { return window.GridWidget().Grid(); }
+    static void Settle()
+    {
+        QApplication::processEvents();
+        QApplication::processEvents();
+    }
+    std::string Label(const char* name) { return window.findChild<QLabel*>(QLatin1String(name))->text().toStdString(); }
+    QAction& SaveAction() { return *window.findChild<QAction*>(QStringLiteral("save")); }
+
+    // In the window.
+    QPoint MiddleOf(i16 Row, i16 Col)
+    {
+        i32 x = 0;
+        i32 y = 0;
+        i16 width = 0;
+        i16 height = 0;
+        Grid().GetPositionCell(Row, Col, x, y);
+        Grid().GetSizeCell(Row, Col, width, height);
+        return window.GridWidget().mapTo(&window, QPoint(x / 15 + width / 2, y / 15 + height / 2));
+    }
+    void Click(i16 Row, i16 Col)
+    {
+        const QPoint at = MiddleOf(Row, Col);
+        QTest::mouseEvent(QTest::MouseMove, window.windowHandle(), Qt::NoButton, {}, at);
+        QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, at);
+        QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, at);
+        Settle();
+    }
+    void Type(Qt::Key key, Qt::KeyboardModifiers keys = {})
+    {
+        QTest::keyClick(window.windowHandle(), key, keys);
+        Settle();
+    }
+    void Type(const char* text)
+    {
+        for (; *text; ++text)
+            QTest::keyClick(window.windowHandle(), *text);
+        Settle();
+    }
+    // What closing does, with the box answered.
+    bool Close(QMessageBox::StandardButton answer, std::string* text = nullptr)
+    {
+        BoxAnswer box(answer);
+        const bool closed = window.close();
+        EXPECT_TRUE(box.WasShown());
+        if (text)
+            *text = box.Text();
+        return closed;
+    }
+
+    const ScratchFolder folder;
+    const std::string path = folder.Write("orders.csv", Orders);
+    Document document = Opened(path);
+    EditorWindow window { document };
+};
+
+TEST_F(EditorWindowTest, LetsTextsBeTypedAndCheckBoxesBeClicked)
+{
+    EXPECT_EQ(Grid().CellMode(0, 0), vxTextBox);
+    EXPECT_EQ(Grid().CellMode(2, 1), vxTextBox);
+    EXPECT_EQ(Grid().CellMode(0, 2), vxCheckBox);
+    EXPECT_EQ(Grid().CellMode(2, 2), vxTextBox) << "no truth value yet: its text can be typed";
+    for (i16 Col = -1; Col < 4; ++Col) {
+        EXPECT_EQ(Grid().CellMode(-1, Col), vxCellFixed) << "a title";
+        EXPECT_EQ(Grid().CellMode(-2, Col), vxCellFixed);
+    }
+    EXPECT_EQ(Grid().CellMode(1, -1), vxCellFixed) << "a row number";
+    EXPECT_EQ(Grid().TextAlignment(0, 3) & vxSingleLine, 0) << "its editor has room for line breaks";
+    EXPECT_NE(Grid().TextAlignment(1, 3) & vxSingleLine, 0);
+}
+
+TEST_F(EditorWindowTest, TellsWhatIsNotSaved)
+{
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("orders.csv[*] - Vornix"));
+    EXPECT_FALSE(window.isWindowModified());
+    EXPECT_FALSE(SaveAction().isEnabled());
+    EXPECT_EQ(Label("changes"), "no changes");
+    Click(0, 2);
+    EXPECT_TRUE(window.isWindowModified());
+    EXPECT_TRUE(SaveAction().isEnabled());
+    EXPECT_EQ(Label("changes"), "1 change not saved");
+    Click(1, 2);
+    EXPECT_EQ(Label("changes"), "2 changes not saved");
+    Click(0, 2);
+    Click(1, 2);
+    EXPECT_EQ(Label("changes"), "no changes") << "all is as it was";
+    EXPECT_FALSE(window.isWindowModified());
+    EXPECT_EQ(Content(path), Orders);
+}
+
+TEST_F(EditorWindowTest, SavesByItsKey)
+{
+    Click(0, 2);
+    EXPECT_FALSE(Grid().CellChecked(0, 2)) << "what was clicked stays";
+    Type(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(Content(path), "city,total,paid,note\nOslo,12.50,no,\"a\nb\"\nRoma,7,no,c\nBern,8,,d\n");
+    EXPECT_EQ(Label("changes"), "saved");
+    EXPECT_FALSE(window.isWindowModified());
+    EXPECT_FALSE(SaveAction().isEnabled());
+    Click(0, 2);
+    SaveAction().trigger();
+    EXPECT_EQ(Content(path), Orders);
+}
+
+TEST_F(EditorWindowTest, ClosesWithoutAQuestionWhenAllIsSaved)
+{
+    BoxAnswer box(QMessageBox::Cancel);
+    EXPECT_TRUE(window.close());
+    EXPECT_FALSE(box.WasShown());
+}
+
+TEST_F(EditorWindowTest, AsksWhatToDoWithChangesWhenItCloses)
+{
+    Click(0, 2);
+    std::string text;
+    EXPECT_FALSE(Close(QMessageBox::Cancel, &text));
+    EXPECT_EQ(text, "Save the changes to orders.csv?\n\n1 change not saved.");
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(Content(path), Orders);
+    EXPECT_TRUE(Close(QMessageBox::Save));
+    EXPECT_NE(Content(path), Orders);
+    EXPECT_FALSE(document.IsChanged());
+}
+
+TEST_F(EditorWindowTest, LetsChangesGoWhenToldTo)
+{
+    Click(0, 2);
+    EXPECT_TRUE(Close(QMessageBox::Discard));
+    EXPECT_EQ(Content(path), Orders);
+}
+
+TEST_F(EditorWindowTest, KeepsTheChangesWhenTheyCannotBeSaved)
+{
+    Click(0, 2);
+    folder.Write("orders.csv", "something else\n");
+    {
+        BoxAnswer box(QMessageBox::Ok);
+        Type(Qt::Key_S, Qt::ControlModifier);
+        EXPECT_EQ(box.Text(),
+            "orders.csv is not saved:\nanother program has changed the file since it was read.\n\nThe changes are "
+            "still "
+            "here.");
+    }
+    EXPECT_EQ(Label("changes"), "1 change not saved");
+    EXPECT_TRUE(window.isWindowModified());
+    EXPECT_FALSE(Grid().CellChecked(0, 2));
+    EXPECT_EQ(Content(path), "something else\n");
+    folder.Write("orders.csv", Orders);
+    EXPECT_TRUE(window.Save());
+    EXPECT_EQ(Content(path), "city,total,paid,note\nOslo,12.50,no,\"a\nb\"\nRoma,7,no,c\nBern,8,,d\n");
+}
+
+TEST_F(EditorWindowTest, StaysOpenWhenSavingFailsOnClosing)
+{
+    Click(0, 2);
+    std::filesystem::remove(path);
+    QTimer failure;
+    int failures = 0;
+    QObject::connect(&failure, &QTimer::timeout, [&] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box || !box->button(QMessageBox::Ok))
+            return;
+        ++failures;
+        box->button(QMessageBox::Ok)->click();
+    });
+    failure.start(10);
+    EXPECT_FALSE(Close(QMessageBox::Save));
+    EXPECT_EQ(failures, 1);
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_TRUE(document.IsChanged());
+}
+
+TEST_F(EditorWindowTest, TakesWhatIsTypedIntoACell)
+{
+    Type(Qt::Key_F2);
+    ASSERT_TRUE(Grid().IsEditMode());
+    Type(Qt::Key_End);
+    Type(" 1");
+    EXPECT_EQ(Label("changes"), "1 change not saved") << "at once";
+    Type(Qt::Key_Down);
+    EXPECT_EQ(Label("currentCell"), "city, row 2") << "the line below follows the editor's keys";
+    Type(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(Content(path), "city,total,paid,note\nOslo 1,12.50,yes,\"a\nb\"\nRoma,7,no,c\nBern,8,,d\n");
+    EXPECT_TRUE(Grid().IsEditMode()) << "saving leaves the editor alone";
+    Type(Qt::Key_End);
+    Type("x");
+    Type(Qt::Key_Escape);
+    EXPECT_FALSE(Grid().IsEditMode());
+    EXPECT_EQ(Label("changes"), "1 change not saved") << "Escape keeps what was typed";
+    EXPECT_EQ(document.Text(1, 0), u"Romax");
+}
+
+TEST_F(EditorWindowTest, KeepsTheLineBreaksOfACell)
+{
+    Grid().CurrentPos(0, 3);
+    Type(Qt::Key_F2);
+    ASSERT_TRUE(Grid().IsEditMode());
+    Type(Qt::Key_End, Qt::ControlModifier);
+    Type("!");
+    EXPECT_EQ(document.Text(0, 3), u"a\nb!");
+}
+
+TEST(EditorWindow, SaysWhyNothingCanBeChanged)
+{
+    const ScratchFolder folder;
+    ViewerOptions options;
+    options.file = VORNIX_DATA "/sample.db"; // which begins with a view
+    Document document(OpenForChanging(options, LoadLimits(), {}));
+    EditorWindow window(document);
+    window.show();
+    QApplication::processEvents();
+    EXPECT_EQ(window.findChild<QLabel*>(QStringLiteral("changes"))->text(),
+        QStringLiteral("read only: it is a view, which has no rows of its own"));
+    const Vornix& grid = window.GridWidget().Grid();
+    for (i16 Col = 0; Col < grid.Cols(); ++Col)
+        EXPECT_NE(grid.CellMode(0, Col), vxTextBox) << Col;
+    EXPECT_FALSE(window.findChild<QAction*>(QStringLiteral("save"))->isEnabled());
+}
+
+TEST(EditorWindow, KeepsANameThatLooksLikeTheMark)
+{
+    const ScratchFolder folder;
+    Document document = Opened(folder.Write("a[*].csv", Orders));
+    const EditorWindow window(document);
+    EXPECT_EQ(window.windowTitle(), QStringLiteral("a[*][*].csv[*] - Vornix"));
+}
+
+} // namespace
+
+} // namespace vornix::viewer

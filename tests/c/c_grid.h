@@ -140,6 +140,7 @@ inline GridPtr MakeSmallGrid(const vornix_grid_options& options = Options())
         EXPECT_EQ(Let(grid.get(), "ColName", { Integer(col), Text(name) }), 0);
         for (int row = 0; row < 4; ++row)
             EXPECT_EQ(Let(grid.get(), "Text", { Integer(row), Integer(col), Integer(10 * row + col) }), 0);
+        EXPECT_EQ(Call(grid.get(), "ComboAddItem", { Text(name) }), 0);
     }
     return grid;
 }

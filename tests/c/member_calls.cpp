@@ -125,6 +125,8 @@ vornix_value RightValue(int type)
         return SomeFont();
     case VORNIX_TYPE_PICTURE:
         return SomePicture();
+    case VORNIX_TYPE_HANDLE:
+        return Integer(0);
     default:
         ADD_FAILURE() << "no value for the type " << type;
         return {};
@@ -217,6 +219,11 @@ Writing WritingOf(const Member& member)
         scrolls(grid);
         LetOk(grid, "ShowSplit", { Boolean(true) });
     };
+    const auto edits = [](vornix_grid* grid) {
+        LetOk(grid, "CellMode", { Integer(1), Integer(1), Integer(vxTextBox) });
+        CallOk(grid, "CurrentPos", { Integer(1), Integer(1) });
+        CallOk(grid, "EnterEdit");
+    };
     const std::map<std::string, Writing> special {
         // Off is what the default is not.
         { "Redraw", { Boolean(false) } },
@@ -243,6 +250,8 @@ Writing WritingOf(const Member& member)
         { "LastRow", { Integer(150), "", scrolls } },
         { "LastCol", { Integer(15), "", scrolls } },
         { "Caption", { Text(u"title") } },
+        // What takes the place of the selection is not selected.
+        { "SelText", { Text(u"written"), "text ", edits } },
     };
     const auto found = special.find(member.info.name);
     return found == special.end() ? Writing { RightValue(member.info.type) } : found->second;

@@ -1,131 +1,14 @@
 // Handlers that do anything at all, at every event that a person's input raises: mouse, bars, wheel, keys, sizing and
 // split. Whatever comes out is a grid that still holds together, or an automation error.
-#include "vornix/event_funnel.h"
-#include "vornix/headless_container.h"
-#include "vornix/members.h"
+#include "live_deeds.h"
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace vornix {
 namespace {
-
-// Calls one function for every event.
-class EveryEvent : public EventFunnel<EveryEvent> {
-public:
-    std::function<void(std::string_view name)> Then = [](std::string_view) {};
-
-private:
-    friend EventFunnel<EveryEvent>;
-    template <typename Event, typename... Arguments> void On(int number, Event, Arguments&...)
-    {
-        Then(vornix::Events()[static_cast<std::size_t>(number) - 1].name);
-    }
-};
-
-struct Deed {
-    const char* name;
-    std::function<void(HeadlessContainer&)> act;
-};
-
-// By the name of a member, through the table that scripts use.
-void Set(HeadlessContainer& host, std::string_view member, const Variant& value)
-{
-    std::vector<Variant> arguments { value };
-    host.Grid().Invoke(member, InvokeKind::Let, arguments);
-}
-
-const std::vector<Deed>& Deeds()
-{
-    static const std::vector<Deed> deeds {
-        { "closes the control", [](HeadlessContainer& host) { host.Close(); } },
-        { "takes all rows", [](HeadlessContainer& host) { host.Grid().SetRows(0); } },
-        { "takes all columns", [](HeadlessContainer& host) { host.Grid().SetCols(0); } },
-        { "leaves one cell",
-            [](HeadlessContainer& host) {
-                host.Grid().SetRows(1);
-                host.Grid().SetCols(1);
-            } },
-        { "takes the fixed lines",
-            [](HeadlessContainer& host) {
-                host.Grid().SetFixedRows(0);
-                host.Grid().SetFixedCols(0);
-            } },
-        { "adds fixed lines",
-            [](HeadlessContainer& host) {
-                host.Grid().SetFixedRows(4);
-                host.Grid().SetFixedCols(3);
-            } },
-        { "adds lines",
-            [](HeadlessContainer& host) {
-                host.Grid().SetRows(400);
-                host.Grid().SetCols(40);
-            } },
-        { "moves the current cell", [](HeadlessContainer& host) { host.Grid().CurrentPos(7, 3); } },
-        { "moves it to a fixed one", [](HeadlessContainer& host) { host.Grid().CurrentPos(-1, -1); } },
-        { "hides rows", [](HeadlessContainer& host) { host.Grid().HideRow(0, host.Grid().Rows()); } },
-        { "hides columns", [](HeadlessContainer& host) { host.Grid().HideCol(0, host.Grid().Cols()); } },
-        { "gives lines no size",
-            [](HeadlessContainer& host) {
-                host.Grid().SetRowHeight(1, 0);
-                host.Grid().SetColWidth(1, 0);
-            } },
-        { "makes lines large",
-            [](HeadlessContainer& host) {
-                host.Grid().SetRowHeight(0, 9000);
-                host.Grid().SetColWidth(0, 9000);
-            } },
-        { "merges cells",
-            [](HeadlessContainer& host) {
-                host.Grid().SetRowSpan(0, 0, 6);
-                host.Grid().SetColSpan(0, 0, 4);
-            } },
-        { "moves a column", [](HeadlessContainer& host) { host.Grid().ReOrderCols(); } },
-        { "scrolls",
-            [](HeadlessContainer& host) {
-                host.Grid().SetFirstRow(20);
-                host.Grid().SetFirstCol(5);
-            } },
-        { "changes the bars",
-            [](HeadlessContainer& host) {
-                host.Grid().SetScrollHBar(vxNormalScroll);
-                host.Grid().SetScrollVBar(vxNormalScroll);
-            } },
-        { "takes the bars",
-            [](HeadlessContainer& host) {
-                host.Grid().SetScrollHBar(vxNoScrollBar);
-                host.Grid().SetScrollVBar(vxNoScrollBar);
-            } },
-        { "splits",
-            [](HeadlessContainer& host) {
-                host.Grid().SetShowSplit(true);
-                host.Grid().SetSplitCols(1);
-            } },
-        { "takes the split", [](HeadlessContainer& host) { host.Grid().SetShowSplit(!host.Grid().ShowSplit()); } },
-        { "shows the title", [](HeadlessContainer& host) { host.Grid().SetCaptionEnabled(true); } },
-        { "switches Redraw", [](HeadlessContainer& host) { host.Grid().SetRedraw(!host.Grid().Redraw()); } },
-        { "disables the control", [](HeadlessContainer& host) { Set(host, "Enabled", Variant(false)); } },
-        { "resizes", [](HeadlessContainer& host) { host.Resize(60, 40); } },
-        { "makes the window nothing", [](HeadlessContainer& host) { host.Resize(0, 0); } },
-        { "hides the control", [](HeadlessContainer& host) { host.Hide(); } },
-        { "selects", [](HeadlessContainer& host) { host.Grid().SetRowsSelected(0, 20, true); } },
-        { "selects nothing", [](HeadlessContainer& host) { host.Grid().SetColSelected(0, false); } },
-        { "presses elsewhere", [](HeadlessContainer& host) { host.MouseDown(60, 60); } },
-        { "lets go", [](HeadlessContainer& host) { host.MouseUp(100, 60); } },
-        { "moves the pointer away", [](HeadlessContainer& host) { host.MouseMove(-50, 300, 1); } },
-        { "clicks", [](HeadlessContainer& host) { host.ClickAt(100, 60); } },
-        { "sizes a line", [](HeadlessContainer& host) { host.Drag(69, 10, 90, 10, 1, 0, 2); } },
-        { "presses a key", [](HeadlessContainer& host) { host.KeyDown(40); } },
-        { "ticks", [](HeadlessContainer& host) { host.Tick(); } },
-        { "makes the table anew", [](HeadlessContainer& host) { host.Grid().ReadProperties(MemoryBag()); } },
-        { "fails", [](HeadlessContainer& host) { host.Grid().SetText(-32768, -32768, u""); } },
-    };
-    return deeds;
-}
 
 // A deed at the first time that an event is raised, over all that a person can do.
 class LiveHandlers : public testing::Test {
@@ -157,14 +40,6 @@ protected:
         grid.SetCellStyle(-1, 0, vxCustomDraw);
         grid.SetRedraw(true);
         grid.CurrentPos(3, 0);
-    }
-
-    static void Try(const std::function<void()>& step)
-    {
-        try {
-            step();
-        } catch (const AutomationError&) {
-        }
     }
 
     // Each step alone: an error ends that step only.

@@ -1,0 +1,160 @@
+#include "live_deeds.h"
+
+namespace vornix {
+
+namespace {
+
+// By the name of a member, through the table that scripts use.
+void Set(HeadlessContainer& host, std::string_view member, const Variant& value)
+{
+    std::vector<Variant> arguments { value };
+    host.Grid().Invoke(member, InvokeKind::Let, arguments);
+}
+
+void SetModes(HeadlessContainer& host, i32 mode)
+{
+    for (i16 Col = 0; Col < host.Grid().Cols(); ++Col)
+        host.Grid().SetColMode(Col, mode);
+}
+
+} // namespace
+
+const std::vector<Deed>& Deeds()
+{
+    static const std::vector<Deed> deeds {
+        { "closes the control", [](HeadlessContainer& host) { host.Close(); } },
+        { "takes all rows", [](HeadlessContainer& host) { host.Grid().SetRows(0); } },
+        { "takes all columns", [](HeadlessContainer& host) { host.Grid().SetCols(0); } },
+        { "leaves one cell",
+            [](HeadlessContainer& host) {
+                host.Grid().SetRows(1);
+                host.Grid().SetCols(1);
+            } },
+        { "takes the fixed lines",
+            [](HeadlessContainer& host) {
+                host.Grid().SetFixedRows(0);
+                host.Grid().SetFixedCols(0);
+            } },
+        { "adds fixed lines",
+            [](HeadlessContainer& host) {
+                host.Grid().SetFixedRows(4);
+                host.Grid().SetFixedCols(3);
+            } },
+        { "adds lines",
+            [](HeadlessContainer& host) {
+                host.Grid().SetRows(400);
+                host.Grid().SetCols(40);
+            } },
+        { "moves the current cell", [](HeadlessContainer& host) { host.Grid().CurrentPos(7, 3); } },
+        { "moves it to a fixed one", [](HeadlessContainer& host) { host.Grid().CurrentPos(-1, -1); } },
+        { "hides rows", [](HeadlessContainer& host) { host.Grid().HideRow(0, host.Grid().Rows()); } },
+        { "hides columns", [](HeadlessContainer& host) { host.Grid().HideCol(0, host.Grid().Cols()); } },
+        { "gives lines no size",
+            [](HeadlessContainer& host) {
+                host.Grid().SetRowHeight(1, 0);
+                host.Grid().SetColWidth(1, 0);
+            } },
+        { "makes lines large",
+            [](HeadlessContainer& host) {
+                host.Grid().SetRowHeight(0, 9000);
+                host.Grid().SetColWidth(0, 9000);
+            } },
+        { "merges cells",
+            [](HeadlessContainer& host) {
+                host.Grid().SetRowSpan(0, 0, 6);
+                host.Grid().SetColSpan(0, 0, 4);
+            } },
+        { "moves a column", [](HeadlessContainer& host) { host.Grid().ReOrderCols(); } },
+        { "scrolls",
+            [](HeadlessContainer& host) {
+                host.Grid().SetFirstRow(20);
+                host.Grid().SetFirstCol(5);
+            } },
+        { "changes the bars",
+            [](HeadlessContainer& host) {
+                host.Grid().SetScrollHBar(vxNormalScroll);
+                host.Grid().SetScrollVBar(vxNormalScroll);
+            } },
+        { "takes the bars",
+            [](HeadlessContainer& host) {
+                host.Grid().SetScrollHBar(vxNoScrollBar);
+                host.Grid().SetScrollVBar(vxNoScrollBar);
+            } },
+        { "splits",
+            [](HeadlessContainer& host) {
+                host.Grid().SetShowSplit(true);
+                host.Grid().SetSplitCols(1);
+            } },
+        { "takes the split", [](HeadlessContainer& host) { host.Grid().SetShowSplit(!host.Grid().ShowSplit()); } },
+        { "shows the title", [](HeadlessContainer& host) { host.Grid().SetCaptionEnabled(true); } },
+        { "switches Redraw", [](HeadlessContainer& host) { host.Grid().SetRedraw(!host.Grid().Redraw()); } },
+        { "disables the control", [](HeadlessContainer& host) { Set(host, "Enabled", Variant(false)); } },
+        { "resizes", [](HeadlessContainer& host) { host.Resize(60, 40); } },
+        { "makes the window nothing", [](HeadlessContainer& host) { host.Resize(0, 0); } },
+        { "hides the control", [](HeadlessContainer& host) { host.Hide(); } },
+        { "selects", [](HeadlessContainer& host) { host.Grid().SetRowsSelected(0, 20, true); } },
+        { "selects nothing", [](HeadlessContainer& host) { host.Grid().SetColSelected(0, false); } },
+        { "presses elsewhere", [](HeadlessContainer& host) { host.MouseDown(60, 60); } },
+        { "lets go", [](HeadlessContainer& host) { host.MouseUp(100, 60); } },
+        { "moves the pointer away", [](HeadlessContainer& host) { host.MouseMove(-50, 300, 1); } },
+        { "clicks", [](HeadlessContainer& host) { host.ClickAt(100, 60); } },
+        { "sizes a line", [](HeadlessContainer& host) { host.Drag(69, 10, 90, 10, 1, 0, 2); } },
+        { "presses a key", [](HeadlessContainer& host) { host.KeyDown(40); } },
+        { "ticks", [](HeadlessContainer& host) { host.Tick(); } },
+        { "makes the table anew", [](HeadlessContainer& host) { host.Grid().ReadProperties(MemoryBag()); } },
+        { "fails", [](HeadlessContainer& host) { host.Grid().SetText(-32768, -32768, u""); } },
+    };
+    return deeds;
+}
+
+const std::vector<Deed>& EditingDeeds()
+{
+    static const std::vector<Deed> deeds {
+        { "enters the editor", [](HeadlessContainer& host) { host.Grid().EnterEdit(); } },
+        { "enters another editor",
+            [](HeadlessContainer& host) {
+                host.Grid().CurrentPos(4, 2);
+                host.Grid().EnterEdit();
+            } },
+        { "leaves the editor", [](HeadlessContainer& host) { host.Grid().ExitEdit(); } },
+        { "writes the selected text", [](HeadlessContainer& host) { host.Grid().SetSelText(u"new"); } },
+        { "selects in the editor",
+            [](HeadlessContainer& host) {
+                host.Grid().SetSelStart(1);
+                host.Grid().SetSelLength(100);
+            } },
+        { "types", [](HeadlessContainer& host) { host.Type(u"12"); } },
+        { "presses Escape", [](HeadlessContainer& host) { host.Press("Escape"); } },
+        { "presses Left", [](HeadlessContainer& host) { host.Press("Left"); } },
+        { "clicks on another cell", [](HeadlessContainer& host) { host.ClickAt(50, 90); } },
+        { "takes the focus away", [](HeadlessContainer& host) { host.ExitFocus(); } },
+        { "gives the focus", [](HeadlessContainer& host) { host.EnterFocus(); } },
+        { "empties the list", [](HeadlessContainer& host) { host.Grid().ComboClear(); } },
+        { "fills the list", [](HeadlessContainer& host) { host.Grid().ComboAddItem(u"more", 0); } },
+        { "picks a row", [](HeadlessContainer& host) { host.Grid().SetComboListIndex(0); } },
+        { "lets the editor grow",
+            [](HeadlessContainer& host) { host.Grid().SetTBoxAutoResize(!host.Grid().TBoxAutoResize()); } },
+        { "changes the masks",
+            [](HeadlessContainer& host) {
+                host.Grid().SetTBoxPromptChar(u".");
+                host.Grid().SetTBoxIncludeLiteral(true);
+                host.Grid().SetColMask(1, u"L-L-L-L-L-L");
+            } },
+        { "makes all cells lists", [](HeadlessContainer& host) { SetModes(host, vxComboListBox); } },
+        { "edits no cell", [](HeadlessContainer& host) { SetModes(host, vxCellFixed); } },
+        { "disables the cells", [](HeadlessContainer& host) { host.Grid().SetColEnabled(0, false); } },
+        { "names a window", [](HeadlessContainer& host) { host.Grid().SetCustomhWnd(4711); } },
+        { "loads the editor anew", [](HeadlessContainer& host) { host.Grid().RefreshCell(0, 0); } },
+    };
+    return deeds;
+}
+
+void Try(const std::function<void()>& step)
+{
+    try {
+        step();
+    } catch (const AutomationError&) {
+    }
+}
+
+} // namespace vornix

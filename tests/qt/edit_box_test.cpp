@@ -275,13 +275,13 @@ TEST_P(QtEditBoxTest, AnAnswerToAChangeIsNoChange)
     EXPECT_THAT(listener.Heard(), ElementsAre("KeyDown 86 2", "KeyPress 22 2", "TextChanged by others", "KeyUp 86 2"));
 }
 
-TEST_P(QtEditBoxTest, ComposedCharactersComeWithoutKeysWhenTheyAreDone)
+TEST_P(QtEditBoxTest, ComposedCharactersComeWhenTheyAreDone)
 {
     Compose(QStringLiteral("´"));
     EXPECT_THAT(listener.Heard(), IsEmpty());
     EXPECT_EQ(box.Text(), u"");
     Compose({}, QStringLiteral("é"));
-    EXPECT_THAT(listener.Heard(), ElementsAre("KeyPress 233 0", "TextChanged by key"));
+    EXPECT_THAT(listener.Heard(), ElementsAre("KeyDown 229 0", "KeyPress 233 0", "TextChanged by key"));
     EXPECT_EQ(box.Text(), u"é");
 }
 
@@ -299,7 +299,8 @@ TEST_P(QtEditBoxTest, EachComposedCharacterIsThereBeforeTheNextIsTold)
 TEST_P(QtEditBoxTest, ACharacterOfTwoUnitsIsToldAsTwoAndInsertedAsOne)
 {
     Compose({}, QStringLiteral("😀"));
-    EXPECT_THAT(listener.Heard(), ElementsAre("KeyPress -10179 0", "KeyPress -8704 0", "TextChanged by key"));
+    EXPECT_THAT(
+        listener.Heard(), ElementsAre("KeyDown 229 0", "KeyPress -10179 0", "KeyPress -8704 0", "TextChanged by key"));
     EXPECT_EQ(box.Text(), u"😀");
 }
 
@@ -313,6 +314,14 @@ TEST_P(QtEditBoxTest, OfComposedCharactersThoseSetToZeroAreLeftOut)
     EXPECT_EQ(box.Text(), u"ac");
 }
 
+TEST_P(QtEditBoxTest, AKeyOfComposingSetToZeroLeavesAllOut)
+{
+    listener.keyDown = [](i16& code, i16&) { code = 0; };
+    Compose({}, QStringLiteral("abc"));
+    EXPECT_EQ(box.Text(), u"");
+    EXPECT_THAT(listener.Heard(), ElementsAre("KeyDown 229 0"));
+}
+
 TEST_P(QtEditBoxTest, TheSelectionStaysUntilSomethingIsComposed)
 {
     box.SetText(u"abcd");
@@ -324,7 +333,7 @@ TEST_P(QtEditBoxTest, TheSelectionStaysUntilSomethingIsComposed)
     listener.keyPress = [this](i16&, i16) { EXPECT_EQ(box.SelText(), u"bc"); };
     Compose({}, QStringLiteral("é"));
     EXPECT_EQ(box.Text(), u"aéd");
-    EXPECT_THAT(listener.Heard(), ElementsAre("KeyPress 233 0", "TextChanged by key"));
+    EXPECT_THAT(listener.Heard(), ElementsAre("KeyDown 229 0", "KeyPress 233 0", "TextChanged by key"));
 }
 
 TEST_P(QtEditBoxTest, ACompositionThatIsGivenUpLeavesTheSelection)

@@ -14,6 +14,7 @@ namespace vornix {
 
 class NotedWidget : public QVornix {
 public:
+    using QVornix::GridContainer;
     using QVornix::QVornix;
 
     // What Qt asked to be painted, since the last ClearNotes.

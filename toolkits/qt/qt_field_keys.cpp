@@ -14,6 +14,8 @@ namespace vornix {
 namespace {
 
 constexpr char16_t FirstPrintable = 32;
+// The key that an input method has used.
+constexpr i16 ComposedKey = 229;
 
 bool IsTab(const QKeyEvent& event)
 {
@@ -192,10 +194,15 @@ void QtFieldKeys::Compose(QInputMethodEvent& event)
     ShowComposition(rest);
 }
 
-// Each character is in the text before the next one is told.
+// Each character is in the text before the next one is told. The keys themselves have not come here; one stands for all.
 void QtFieldKeys::Commit(const QString& text)
 {
     const Turn turn(field_.KeyWidget());
+    i16 code = ComposedKey;
+    i16 shift = 0;
+    field_.TellKeyDown(code, shift);
+    if (code == 0 || turn.IsOver(field_))
+        return;
     for (qsizetype at = 0; at < text.size();) {
         const bool isPair = text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
         QString left;

@@ -94,6 +94,11 @@ const Vornix& QVornix::Grid() const
     return *grid_;
 }
 
+Container& QVornix::GridContainer()
+{
+    return *container_;
+}
+
 Device& QVornix::MeasuringDevice()
 {
     return container_->WindowDevice();

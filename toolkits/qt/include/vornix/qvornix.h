@@ -67,6 +67,9 @@ public:
     QSize sizeHint() const override;
 
 protected:
+    // What the grid has of this widget: its windows and editors.
+    Container& GridContainer();
+
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;

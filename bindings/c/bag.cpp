@@ -5,6 +5,7 @@
 
 #include <limits>
 #include <span>
+#include <variant>
 
 namespace vornix::c {
 
@@ -50,6 +51,24 @@ MemoryBag ToBag(const vornix_bag_entry* entries, std::size_t count)
         bag.WriteProperty(entry.name, ToBagValue(entry.value));
     }
     return bag;
+}
+
+void GiveBag(const MemoryBag& bag, vornix_bag_entry* entries, std::size_t capacity)
+{
+    std::size_t made = 0;
+    try {
+        for (const auto& [name, value] : bag.values) {
+            if (made == capacity)
+                return;
+            entries[made].value = ToValue(std::visit([](const auto& held) { return Variant(held); }, value));
+            entries[made].name = name.c_str();
+            ++made;
+        }
+    } catch (...) {
+        while (made > 0)
+            vornix_value_clear(&entries[--made].value);
+        throw;
+    }
 }
 
 } // namespace vornix::c

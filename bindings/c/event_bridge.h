@@ -24,8 +24,6 @@ protected:
     void Raise(const EventInfo& event, std::span<Variant> arguments) override;
 
 private:
-    void TakeBack(const vornix_value& value, Variant& argument);
-
     vornix_grid* grid_ = nullptr;
     vornix_event_callback callback_ = nullptr;
     void* user_ = nullptr;

@@ -64,6 +64,9 @@ private:
     Grid& grid_;
 };
 
+// Error 5 for a name that no child window has.
+HeadlessChild& ChildOf(Call& call, const char* name);
+
 // The body of an exported function that calls a grid.
 template <typename Body> std::int32_t GridCall(vornix_grid* handle, const Body& body)
 {

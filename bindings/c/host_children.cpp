@@ -5,8 +5,6 @@
 
 namespace vornix::c {
 
-namespace {
-
 HeadlessChild& ChildOf(Call& call, const char* name)
 {
     Require(name);
@@ -15,6 +13,8 @@ HeadlessChild& ChildOf(Call& call, const char* name)
         Raise(ErrorNumber::InvalidArgument, "No child window has this name");
     return *child;
 }
+
+namespace {
 
 HeadlessScrollBar& BarOf(Call& call, const char* name)
 {

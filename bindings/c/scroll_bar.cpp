@@ -1,7 +1,6 @@
 // The scroll bar that comes with the grid.
 #include "bag.h"
-#include "status.h"
-#include "values.h"
+#include "companion.h"
 
 #include "vornix/headless_bar_host.h"
 #include "vornix/vornix_c.h"
@@ -9,24 +8,15 @@
 #include <array>
 #include <memory>
 #include <optional>
-#include <span>
-#include <thread>
-#include <utility>
-#include <vector>
 
 // Hands the events to the callback of its host.
-struct vornix_scroll_bar final : private vornix::ScrollBarEvents {
+struct vornix_scroll_bar final : vornix::c::Companion, private vornix::ScrollBarEvents {
     explicit vornix_scroll_bar(vornix::HeadlessBarOptions options)
         : host(Receiving(options, *this))
     {
     }
 
-    const std::thread::id thread = std::this_thread::get_id();
     vornix_scroll_bar_callback callback = nullptr;
-    void* user = nullptr;
-    int depth = 0;
-    // Of a value that a callback left and that is none.
-    std::optional<vornix::AutomationError> failure;
     vornix::HeadlessBarHost host;
     // What the entries that were given out last refer to.
     vornix::MemoryBag saved;
@@ -69,42 +59,14 @@ namespace vornix::c {
 
 namespace {
 
-// The body of a function that calls a bar. What an event left that is no value fails the outermost call.
+// The body of a function that calls a bar.
 template <typename Body> std::int32_t BarCall(vornix_scroll_bar* bar, const Body& body)
 {
     return Guarded([&] {
-        Require(bar);
-        if (bar->thread != std::this_thread::get_id())
-            Raise(ErrorNumber::InvalidArgument, "Called from another thread than the one that made the scroll bar");
-        struct Depth {
-            int& depth;
-            explicit Depth(int& counter)
-                : depth(counter)
-            {
-                ++depth;
-            }
-            ~Depth() { --depth; }
-        } const inside(bar->depth);
+        CompanionCall call(bar, "scroll bar");
         body();
-        if (bar->depth > 1)
-            return;
-        if (const auto failure = std::exchange(bar->failure, std::nullopt))
-            throw *failure;
+        call.Finish();
     });
-}
-
-Variant Invoked(
-    vornix_scroll_bar& bar, const char* name, std::int32_t kind, const vornix_value* arguments, std::size_t count)
-{
-    Require(name);
-    if (kind < VORNIX_GET || kind > VORNIX_CALL)
-        Raise(ErrorNumber::InvalidArgument, "A kind of call that there is not");
-    if (count > 0)
-        Require(arguments);
-    std::vector<Variant> values;
-    for (const vornix_value& argument : std::span(arguments, count))
-        values.push_back(ToVariant(argument));
-    return bar.host.Invoke(name, static_cast<InvokeKind>(kind), values);
 }
 
 } // namespace
@@ -134,11 +96,7 @@ std::int32_t vornix_scroll_bar_create(const vornix_scroll_bar_options* options, 
 
 std::int32_t vornix_scroll_bar_destroy(vornix_scroll_bar* bar)
 {
-    return Guarded([&] {
-        if (bar != nullptr && bar->depth > 0)
-            Raise(ErrorNumber::InvalidArgument, "The scroll bar is in the middle of a call");
-        delete bar;
-    });
+    return DestroyCompanion(bar, "scroll bar");
 }
 
 std::int32_t vornix_scroll_bar_set_callback(vornix_scroll_bar* bar, vornix_scroll_bar_callback callback, void* user)
@@ -153,7 +111,7 @@ std::int32_t vornix_scroll_bar_invoke(vornix_scroll_bar* bar, const char* name, 
     const vornix_value* arguments, std::size_t count, vornix_value* result)
 {
     return BarCall(bar, [&] {
-        const Variant given = Invoked(*bar, name, kind, arguments, count);
+        const Variant given = Invoked(bar->host, name, kind, arguments, count);
         if (result != nullptr)
             *result = ToValue(given);
     });
@@ -179,14 +137,7 @@ std::int32_t vornix_scroll_bar_save(
         if (capacity > 0)
             Require(entries);
         bar->saved = bar->host.Save();
+        GiveBag(bar->saved, entries, capacity);
         *count = bar->saved.values.size();
-        std::size_t place = 0;
-        for (const auto& [name, value] : bar->saved.values) {
-            if (place == capacity)
-                return;
-            entries[place].name = name.c_str();
-            entries[place].value = ToValue(Variant(std::get<i32>(value)));
-            ++place;
-        }
     });
 }

@@ -4,11 +4,12 @@
     _indexed      the properties with arguments, a class each
     _members      the members of the grid
     events        the events of the grid, a class each, and the methods that take handlers
+    _text_box_members, text_box_events    the same of the text box
     __init__.pyi  the package as a type checker sees it
 """
 
 import textwrap
-from typing import Dict, Iterable, List
+from typing import Dict, Iterable, List, NamedTuple, Tuple
 
 from iface import ERROR_WORDS, Argument, Event, Interface, Member
 from reference_pages import TYPE_WORDS
@@ -38,6 +39,31 @@ PYTHON_TYPES = {
 # What an argument by reference starts with where it is left out.
 STARTS = {"f32": "0.0", "bool": "False", "text": '""'}
 
+
+class Control(NamedTuple):
+    """A control with generated modules."""
+
+    # In the interface, in messages, and in the names of the generated classes.
+    name: str
+    noun: str
+    prefix: str
+    # What stands for it in an example of a handler, and the example itself.
+    example: Tuple[str, ...]
+
+
+GRID = Control(
+    CONTROL,
+    "grid",
+    "Grid",
+    ('    @g.on("CellChange")', "    def refuse(e):", "        e.bCancel = True"),
+)
+TEXT_BOX = Control(
+    "vxTextBox",
+    "text box",
+    "TextBox",
+    ('    @box.on("KeyPress")', "    def capital(e):", "        e.KeyAscii = ord(chr(e.KeyAscii).upper())"),
+)
+
 # The types that a handler of an event can set.
 SETTABLE = ("i16", "i32", "f32", "bool", "hdc")
 
@@ -49,10 +75,14 @@ def emit(interface: Interface) -> Dict[str, str]:
         "_constants.pyi": constants(interface, stub=True),
         "_indexed.py": indexed_module(interface, stub=False),
         "_indexed.pyi": indexed_module(interface, stub=True),
-        "_members.py": members_module(interface, stub=False),
-        "_members.pyi": members_module(interface, stub=True),
-        "events.py": events_module(interface),
-        "events.pyi": events_stub(interface),
+        "_members.py": members_module(interface, GRID, stub=False),
+        "_members.pyi": members_module(interface, GRID, stub=True),
+        "_text_box_members.py": members_module(interface, TEXT_BOX, stub=False),
+        "_text_box_members.pyi": members_module(interface, TEXT_BOX, stub=True),
+        "events.py": events_module(interface, GRID),
+        "events.pyi": events_stub(interface, GRID),
+        "text_box_events.py": events_module(interface, TEXT_BOX),
+        "text_box_events.pyi": events_stub(interface, TEXT_BOX),
         "__init__.pyi": package_stub(interface),
     }
 
@@ -239,22 +269,24 @@ def spaced(stub: bool) -> List[str]:
     return [] if stub else [""]
 
 
-def members_module(interface: Interface, stub: bool) -> str:
+def members_module(interface: Interface, control: Control, stub: bool) -> str:
+    has_indexed = any(map(is_indexed, interface[control.name].members))
     lines = [
-        *([] if stub else ['"""The members of the grid."""']),
+        *([] if stub else [f'"""The members of the {control.noun}."""']),
         HEAD,
         "from typing import Any, Iterable, Optional, Tuple",
         "",
-        "from . import _indexed, _objects",
-        f"from ._calls import {'Members' if stub else 'IndexedMember, Members'}",
+        f"from . import {'_indexed, ' if has_indexed else ''}_objects",
+        f"from ._calls import {'IndexedMember, ' if has_indexed and not stub else ''}Members",
         "",
         "",
-        "class GridMembers(Members):",
+        f"class {control.prefix}Members(Members):",
     ]
     if not stub:
-        lines += docstring(4, ["Every property and method of the grid, each under its own name."])
+        words = f"Every property and method of the {control.noun}, each under its own name."
+        lines += docstring(4, [words])
         lines += ["", "    __slots__ = ()"]
-    for family in interface[CONTROL].families:
+    for family in interface[control.name].families:
         if family.members:
             lines += ["", f"    # -- {family.title} --"]
             lines += spaced(stub)
@@ -343,34 +375,38 @@ def method(interface: Interface, member: Member, stub: bool) -> List[str]:
 
 # -- Events --
 
-ON_DOC = [
-    "Has a handler called with each event of a name, with an object whose attributes are the event's",
-    "arguments; those by reference can be set. Handlers run in the order in which they were added.",
-    "Without a handler, a decorator:",
-    "",
-    '    @g.on("CellChange")',
-    "    def refuse(e):",
-    "        e.bCancel = True",
-    "",
-    "An exception out of a handler does not stop the grid, nor the handlers after it; the first one",
-    "comes out of the call that was running, in place of its result. Error 438 for an event that the",
-    "grid does not have.",
-]
-OFF_DOC = [
-    "Takes a handler away again: the one that was added first where it was added twice. One that is",
-    "not there is nothing. Error 438 for an event that the grid does not have.",
-]
+ON_DOC = (
+    "An exception out of a handler does not stop the {noun}, nor the handlers after it; the first one"
+    " comes out of the call that was running, in place of its result. Error 438 for an event that the"
+    " {noun} does not have."
+)
+OFF_DOC = (
+    "Takes a handler away again: the one that was added first where it was added twice. One that is"
+    " not there is nothing. Error 438 for an event that the {noun} does not have."
+)
 
 
-def events_module(interface: Interface) -> str:
-    events = interface[CONTROL].events
+def on_doc(control: Control) -> List[str]:
+    return [
+        "Has a handler called with each event of a name, with an object whose attributes are the event's",
+        "arguments; those by reference can be set. Handlers run in the order in which they were added.",
+        "Without a handler, a decorator:",
+        "",
+        *control.example,
+        "",
+        *textwrap.wrap(ON_DOC.format(noun=control.noun), WIDTH),
+    ]
+
+
+def events_module(interface: Interface, control: Control) -> str:
+    events = interface[control.name].events
     lines = [
-        '"""The events of the grid: what their handlers get, by the names of the events."""',
+        f'"""The events of the {control.noun}: what their handlers get, by the names of the events."""',
         HEAD,
         "from typing import Any, Dict, Literal, Sequence, Tuple, Type",
         "",
         "from ._event import Event",
-        "from ._session import Session",
+        "from ._session import Connection",
         "",
         *event_names(events),
     ]
@@ -379,7 +415,7 @@ def events_module(interface: Interface) -> str:
     lines += ["", "", "# By number, from 1 on."]
     lines += ["EVENTS: Sequence[Type[Event]] = ("]
     lines += [*(f"    {event.name}," for event in events), ")"]
-    lines += ["", "", *registration()]
+    lines += ["", "", *registration(control)]
     return finished(lines)
 
 
@@ -439,16 +475,16 @@ def event_argument(interface: Interface, place: int, argument: Argument) -> List
     return lines
 
 
-def registration() -> List[str]:
+def registration(control: Control) -> List[str]:
     return [
-        "class GridEvents:",
+        f"class {control.prefix}Events:",
         *docstring(4, ["The methods that take handlers of events."]),
         "",
         "    __slots__ = ()",
-        "    _session: Session",
+        "    _session: Connection",
         "",
         "    def on(self, name: str, handler: Any = None) -> Any:",
-        *docstring(8, ON_DOC),
+        *docstring(8, on_doc(control)),
         "        if handler is not None:",
         "            self._session.add_handler(name, handler)",
         "            return None",
@@ -461,13 +497,13 @@ def registration() -> List[str]:
         "        return add",
         "",
         "    def off(self, name: str, handler: Any) -> None:",
-        *docstring(8, OFF_DOC),
+        *docstring(8, textwrap.wrap(OFF_DOC.format(noun=control.noun), WIDTH)),
         "        self._session.remove_handler(name, handler)",
     ]
 
 
-def events_stub(interface: Interface) -> str:
-    events = interface[CONTROL].events
+def events_stub(interface: Interface, control: Control) -> str:
+    events = interface[control.name].events
     lines = [
         HEAD,
         "from typing import Any, Callable, Literal, Sequence, Type, TypeVar, overload",
@@ -482,7 +518,7 @@ def events_stub(interface: Interface) -> str:
     ]
     for event in events:
         lines += ["", *event_stub(interface, event)]
-    lines += ["", "EVENTS: Sequence[Type[Event]]", "", "class GridEvents:"]
+    lines += ["", "EVENTS: Sequence[Type[Event]]", "", f"class {control.prefix}Events:"]
     for event in events:
         name, handler = f'name: Literal["{event.name}"]', f"_Handler[{event.name}]"
         lines += ["    @overload"]
@@ -514,19 +550,20 @@ def event_stub(interface: Interface, event: Event) -> List[str]:
 
 PACKAGE_NAMES = {
     "_errors": ["AutomationError"],
-    "_grid": ["Grid", "TextBox"],
+    "_grid": ["Grid"],
     "_objects": ["Font", "Picture", "Surface"],
     "_scroll_bar": ["ScrollBar"],
+    "_text_box": ["TextBox"],
     "_version": ["__version__"],
 }
 
 
 def package_stub(interface: Interface) -> str:
-    lines = [HEAD, "from . import events as events, host as host"]
+    lines = [HEAD, "from . import events as events, host as host, text_box_events as text_box_events"]
     names = [name for enum in interface.enums for name, _ in enum.values]
     for module, exported in {"_constants": names, **PACKAGE_NAMES}.items():
         lines += [f"from .{module} import (", *(f"    {name} as {name}," for name in exported), ")"]
     public = [each for exported in PACKAGE_NAMES.values() for each in exported if each[0] != "_"]
-    listed = sorted(["events", "host", *public]) + names
+    listed = sorted(["events", "host", "text_box_events", *public]) + names
     lines += ["", "__all__ = [", *(f'    "{name}",' for name in listed), "]"]
     return finished(lines)

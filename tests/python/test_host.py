@@ -365,21 +365,29 @@ class TestChildren(GridTest):
         self.assertIn("'picSplitCol'", repr(self.g.host.child("PICSPLITCOL")))
         self.assertEqual(self.g.host.child("scrv").left, self.g.host.child("scrV").left)
 
-    def test_what_is_not_built_yet_is_error_445(self) -> None:
-        child = self.g.host.child("txtTmp")
-        for use in (
-            lambda: child.text,
-            lambda: setattr(child, "text", "a"),
-            lambda: child.sel_start,
-            lambda: child.sel_length,
-            lambda: child.key_down(1),
-            lambda: child.key_press("a"),
-            lambda: child.key_up(1),
-            lambda: child.items,
-            lambda: child.list_index,
-            lambda: child.click_item(0),
-        ):
-            self.fails(445, use)
+    def test_other_children_are_no_editors(self) -> None:
+        for name in "scrV scrH fraEdit cPivot picSplitCol picSplitMove".split():
+            child = self.g.host.child(name)
+            for use in (
+                lambda: child.text,
+                lambda: setattr(child, "text", "a"),
+                lambda: child.sel_start,
+                lambda: setattr(child, "sel_start", 1),
+                lambda: child.sel_length,
+                lambda: setattr(child, "sel_length", 1),
+                lambda: child.key_down(1),
+                lambda: child.key_press("a"),
+                lambda: child.key_up(1),
+            ):
+                self.fails(438, use)
+        for name in "scrV txtTmp fraEdit".split():
+            child = self.g.host.child(name)
+            for use in (
+                lambda: child.items,
+                lambda: child.list_index,
+                lambda: child.click_item(0),
+            ):
+                self.fails(438, use)
 
 
 class TestBars(GridTest):

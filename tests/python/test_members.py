@@ -259,12 +259,5 @@ class TestEveryMember(GridTest):
             self.assertEqual(kind._names, tuple(argument.name for argument in event.arguments))
 
 
-class TestCompanions(unittest.TestCase):
-    def test_the_text_box_is_not_built_yet(self) -> None:
-        with self.assertRaises(vornix.AutomationError) as caught:
-            vornix.TextBox()
-        self.assertEqual(caught.exception.number, 445)
-
-
 if __name__ == "__main__":
     unittest.main()

@@ -64,7 +64,8 @@ class TestStubs(unittest.TestCase):
         ]
         with tempfile.TemporaryDirectory() as folder:
             allowlist = Path(folder) / "allowlist"
-            allowlist.write_text("\n".join([*allowed, "vornix.events.EventName"]))
+            names = ["vornix.events.EventName", "vornix.text_box_events.EventName"]
+            allowlist.write_text("\n".join([*allowed, *names]))
             status, output = self.run_tool(
                 "stubtest", "--ignore-unused-allowlist", "--allowlist", str(allowlist), "vornix"
             )

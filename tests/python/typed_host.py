@@ -9,6 +9,10 @@ def refuse(e: vornix.events.CellChange) -> None:
     e.bCancel = e.Row == 0
 
 
+def capital(e: vornix.text_box_events.KeyPress) -> None:
+    e.KeyAscii = ord(chr(e.KeyAscii).upper())
+
+
 def use(g: vornix.Grid) -> None:
     g.Rows = g.Rows + 1
     g.Text[0, 1] = g.Text[0, 0] + g.Text(Row=1, Col=0)
@@ -33,6 +37,11 @@ def use(g: vornix.Grid) -> None:
     g.off("CellChange", refuse)
     g.host.key_press("a")
     left: int = g.host.child("scrV").left
+    editor = g.host.child("txtTmp")
+    editor.text = editor.text[editor.sel_start :]
+    editor.sel_length = editor.key_down(46) + editor.key_press("a", 2) + editor.key_up(46)
+    items: List[str] = g.host.child("cboTmp").items
+    g.host.child("cboTmp").click_item(g.host.child("cboTmp").list_index)
     bar = g.host.child("scrV")
     bar.notify(5, track_pos=bar.min + bar.max - bar.value)
     with vornix.ScrollBar(1, length=80, bag=None) as own:
@@ -40,7 +49,12 @@ def use(g: vornix.Grid) -> None:
         own.on("Change", print)
         own.host.notify(5, track_pos=own.Value)
         saved = own.host.save()
-    print(place, size, parent, merged, texts, left, saved)
+    with vornix.TextBox(120, height=21, bag=None) as box:
+        box.Text = box.Mask + box.TextInput
+        box.on("KeyPress", capital)
+        box.host.paste(box.SelText)
+        kept = box.host.save()
+    print(place, size, parent, merged, texts, left, saved, items, kept)
 
     @g.on("KeyDown")
     def key(e: vornix.events.KeyDown) -> None:

@@ -100,7 +100,7 @@ void HeadlessComboBox::MouseMove(i16 button, i16 shift, float x, float y)
 void HeadlessComboBox::ClickItem(int index)
 {
     if (index < 0 || index >= ItemCount())
-        throw AutomationError(ErrorNumber::InvalidArgument, "The list has no such row");
+        throw AutomationError(ErrorNumber::SubscriptOutOfRange);
     if (!IsUsable())
         return;
     isDroppedDown_ = false;

@@ -11,13 +11,14 @@ Surface are what it is given besides plain values; a call that fails raises Auto
 constants of the interface are attributes of the package: vornix.vxCheckBox.
 """
 
-from . import events, host
+from . import events, host, text_box_events
 from ._constants import *
 from ._constants import __all__ as _constants
 from ._errors import AutomationError
-from ._grid import Grid, TextBox
+from ._grid import Grid
 from ._objects import Font, Picture, Surface
 from ._scroll_bar import ScrollBar
+from ._text_box import TextBox
 from ._version import __version__
 
 __all__ = [
@@ -30,5 +31,6 @@ __all__ = [
     "TextBox",
     "events",
     "host",
+    "text_box_events",
 ]
 __all__ += _constants

@@ -3,7 +3,7 @@
 from typing import TYPE_CHECKING, Any, NoReturn, Optional, Type
 
 from ._errors import NO_SUCH_MEMBER, AutomationError
-from ._session import CALL, GET, LET, Session
+from ._session import CALL, GET, LET, Connection
 
 _WRONG_COUNT = 450
 
@@ -13,7 +13,7 @@ class Members:
 
     __slots__ = ("_session",)
 
-    _session: Session
+    _session: Connection
 
     def _get(self, name: str) -> Any:
         return self._session.invoke(name, GET, ())

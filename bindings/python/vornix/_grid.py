@@ -6,14 +6,14 @@ from typing import Any, List, Mapping, MutableMapping, Optional, TypeVar
 from . import _library
 from ._bag import make_bag
 from ._checks import to_bool, to_float, to_i16, to_i32, to_text
-from ._errors import INVALID_ARGUMENT, NOT_SUPPORTED, TYPE_MISMATCH, AutomationError
+from ._errors import INVALID_ARGUMENT, TYPE_MISMATCH, AutomationError
 from ._identity import Unique
 from ._members import GridMembers
 from ._session import CALL, GET, LET, Session, Settings
 from .events import EVENTS, GridEvents
 from .host import Host
 
-__all__ = ["Grid", "TextBox"]
+__all__ = ["Grid"]
 
 _KINDS = {"get": GET, "let": LET, "call": CALL}
 
@@ -51,6 +51,8 @@ class Grid(GridMembers, GridEvents, Unique):
     """
 
     __slots__ = ("__weakref__",)
+
+    _session: Session
 
     def __init__(
         self,
@@ -138,16 +140,4 @@ class Grid(GridMembers, GridEvents, Unique):
         return f"<vornix.Grid Rows={size[0]} Cols={size[1]}>"
 
 
-class TextBox:
-    """A text box with an input mask. Not built yet: making one is error 445."""
-
-    __slots__ = ("__weakref__",)
-
-    def __init__(
-        self, width: int = 120, height: int = 21, *, bag: Optional[Mapping[str, Any]] = None
-    ) -> None:
-        raise AutomationError(NOT_SUPPORTED, "vornix.TextBox is not built yet")
-
-
-for _public in (Grid, TextBox):
-    _public.__module__ = "vornix"
+Grid.__module__ = "vornix"

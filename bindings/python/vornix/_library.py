@@ -136,6 +136,17 @@ class ScrollBarOptions(Structure):
     ]
 
 
+class TextBoxOptions(Structure):
+    _fields_ = [
+        ("size", c_size_t),
+        ("width", c_int32),
+        ("height", c_int32),
+        ("has_bag", c_int32),
+        ("bag", POINTER(BagEntry)),
+        ("bag_count", c_size_t),
+    ]
+
+
 class TextBlock(Structure):
     _fields_ = [
         ("code_points", c_void_p),
@@ -173,6 +184,15 @@ class BarInfo(Structure):
     _fields_ = [("min", c_int32), ("max", c_int32), ("page", c_int32), ("value", c_int32)]
 
 
+class ComboInfo(Structure):
+    _fields_ = [
+        ("item_count", c_int32),
+        ("list_index", c_int32),
+        ("dropped_down", c_int32),
+        ("list_only", c_int32),
+    ]
+
+
 class ChildInfo(Structure):
     _fields_ = [
         ("visible", c_int32),
@@ -187,6 +207,7 @@ class ChildInfo(Structure):
 _handle = c_void_p
 _values = POINTER(Value)
 _i32_out = POINTER(c_int32)
+_i16_out = POINTER(c_int16)
 _size_out = POINTER(c_size_t)
 _text_out = POINTER(Text)
 _name_out = POINTER(c_char_p)
@@ -232,6 +253,20 @@ _STATUS_FUNCTIONS = {
     "vornix_scroll_bar_notify": [_handle, c_int32, _i32_out],
     "vornix_scroll_bar_resize": [_handle, c_int32, c_int32],
     "vornix_scroll_bar_save": [_handle, POINTER(BagEntry), c_size_t, _size_out],
+    "vornix_text_box_create": [POINTER(TextBoxOptions), POINTER(_handle)],
+    "vornix_text_box_destroy": [_handle],
+    "vornix_text_box_set_callback": [_handle, c_void_p, c_void_p],
+    "vornix_text_box_invoke": [_handle, c_char_p, c_int32, _values, c_size_t, _values],
+    "vornix_text_box_key_down": [_handle, _i16_out, c_int16],
+    "vornix_text_box_key_press": [_handle, _i16_out, c_int16],
+    "vornix_text_box_key_up": [_handle, _i16_out, c_int16],
+    "vornix_text_box_type": [_handle, Text],
+    "vornix_text_box_press": [_handle, c_char_p, c_int16],
+    "vornix_text_box_press_code": [_handle, c_int16, c_int16],
+    "vornix_text_box_paste": [_handle, Text],
+    "vornix_text_box_resize": [_handle, c_int32, c_int32],
+    "vornix_text_box_size": [_handle, _i32_out, _i32_out],
+    "vornix_text_box_save": [_handle, POINTER(BagEntry), c_size_t, _size_out],
     "vornix_host_get_user_mode": [_handle, _i32_out],
     "vornix_host_set_user_mode": [_handle, c_int32],
     "vornix_host_resize": [_handle, c_int32, c_int32],
@@ -261,6 +296,16 @@ _STATUS_FUNCTIONS = {
     "vornix_host_child": [_handle, c_char_p, POINTER(ChildInfo)],
     "vornix_host_bar": [_handle, c_char_p, POINTER(BarInfo)],
     "vornix_host_notify_bar": [_handle, c_char_p, c_int32, _i32_out],
+    "vornix_host_get_editor_text": [_handle, c_char_p, _text_out],
+    "vornix_host_set_editor_text": [_handle, c_char_p, Text],
+    "vornix_host_get_editor_selection": [_handle, c_char_p, _i32_out, _i32_out],
+    "vornix_host_set_editor_selection": [_handle, c_char_p, c_int32, c_int32],
+    "vornix_host_editor_key_down": [_handle, c_char_p, _i16_out, c_int16],
+    "vornix_host_editor_key_press": [_handle, c_char_p, _i16_out, c_int16],
+    "vornix_host_editor_key_up": [_handle, c_char_p, _i16_out, c_int16],
+    "vornix_host_combo": [_handle, c_char_p, POINTER(ComboInfo)],
+    "vornix_host_combo_item": [_handle, c_char_p, c_int32, _text_out],
+    "vornix_host_click_combo_item": [_handle, c_char_p, c_int32],
     "vornix_host_clear_log": [_handle],
     "vornix_host_log_count": [_handle, _size_out],
     "vornix_host_log_at": [_handle, c_size_t, _i32_out, _values, c_size_t, _size_out],

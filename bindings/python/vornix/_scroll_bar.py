@@ -1,21 +1,18 @@
 """The scroll bar that comes with the grid, in a container without a screen of its own."""
 
 import ctypes
-from typing import Any, Callable, Dict, List, Mapping, Optional, Sequence, Tuple, TypeVar, Union
+from typing import Any, Callable, Dict, List, Mapping, Optional, Tuple, TypeVar, Union
 
 from . import _library
 from ._bag import make_bag
-from ._checks import character_code, to_i16, to_i32, to_name, to_text
+from ._checks import character_code, to_i16, to_i32, to_text
+from ._companion import CompanionSession
 from ._errors import INVALID_ARGUMENT, AutomationError
 from ._event import Event
 from ._identity import Unique
-from ._library import CALL, GET, LET, Value, library
-from ._session import Connection, callback_address
-from ._values import peek, put, take
+from ._library import CALL, GET, LET
 
 __all__ = ["BarHost", "Change", "Scroll", "ScrollBar"]
-
-_SAVED_AT_MOST = 8
 
 
 class Change(Event):
@@ -64,61 +61,13 @@ class Scroll(Event):
 _EVENTS = (Change, Scroll)
 
 
-class _BarSession(Connection):
+class _BarSession(CompanionSession):
     """One scroll bar."""
 
-    __slots__ = ("log",)
+    __slots__ = ()
 
     _kind = "scroll bar"
-
-    def __init__(self, options: _library.ScrollBarOptions) -> None:
-        super().__init__(_EVENTS)
-        self.log: List[Tuple[str, Dict[str, Any]]] = []
-        pointer = ctypes.c_void_p()
-        status = library.vornix_scroll_bar_create(ctypes.byref(options), ctypes.byref(pointer))
-        self._made(status, pointer.value, library.vornix_scroll_bar_destroy)
-        self.call(library.vornix_scroll_bar_set_callback, callback_address, self._number)
-
-    def invoke(self, name: str, kind: int, arguments: Sequence[Any]) -> Any:
-        slots = (Value * len(arguments))()
-        kept = [put(slot, argument) for slot, argument in zip(slots, arguments)]
-        result = Value()
-        try:
-            self.call(
-                library.vornix_scroll_bar_invoke,
-                to_name(name),
-                kind,
-                slots,
-                len(arguments),
-                ctypes.byref(result),
-            )
-            return take(result)
-        finally:
-            library.vornix_value_clear(ctypes.byref(result))
-            kept.clear()
-
-    def dispatch(self, number: int, arguments: Any, length: int) -> None:
-        event = _EVENTS[number - 1]
-        values = [peek(arguments[place]) for place in range(length)]
-        self.log.append((event.__name__, dict(zip(event._names, values))))
-        super().dispatch(number, arguments, length)
-
-    def listen(self) -> None:
-        """Events come in always, for the log."""
-        self.require_open()
-
-    def stop_listening(self) -> None:
-        self.require_open()
-
-    def end(self) -> None:
-        """Ends the bar. Inside one of its own calls it is freed with the last reference to it."""
-        if self._ended:
-            return
-        self.require_open()
-        self._ended = True
-        self._handlers.clear()
-        if library.vornix_scroll_bar_destroy(self._pointer) == 0:
-            self._end.detach()
+    _prefix = "vornix_scroll_bar_"
 
 
 _B = TypeVar("_B", bound="ScrollBar")
@@ -152,7 +101,7 @@ class ScrollBar(Unique):
             bag=entries,
             bag_count=len(entries),
         )
-        self._session = _BarSession(options)
+        self._session = _BarSession(_EVENTS, options)
 
     @property
     def host(self) -> "BarHost":
@@ -292,20 +241,15 @@ class BarHost(Unique):
         bar hears nothing. Error 5 for other codes.
         """
         held = None if track_pos is None else ctypes.byref(ctypes.c_int32(to_i32(track_pos)))
-        self._session.call(library.vornix_scroll_bar_notify, to_i32(code), held)
+        self._session.use("notify", to_i32(code), held)
 
     def resize(self, width: int, height: int) -> None:
         """Gives the bar another size, in pixels."""
-        self._session.call(library.vornix_scroll_bar_resize, to_i32(width), to_i32(height))
+        self._session.use("resize", to_i32(width), to_i32(height))
 
     def save(self) -> Dict[str, Any]:
         """What the bar saves with its form."""
-        entries = (_library.BagEntry * _SAVED_AT_MOST)()
-        length = ctypes.c_size_t()
-        call = library.vornix_scroll_bar_save
-        self._session.call(call, entries, len(entries), ctypes.byref(length))
-        given = entries[: length.value]
-        return {entry.name.decode(): take(entry.value) for entry in given}
+        return self._session.saved()
 
     def tick(self) -> None:
         """One tick of a timer, which a bar does not have."""

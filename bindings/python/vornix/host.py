@@ -2,7 +2,7 @@
 
 import ctypes
 import os
-from typing import Any, Dict, List, NoReturn, Optional, Sequence, Tuple, Union
+from typing import Any, Dict, List, NoReturn, Optional, Tuple, Union
 
 from . import _library
 from ._checks import (
@@ -329,12 +329,12 @@ class Child(Unique):
 
     @property
     def left(self) -> int:
-        """The left edge in pixels of the client area."""
+        """The left edge in pixels of the client area; that of an editor in its frame, "fraEdit"."""
         return int(self._info().left)
 
     @property
     def top(self) -> int:
-        """The upper edge in pixels of the client area."""
+        """The upper edge in pixels of the client area; that of an editor in its frame, "fraEdit"."""
         return int(self._info().top)
 
     @property
@@ -347,64 +347,95 @@ class Child(Unique):
         """The height in pixels."""
         return int(self._info().height)
 
-    # What editors have besides. None of it is built yet: error 445.
+    # What editors have besides, "txtTmp" and "cboTmp". Of other children it is error 438.
 
-    def _not_built(self, what: str) -> NoReturn:
-        self._session.require_open()
-        _not_built(f"{what} of {self._name}")
+    def _use(self, function: Any, *arguments: Any) -> None:
+        self._session.call(function, to_name(self._name), *arguments)
 
     @property
     def text(self) -> str:
-        """The text of an editor."""
-        self._not_built("The text")
+        """The text of an editor. Written, it is what its user has put in place of the whole text, as
+        an assistive tool does: the grid hears of it, and the caret stands in front of it."""
+        text = _library.Text()
+        self._use(library.vornix_host_get_editor_text, ctypes.byref(text))
+        return text_of(text)
 
     @text.setter
     def text(self, value: str) -> None:
-        self._not_built("The text")
+        self._use(library.vornix_host_set_editor_text, make_text(to_text(value)))
+
+    def _selection(self) -> Tuple[int, int]:
+        start, length = ctypes.c_int32(), ctypes.c_int32()
+        call = library.vornix_host_get_editor_selection
+        self._use(call, ctypes.byref(start), ctypes.byref(length))
+        return start.value, length.value
 
     @property
     def sel_start(self) -> int:
-        """Where the selected text of an editor begins."""
-        self._not_built("The selected text")
+        """Where the selected text of an editor begins, or the caret stands. Written, it is limited
+        to the text and selects nothing."""
+        return self._selection()[0]
 
     @sel_start.setter
     def sel_start(self, value: int) -> None:
-        self._not_built("The selected text")
+        self._use(library.vornix_host_set_editor_selection, to_i32(value), 0)
 
     @property
     def sel_length(self) -> int:
-        """How long the selected text of an editor is."""
-        self._not_built("The selected text")
+        """How long the selected text of an editor is. Written, it is limited to the text."""
+        return self._selection()[1]
 
     @sel_length.setter
     def sel_length(self, value: int) -> None:
-        self._not_built("The selected text")
+        length = to_i32(value)
+        self._use(library.vornix_host_set_editor_selection, self.sel_start, length)
+
+    def _key(self, function: Any, code: int, shift: int) -> int:
+        value = ctypes.c_int16(code)
+        self._use(function, ctypes.byref(value), to_i16(shift))
+        return value.value
 
     def key_down(self, code: int, shift: int = 0) -> int:
-        """A key goes down in an editor."""
-        self._not_built("The keyboard")
+        """A key goes down in an editor. Gives the code as the handlers left it; what is left the
+        editor does by itself: Delete, and the keys that move the caret or walk a list. One that is
+        hidden or disabled hears nothing."""
+        return self._key(library.vornix_host_editor_key_down, to_i16(code), shift)
 
-    def key_press(self, char: Union[str, int]) -> int:
-        """A character is typed into an editor."""
-        self._not_built("The keyboard")
+    def key_press(self, char: Union[str, int], shift: int = 0) -> int:
+        """A character is typed into an editor: itself, or its code. Gives the code as the handlers
+        left it; what is left takes the place of the selection."""
+        return self._key(library.vornix_host_editor_key_press, character_code(char), shift)
 
     def key_up(self, code: int, shift: int = 0) -> int:
-        """A key goes up in an editor."""
-        self._not_built("The keyboard")
+        """A key goes up in an editor. Gives the code as the handlers left it."""
+        return self._key(library.vornix_host_editor_key_up, to_i16(code), shift)
+
+    # What the combo box has besides. Of other children it is error 438.
+
+    def _combo(self) -> _library.ComboInfo:
+        info = _library.ComboInfo()
+        self._use(library.vornix_host_combo, ctypes.byref(info))
+        return info
 
     @property
-    def items(self) -> Sequence[str]:
-        """The items of a combo box."""
-        self._not_built("The list")
+    def items(self) -> List[str]:
+        """The rows in the list of a combo box."""
+        return [self._item(index) for index in range(self._combo().item_count)]
+
+    def _item(self, index: int) -> str:
+        text = _library.Text()
+        self._use(library.vornix_host_combo_item, index, ctypes.byref(text))
+        return text_of(text)
 
     @property
     def list_index(self) -> int:
-        """The item of a combo box that is selected; -1 for none."""
-        self._not_built("The list")
+        """The row of a combo box that is selected; -1 for none."""
+        return int(self._combo().list_index)
 
     def click_item(self, index: int) -> None:
-        """Clicks an item of a combo box."""
-        self._not_built("The list")
+        """Clicks a row in the list of a combo box, which is told even where it is selected already.
+        Error 9 for a row that there is not. A box that is hidden or disabled hears nothing."""
+        self._use(library.vornix_host_click_combo_item, to_i32(index))
 
     # What bars have besides. Of other children it is error 438.
 

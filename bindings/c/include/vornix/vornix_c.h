@@ -40,6 +40,7 @@ typedef struct vornix_array vornix_array;
 typedef struct vornix_object vornix_object;
 typedef struct vornix_surface vornix_surface;
 typedef struct vornix_scroll_bar vornix_scroll_bar;
+typedef struct vornix_text_box vornix_text_box;
 
 typedef struct vornix_text {
     const uint16_t* data; /* may be null when the length is 0 */
@@ -375,7 +376,8 @@ typedef struct vornix_child_info {
     int32_t width;
     int32_t height;
 } vornix_child_info;
-/* "scrV", "scrH", "txtTmp", "cboTmp", "fraEdit", "cPivot", "picSplitCol", "picSplitMove"; error 5 for other names. */
+/* "scrV", "scrH", "txtTmp", "cboTmp", "fraEdit", "cPivot", "picSplitCol", "picSplitMove"; error 5 for other names. The
+ * place is one in the client area; that of "txtTmp" and "cboTmp" is one in their frame, "fraEdit". */
 VORNIX_API int32_t vornix_host_child(vornix_grid* grid, const char* name, vornix_child_info* info);
 
 typedef struct vornix_bar_info {
@@ -402,6 +404,35 @@ enum {
  * one, and one of a control whose Redraw is off, goes unheard. Error 5 for another number. */
 VORNIX_API int32_t vornix_host_notify_bar(
     vornix_grid* grid, const char* name, int32_t code, const int32_t* track_position);
+
+/* The text of an editor, "txtTmp" or "cboTmp", and its selection in UTF-16 units; error 438 for the other children. The text
+ * is valid until the grid is called again. A text that is set is one that the user has put in place of the whole, by an
+ * assistive tool; the caret stands in front of it. A selection is limited to the text. */
+VORNIX_API int32_t vornix_host_get_editor_text(vornix_grid* grid, const char* name, vornix_text* text);
+VORNIX_API int32_t vornix_host_set_editor_text(vornix_grid* grid, const char* name, vornix_text text);
+VORNIX_API int32_t vornix_host_get_editor_selection(
+    vornix_grid* grid, const char* name, int32_t* start, int32_t* length);
+VORNIX_API int32_t vornix_host_set_editor_selection(vornix_grid* grid, const char* name, int32_t start, int32_t length);
+/* Single notifications of a key to an editor, whatever has the focus. What is left of the code the editor does by itself:
+ * Delete and the keys of the caret at key_down, all that characters do at key_press. One that is hidden or disabled hears
+ * nothing. */
+VORNIX_API int32_t vornix_host_editor_key_down(vornix_grid* grid, const char* name, int16_t* code, int16_t shift);
+VORNIX_API int32_t vornix_host_editor_key_press(
+    vornix_grid* grid, const char* name, int16_t* character, int16_t shift);
+VORNIX_API int32_t vornix_host_editor_key_up(vornix_grid* grid, const char* name, int16_t* code, int16_t shift);
+
+typedef struct vornix_combo_info {
+    int32_t item_count;
+    int32_t list_index; /* -1 for none */
+    int32_t dropped_down; /* the list shows */
+    int32_t list_only; /* the field takes no characters */
+} vornix_combo_info;
+/* Of the combo box "cboTmp"; error 438 for the other children. */
+VORNIX_API int32_t vornix_host_combo(vornix_grid* grid, const char* name, vornix_combo_info* info);
+/* The text is valid until the grid is called again. Error 9 for a row that there is not. */
+VORNIX_API int32_t vornix_host_combo_item(vornix_grid* grid, const char* name, int32_t index, vornix_text* text);
+/* Its user clicks a row of the list. Error 9 for one that there is not. A box that is hidden or disabled has no user. */
+VORNIX_API int32_t vornix_host_click_combo_item(vornix_grid* grid, const char* name, int32_t index);
 
 /* What the control said since the log was cleared: events as they were raised, handled or not, and the names of the
  * properties that PropertyChanged reported. */
@@ -476,6 +507,65 @@ VORNIX_API int32_t vornix_scroll_bar_resize(vornix_scroll_bar* bar, int32_t widt
  * the bar is saved again. */
 VORNIX_API int32_t vornix_scroll_bar_save(
     vornix_scroll_bar* bar, vornix_bag_entry* entries, size_t capacity, size_t* count);
+
+/* -- The text box that comes with the grid, in a container of its own -- */
+
+/* A box belongs to the thread that made it, and is not used any more once it has been destroyed. */
+typedef struct vornix_text_box_options {
+    size_t size; /* sizeof(vornix_text_box_options) */
+    int32_t width; /* pixels, up to 32767; 120 where 0 */
+    int32_t height; /* 21 where 0 */
+    int32_t has_bag; /* what the box was saved with; without one it is new */
+    const vornix_bag_entry* bag;
+    size_t bag_count;
+} vornix_text_box_options;
+
+/* Events, with their arguments in this order; `ref` marks those by reference. As vornix_event_callback says otherwise. */
+enum {
+    VORNIX_TEXT_BOX_CHANGE = 1,
+    VORNIX_TEXT_BOX_CLICK = 2,
+    VORNIX_TEXT_BOX_OLE_START_DRAG = 3, /* Data, ref AllowedEffects */
+    VORNIX_TEXT_BOX_OLE_SET_DATA = 4, /* Data, ref DataFormat */
+    VORNIX_TEXT_BOX_OLE_GIVE_FEEDBACK = 5, /* ref Effect, ref DefaultCursors */
+    VORNIX_TEXT_BOX_OLE_DRAG_OVER = 6, /* Data, ref Effect, ref Button, ref Shift, ref x, ref y, ref State */
+    VORNIX_TEXT_BOX_OLE_DRAG_DROP = 7, /* Data, ref Effect, ref Button, ref Shift, ref x, ref y */
+    VORNIX_TEXT_BOX_OLE_COMPLETE_DRAG = 8, /* ref Effect */
+    VORNIX_TEXT_BOX_MOUSE_UP = 9, /* Button, Shift, x, y */
+    VORNIX_TEXT_BOX_MOUSE_MOVE = 10, /* Button, Shift, x, y */
+    VORNIX_TEXT_BOX_MOUSE_DOWN = 11, /* Button, Shift, x, y */
+    VORNIX_TEXT_BOX_KEY_UP = 12, /* ref KeyCode, ref Shift */
+    VORNIX_TEXT_BOX_KEY_PRESS = 13, /* ref KeyAscii */
+    VORNIX_TEXT_BOX_KEY_DOWN = 14, /* ref KeyCode, ref Shift */
+    VORNIX_TEXT_BOX_DBL_CLICK = 15,
+    VORNIX_TEXT_BOX_RESIZE = 16,
+    VORNIX_TEXT_BOX_KEY_ARROW_MOVE = 17 /* ref KeyCode */
+};
+typedef void (*vornix_text_box_callback)(
+    void* user, vornix_text_box* box, int32_t number, vornix_value* arguments, size_t count);
+
+/* Options may be null. The box is shown, without the focus. */
+VORNIX_API int32_t vornix_text_box_create(const vornix_text_box_options* options, vornix_text_box** box);
+/* As vornix_scroll_bar_destroy. */
+VORNIX_API int32_t vornix_text_box_destroy(vornix_text_box* box);
+VORNIX_API int32_t vornix_text_box_set_callback(vornix_text_box* box, vornix_text_box_callback callback, void* user);
+/* A member by its name, as vornix_invoke calls those of a grid. */
+VORNIX_API int32_t vornix_text_box_invoke(vornix_text_box* box, const char* name, int32_t kind,
+    const vornix_value* arguments, size_t count, vornix_value* result);
+/* Single notifications of its user, as vornix_host_editor_key_down and its neighbours. */
+VORNIX_API int32_t vornix_text_box_key_down(vornix_text_box* box, int16_t* code, int16_t shift);
+VORNIX_API int32_t vornix_text_box_key_press(vornix_text_box* box, int16_t* character, int16_t shift);
+VORNIX_API int32_t vornix_text_box_key_up(vornix_text_box* box, int16_t* code, int16_t shift);
+/* What a person does, as vornix_host_type and vornix_host_press: the box gets the focus first. */
+VORNIX_API int32_t vornix_text_box_type(vornix_text_box* box, vornix_text text);
+VORNIX_API int32_t vornix_text_box_press(vornix_text_box* box, const char* key, int16_t shift);
+VORNIX_API int32_t vornix_text_box_press_code(vornix_text_box* box, int16_t code, int16_t shift);
+/* Its user pastes a text in place of the selection. */
+VORNIX_API int32_t vornix_text_box_paste(vornix_text_box* box, vornix_text text);
+VORNIX_API int32_t vornix_text_box_resize(vornix_text_box* box, int32_t width, int32_t height);
+VORNIX_API int32_t vornix_text_box_size(vornix_text_box* box, int32_t* width, int32_t* height);
+/* What the box saves, as vornix_scroll_bar_save; clear each value that is given. */
+VORNIX_API int32_t vornix_text_box_save(
+    vornix_text_box* box, vornix_bag_entry* entries, size_t capacity, size_t* count);
 
 #ifdef __cplusplus
 }

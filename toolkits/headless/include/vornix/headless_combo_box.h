@@ -25,7 +25,7 @@ public:
     // A press gives the focus.
     void MouseDown(i16 button, i16 shift, float x, float y) override;
     void MouseMove(i16 button, i16 shift, float x, float y) override;
-    // A click on a row, which closes the list. Error 5 for a row that there is not.
+    // A click on a row, which closes the list. Error 9 for a row that there is not.
     void ClickItem(int index);
     // Takes the place of the selection, where rows are not all that can be picked.
     void Paste(std::u16string_view text);

@@ -295,11 +295,13 @@ PointerLocation QtContainer::LocatePointer() const
         return location;
     if (under == &widget_)
         location.window = PointerLocation::Window::Control;
+    // What is in the frame comes before the frame.
     for (std::size_t child = 0; child < children_.size(); ++child) {
         if (!children_[child]->Owns(*under))
             continue;
         location.window = PointerLocation::Window::Child;
         location.child = static_cast<ChildName>(child);
+        break;
     }
     return location;
 }

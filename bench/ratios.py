@@ -12,9 +12,9 @@ import sys
 TO_MILLISECONDS = {"ns": 1e-6, "us": 1e-3, "ms": 1.0, "s": 1e3}
 
 
-def beside(time, name):
-    """How many times longer the table takes than the grid."""
-    return time["QTableWidget/" + name] / time["Vornix/" + name]
+def beside(time, name, other="QTableWidget"):
+    """How many times longer the other takes than the grid."""
+    return time[f"{other}/{name}"] / time[f"Vornix/{name}"]
 
 
 # By name, from the benchmarks' times in milliseconds and their counters.
@@ -32,6 +32,10 @@ FIGURES = {
     "scroll_page_update_ratio": lambda time, _: beside(time, "scroll_page_update"),
     "smooth_step_update_ratio": lambda time, _: beside(time, "smooth_step_update"),
     "drag_select_update_ratio": lambda time, _: beside(time, "drag_select_update"),
+    "edit_next_ratio": lambda time, _: beside(time, "edit_next"),
+    "type_masked_ratio": lambda time, _: beside(time, "type_masked", "QLineEdit"),
+    "fill_list_ratio": lambda time, _: beside(time, "fill_list", "QComboBox"),
+    "search_list_ratio": lambda time, _: beside(time, "search_list", "QComboBox"),
     "select_all_ratio": lambda time, _: time["Vornix/select_all_rows"] / time["Vornix/select_one_row"],
     "hit_test_us": lambda time, _: time["Vornix/hit_test"] / TO_MILLISECONDS["us"],
     "cell_origin_us": lambda time, _: time["Vornix/cell_origin"] / TO_MILLISECONDS["us"],

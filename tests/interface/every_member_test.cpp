@@ -146,7 +146,13 @@ VariantType TypeOfResult(ValueType type)
 
 class AnyMember : public InvokeTest, public testing::WithParamInterface<Use> {
 protected:
-    AnyMember() { Table(3, 4, 1, 1); }
+    // With rows for members of the combo list.
+    AnyMember()
+    {
+        Table(3, 4, 1, 1);
+        Grid().ComboAddItem(u"0");
+        Grid().ComboAddItem(u"1");
+    }
 
     Arguments RightOnes() const
     {

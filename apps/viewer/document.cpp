@@ -1,35 +1,10 @@
 #include "document.h"
 
+#include "line_breaks.h"
+
 #include <stdexcept>
 
 namespace vornix::viewer {
-
-namespace {
-
-// The first line break of the text; CR LF is one.
-std::u16string_view LineBreakOf(std::u16string_view text)
-{
-    const auto start = text.find_first_of(u"\r\n");
-    if (start == std::u16string_view::npos)
-        return {};
-    const bool isPair = text.substr(start).starts_with(u"\r\n");
-    return text.substr(start, isPair ? 2 : 1);
-}
-
-std::u16string WithLineBreaks(std::u16string_view text, std::u16string_view lineBreak)
-{
-    std::u16string result;
-    while (true) {
-        const std::u16string_view found = LineBreakOf(text);
-        if (found.empty())
-            return result.append(text);
-        const auto start = static_cast<std::size_t>(found.data() - text.data());
-        result.append(text.substr(0, start)).append(lineBreak);
-        text.remove_prefix(start + found.size());
-    }
-}
-
-} // namespace
 
 Document::Document(ChangeableSource source)
     : source_(std::move(source))

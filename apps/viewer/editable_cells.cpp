@@ -1,13 +1,10 @@
 #include "editable_cells.h"
 
+#include "line_breaks.h"
+
 namespace vornix::viewer {
 
 namespace {
-
-bool HasLineBreak(std::u16string_view text)
-{
-    return text.find_first_of(u"\r\n") != std::u16string_view::npos;
-}
 
 class CellOpener {
 public:
@@ -33,12 +30,18 @@ public:
         if (grid_.CellMode(Row, Col) == vxCheckBox)
             return;
         SetMode(Row, Col, document_.CanChange(Row, Col) ? vxTextBox : vxCellFixed);
-        // An editor of one line could not keep the breaks.
-        if (HasLineBreak(table_.Text(Row, Col)))
-            grid_.SetTextAlignment(Row, Col, grid_.TextAlignment(Row, Col) & ~vxSingleLine);
+        if (!LineBreakOf(table_.Text(Row, Col)).empty())
+            MakeRoomForLines(Row, Col);
     }
 
 private:
+    // An editor of one line could not keep the breaks; those that it has are CR LF.
+    void MakeRoomForLines(i16 Row, i16 Col)
+    {
+        grid_.SetTextAlignment(Row, Col, grid_.TextAlignment(Row, Col) & ~(vxSingleLine | vxTxtVCenter));
+        grid_.SetText(Row, Col, WithLineBreaks(document_.Text(Row, Col), u"\r\n"));
+    }
+
     bool CanChangeAny(int column) const
     {
         for (int row = 0; row < table_.RowCount(); ++row) {
@@ -71,6 +74,7 @@ void MakeEditable(Vornix& grid, const Document& document)
     if (document.WhyReadOnly())
         return;
     grid.SetRedraw(false);
+    grid.SetTBoxAutoResize(true); // a text longer than its cell is seen whole while it is typed
     CellOpener opener(grid, document);
     for (int column = 0; column < document.Saved().ColumnCount(); ++column)
         opener.OpenColumn(column);

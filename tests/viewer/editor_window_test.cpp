@@ -137,6 +137,7 @@ TEST_F(EditorWindowTest, LetsTextsBeTypedAndCheckBoxesBeClicked)
     }
     EXPECT_EQ(Grid().CellMode(1, -1), vxCellFixed) << "a row number";
     EXPECT_EQ(Grid().TextAlignment(0, 3) & vxSingleLine, 0) << "its editor has room for line breaks";
+    EXPECT_EQ(Grid().Text(0, 3), u"a\r\nb") << "with the breaks of the editor";
     EXPECT_NE(Grid().TextAlignment(1, 3) & vxSingleLine, 0);
 }
 

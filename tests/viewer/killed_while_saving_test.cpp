@@ -39,7 +39,7 @@ public:
         posix_spawn_file_actions_destroy(&actions);
         ::close(pipe[1]);
         char line = 0;
-        EXPECT_EQ(::read(pipe[0], &line, 1), 1) << "it has begun";
+        EXPECT_EQ(::read(pipe[0], &line, 1), 1) << "it has saved once";
         ::close(pipe[0]);
     }
     // False when it had ended before by itself.
@@ -110,7 +110,7 @@ TEST(KilledWhileSaving, ATextFileIsTheOldOneOrTheNewOne)
         }
     });
     EXPECT_GT(unfinished, 0) << "it was killed in the middle of writing";
-    EXPECT_GT(generations.size(), 1u) << "it was killed after saving too";
+    EXPECT_GT(generations.size(), 1u) << "it was saved before";
 }
 
 TEST(KilledWhileSaving, ADatabaseHasAllOfTheChangesOrNone)
@@ -135,5 +135,5 @@ TEST(KilledWhileSaving, ADatabaseHasAllOfTheChangesOrNone)
         EXPECT_EQ(integrity.Text(0), u"ok");
     });
     EXPECT_GT(unfinished, 0) << "it was killed in the middle of writing";
-    EXPECT_GT(generations.size(), 1u) << "it was killed after saving too";
+    EXPECT_GT(generations.size(), 1u) << "it was saved before";
 }

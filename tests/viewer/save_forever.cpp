@@ -1,5 +1,5 @@
 // Saves a file again and again until it is ended: save_forever FILE. The column "generation" of all rows goes up by one
-// each time. Writes a line once the file is read and saving begins.
+// each time. Writes a line once it was saved for the first time.
 #include "document.h"
 #include "unicode.h"
 
@@ -26,11 +26,13 @@ void SaveForever(const std::string& path)
     options.file = path;
     Document document(OpenForChanging(options, LoadLimits(), {}));
     const int column = GenerationColumn(document.Saved());
-    std::cout << "saving" << std::endl;
-    for (int generation = std::stoi(ToUtf8(document.Text(0, column))) + 1;; ++generation) {
+    const int first = std::stoi(ToUtf8(document.Text(0, column))) + 1;
+    for (int generation = first;; ++generation) {
         for (int row = 0; row < document.Saved().RowCount(); ++row)
             document.Change(row, column, ToUtf16(std::to_string(generation)));
         document.Save();
+        if (generation == first)
+            std::cout << "saving" << std::endl;
     }
 }
 

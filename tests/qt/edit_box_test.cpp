@@ -515,7 +515,7 @@ TEST_P(QtEditBoxTest, TheBorderIsALineAroundTheText)
 {
     EXPECT_EQ(Field().geometry(), QRect(0, 0, 200, 60));
     box.SetBorder(true);
-    EXPECT_EQ(Field().geometry(), QRect(1, 1, 198, 58));
+    EXPECT_EQ(Field().geometry(), QRect(2, 1, 196, 58));
     box.SetBorder(false);
     EXPECT_EQ(Field().geometry(), QRect(0, 0, 200, 60));
 }

@@ -153,6 +153,7 @@ void QtComboBox::MakeWindow()
     // Its size is no matter of its rows.
     combo_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     combo_->setFrame(false);
+    combo_->setAutoFillBackground(true);
     combo_->setModel(&model_);
     combo_->setEditable(true);
     combo_->setInsertPolicy(QComboBox::NoInsert);

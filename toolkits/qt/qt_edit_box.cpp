@@ -14,6 +14,13 @@
 
 namespace vornix {
 
+namespace {
+
+// Between a border and the text.
+constexpr int Padding = 1;
+
+} // namespace
+
 // The border, and the fields inside.
 class QtEditBox::Frame final : public QFrame {
 public:
@@ -142,8 +149,10 @@ void QtEditBox::ApplySettings()
 
 void QtEditBox::LayOut()
 {
-    if (frame_ && field_)
-        field_->Widget().setGeometry(frame_->contentsRect());
+    if (!frame_ || !field_)
+        return;
+    const int padding = hasBorder_ ? Padding : 0;
+    field_->Widget().setGeometry(frame_->contentsRect().adjusted(padding, 0, -padding, 0));
 }
 
 template <typename Step> void QtEditBox::Silently(const Step& step)

@@ -19,6 +19,7 @@ namespace {
 // What QLineEdit leaves free around its line.
 constexpr int SideMargin = 2;
 constexpr int TopMargin = 1;
+constexpr int CaretWidth = 1;
 constexpr int Unlimited = std::numeric_limits<int>::max();
 
 const QRegularExpression LineBreak(QStringLiteral("[\\r\\n\u2028\u2029]"));
@@ -50,7 +51,7 @@ QtLineField::QtLineField(QWidget* parent)
 {
     setFrame(false);
     setMaxLength(Unlimited);
-    setTextMargins(-SideMargin, -TopMargin, -SideMargin, -TopMargin);
+    setTextMargins(-SideMargin, -TopMargin, -SideMargin - CaretWidth, -TopMargin);
     QObject::connect(this, &QLineEdit::textChanged, this, [this] { HearChange(); });
 }
 

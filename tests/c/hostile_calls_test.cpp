@@ -60,6 +60,7 @@ private:
     void AnyNamed();
     void AnyNotification();
     void AnyInput();
+    void AnyEditing();
     void AnyQuestion();
     void MoreQuestions();
     bool IsTooMuch(const vornix_member_info& info, int kind, const Values& arguments);
@@ -259,7 +260,7 @@ void HostileHost::AnyInput()
     const auto button = static_cast<std::int16_t>(chance_.OneIn(4) ? values_.Index() : 1);
     const auto shift = static_cast<std::int16_t>(chance_.OneIn(4) ? values_.Index() : 0);
     auto code = static_cast<std::int16_t>(chance_.Between(-5, 300));
-    switch (chance_.Below(13)) {
+    switch (chance_.Below(15)) {
     case 0:
         return Count(vornix_host_mouse_down(grid_, x, y, button, shift), "mouse_down");
     case 1:
@@ -284,12 +285,49 @@ void HostileHost::AnyInput()
         return Count(vornix_host_drag(grid_, x, y, y, x, button, shift, chance_.Between(-1, 4)), "drag");
     case 11:
         return Count(vornix_host_type(grid_, View(values_.AnyText())), "type");
+    case 12:
+    case 13:
+        return AnyEditing();
     default: {
         static const std::array<const char*, 6> keys { "Left", "F2", "Return", "Tab", "", "\xFF" };
         return Count(chance_.OneIn(2) ? vornix_host_press(grid_, chance_.Of(keys), shift)
                                       : vornix_host_press_code(grid_, code, shift),
             "press");
     }
+    }
+}
+
+void HostileHost::AnyEditing()
+{
+    static const std::array<const char*, 4> names { "txtTmp", "cboTmp", "cboTmp", "fraEdit" };
+    const char* const name = chance_.Of(names);
+    const auto shift = static_cast<std::int16_t>(chance_.OneIn(4) ? values_.Index() : 0);
+    auto code = static_cast<std::int16_t>(chance_.Between(-5, 130));
+    std::int32_t start = chance_.Between(-5, 40);
+    std::int32_t length = chance_.Between(-5, 40);
+    vornix_combo_info info {};
+    vornix_text text {};
+    switch (chance_.Below(10)) {
+    case 0:
+    case 1:
+        return Count(vornix_host_editor_key_down(grid_, name, &code, shift), "editor_key_down");
+    case 2:
+    case 3:
+        return Count(vornix_host_editor_key_press(grid_, name, &code, shift), "editor_key_press");
+    case 4:
+        return Count(vornix_host_editor_key_up(grid_, name, &code, shift), "editor_key_up");
+    case 5:
+        return Count(vornix_host_set_editor_text(grid_, name, View(values_.AnyText())), "set_editor_text");
+    case 6:
+        Count(vornix_host_set_editor_selection(grid_, name, start, length), "set_editor_selection");
+        return Count(vornix_host_get_editor_selection(grid_, name, &start, &length), "get_editor_selection");
+    case 7:
+        return Count(vornix_host_get_editor_text(grid_, name, &text), "get_editor_text");
+    case 8:
+        Count(vornix_host_combo(grid_, name, &info), "combo");
+        return Count(vornix_host_combo_item(grid_, name, start, &text), "combo_item");
+    default:
+        return Count(vornix_host_click_combo_item(grid_, name, chance_.Between(-1, 3)), "click_combo_item");
     }
 }
 

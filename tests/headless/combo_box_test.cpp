@@ -124,14 +124,16 @@ TEST_F(ComboBoxTest, KeysWalkTheList)
     EXPECT_EQ(listener.Said(), (Lines { "KeyDown 40 0", "KeyDown 38 0" }));
 }
 
-TEST_F(ComboBoxTest, APageIsEightRows)
+TEST_F(ComboBoxTest, APageIsTenRows)
 {
     fruit.rows.assign(30, u"row");
     box.ItemsChanged();
     EXPECT_EQ(After(PageDownKey), 0);
-    EXPECT_EQ(After(PageDownKey), 8);
-    EXPECT_EQ(After(PageDownKey), 16);
-    EXPECT_EQ(After(PageUpKey), 8);
+    EXPECT_EQ(After(PageDownKey), 10);
+    EXPECT_EQ(After(PageDownKey), 20);
+    EXPECT_EQ(After(PageUpKey), 10);
+    EXPECT_EQ(After(PageUpKey, ShiftDown), 10);
+    EXPECT_EQ(After(DownKey, CtrlDown), 10) << "with other keys held none walks";
 }
 
 TEST_F(ComboBoxTest, HomeAndEndAreTheListsWhereOnlyRowsCanBePicked)

@@ -72,6 +72,13 @@ class TestHostile(GridTest):
             lambda: host.paint(),
             lambda: host.resize(abs(x), abs(y)),
             lambda: host.resize(320, 240),
+            lambda: host.type("a1"),
+            lambda: host.child("txtTmp").key_down(46),
+            lambda: host.child("txtTmp").key_press("x"),
+            lambda: setattr(host.child("txtTmp"), "text", self.random.choice(("", "whole"))),
+            lambda: setattr(host.child("cboTmp"), "sel_length", x),
+            lambda: host.child("cboTmp").key_down(40),
+            lambda: host.child("cboTmp").click_item(self.random.randint(-1, 3)),
         ]
         try:
             self.random.choice(uses)()

@@ -37,12 +37,12 @@ void HeadlessComboBox::KeyUp(i16& code, i16& shift)
 // Whether the key is one for the list.
 bool HeadlessComboBox::DoInList(i16 code, i16 shift)
 {
-    const bool opens = code == F4Key || ((shift & AltDown) && (code == UpKey || code == DownKey));
-    if (opens)
+    const bool isByAlt = (shift & AltDown) && (code == UpKey || code == DownKey);
+    if (isByAlt || (code == F4Key && shift == 0)) {
         isDroppedDown_ = !isDroppedDown_;
-    if (opens || (shift & AltDown))
         return true;
-    const std::optional<int> row = RowByKey(code);
+    }
+    const std::optional<int> row = shift == 0 ? RowByKey(code) : std::nullopt;
     if (row && *row != index_)
         Choose(*row);
     return row.has_value();

@@ -7,14 +7,14 @@
 namespace vornix {
 
 // Keys and characters come as in HeadlessEditBox. In both modes the caret moves in the field; where only rows can be
-// picked its text cannot be changed. Down and Up choose the row behind and before, Page Down and Page Up the eighth from
+// picked its text cannot be changed. Down and Up choose the row behind and before, Page Down and Page Up the tenth from
 // there or the last and first one, without a selected row the first one; so do End and Home, the last and first row,
 // where only rows can be picked. A key that comes to no other row says nothing. Whoever chooses a row gets its text
-// selected as a whole. Alt+Down, Alt+Up and F4 open the list and close it.
+// selected as a whole. Alt+Down, Alt+Up and F4 open the list and close it. With other keys held none walks.
 class HeadlessComboBox final : public HeadlessTextField<NativeComboBox> {
 public:
     // Rows that a Page key passes.
-    static constexpr int Page = 8;
+    static constexpr int Page = 10;
 
     using HeadlessTextField::HeadlessTextField;
 

@@ -25,8 +25,8 @@ protected:
     bool event(QEvent* event) override;
 };
 
-// The table can be selected from, its lines sized and its first columns split off, but not changed; the first cell is the
-// current one. Refers to the table for as long as it lives.
+// The table can be selected from, its lines sized and its first columns split off, but not changed, unless a class derived
+// from this lets it; the first cell is the current one. Refers to the table for as long as it lives.
 class ViewerWindow : public QMainWindow {
     Q_OBJECT
 

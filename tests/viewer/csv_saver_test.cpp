@@ -4,11 +4,12 @@
 #include "csv_reader.h"
 #include "input_file.h"
 #include "scratch_folder.h"
-#include "unicode.h"
+#include "text_encoder.h"
 
 #include <gmock/gmock.h>
 
 #include <csignal>
+#include <random>
 #include <sys/resource.h>
 #include <sys/stat.h>
 
@@ -64,6 +65,89 @@ struct Change {
     int row;
     int column;
     std::u16string text;
+};
+
+// A file made of fields as they stand in it, so that what it should be after a change is plain to see.
+class FileModel {
+public:
+    explicit FileModel(std::mt19937& random)
+        : random_(random)
+        , separator_(Pick<char16_t>({ u',', u';', u'\t', u'|' }))
+        , encoding_(Pick<TextEncoding>({ TextEncoding::Utf8, TextEncoding::Utf16Little, TextEncoding::Utf16Big }))
+        , hasMark_(encoding_ != TextEncoding::Utf8 || Chance(2))
+        , rows_(static_cast<std::size_t>(Number(2, 12)),
+              std::vector<std::u16string>(static_cast<std::size_t>(Number(2, 5))))
+    {
+        for (std::vector<std::u16string>& row : rows_) {
+            for (std::u16string& field : row)
+                field = Chance(3) ? Quoted(Text(true)) : Text(false);
+            row.front() = u"1"; // no header, and no blank line
+            lineEnds_.push_back(Pick<std::u16string>({ u"\n", u"\r\n", u"\r" }));
+        }
+        if (Chance(3))
+            lineEnds_.back().clear();
+        NoteSaved();
+    }
+
+    std::string Bytes() const
+    {
+        // Naming the separator leaves nothing to guess.
+        std::u16string text = u"sep=" + std::u16string(1, separator_) + u"\n";
+        for (std::size_t row = 0; row < rows_.size(); ++row) {
+            for (std::size_t column = 0; column < rows_[row].size(); ++column)
+                text += (column > 0 ? std::u16string(1, separator_) : u"") + rows_[row][column];
+            text += lineEnds_[row];
+        }
+        std::string bytes;
+        AppendEncoded((hasMark_ ? u"\uFEFF" : u"") + text, encoding_, bytes);
+        return bytes;
+    }
+
+    Change ChangeOne()
+    {
+        const std::size_t row = static_cast<std::size_t>(Number(0, static_cast<int>(rows_.size()) - 1));
+        const std::size_t column = static_cast<std::size_t>(Number(1, static_cast<int>(rows_[row].size()) - 1));
+        const std::u16string text = Text(Chance(2));
+        std::u16string& field = rows_[row][column];
+        const bool mustBeQuoted = text.find_first_of(std::u16string(u"\"\r\n") + separator_) != std::u16string::npos;
+        field = savedRows_[row][column].starts_with(u'"') || mustBeQuoted ? Quoted(text) : text;
+        return { static_cast<int>(row), static_cast<int>(column), text };
+    }
+
+    void NoteSaved() { savedRows_ = rows_; }
+
+private:
+    int Number(int least, int most)
+    {
+        return least + static_cast<int>(random_() % static_cast<unsigned>(most - least + 1));
+    }
+    bool Chance(int one) { return Number(1, one) == 1; }
+    template <typename T> T Pick(std::vector<T> of) { return of[random_() % of.size()]; }
+
+    static std::u16string Quoted(const std::u16string& text)
+    {
+        std::u16string quoted = u"\"";
+        for (const char16_t unit : text)
+            quoted += unit == u'"' ? u"\"\"" : std::u16string(1, unit);
+        return quoted + u"\"";
+    }
+    std::u16string Text(bool isWild)
+    {
+        const std::u16string tame[] = { u"a", u"bc", u" ", u"ä", u"Ọ", u"😀", u"12" };
+        const std::u16string wild[] = { u"\"", u"\r\n", u"\n", u"\r", u",", u";", u"\t", u"|", u"\"\"" };
+        std::u16string text;
+        for (int part = Number(0, 5); part > 0; --part)
+            text += isWild && Chance(2) ? wild[random_() % std::size(wild)] : tame[random_() % std::size(tame)];
+        return text;
+    }
+
+    std::mt19937& random_;
+    const char16_t separator_;
+    const TextEncoding encoding_;
+    const bool hasMark_;
+    std::vector<std::vector<std::u16string>> rows_;
+    std::vector<std::vector<std::u16string>> savedRows_;
+    std::vector<std::u16string> lineEnds_;
 };
 
 // What is left of the bytes after these changes.
@@ -182,6 +266,35 @@ TEST(CsvSaver, ReplacesFieldsWhereverPiecesOfTheFileMeet)
             head + "22,AB\n3,short\n4,\"d\"\n")
             << shift;
     }
+}
+
+TEST(CsvSaver, AgreesWithAPlainModel)
+{
+    std::mt19937 random(20);
+    const ScratchFolder folder;
+    int saves = 0;
+    for (int round = 0; round < 300; ++round) {
+        FileModel model(random);
+        OpenFile file(folder.Write("file.csv", model.Bytes()));
+        if (file.layout.hasHeader)
+            continue; // the model has none, but may look as if
+        for (int batch = 0; batch < 2; ++batch) {
+            file.edits.Clear();
+            for (int changes = 0; changes < 4; ++changes) {
+                const Change change = model.ChangeOne();
+                file.edits.Set(change.row, change.column, change.text);
+            }
+            ASSERT_EQ(file.MessageOfSave(), "saved") << round;
+            ASSERT_EQ(Content(file.path), model.Bytes()) << round;
+            for (const auto& [row, cells] : file.edits.Rows()) {
+                for (const auto& [column, text] : cells)
+                    file.table.ReplaceText(row, column, text);
+            }
+            model.NoteSaved();
+            ++saves;
+        }
+    }
+    EXPECT_GT(saves, 300);
 }
 
 TEST(CsvSaver, SavesRowsBesideThoseThatWereLeftOut)

@@ -289,6 +289,32 @@ TEST(EditorWindow, SaysWhyNothingCanBeChanged)
     EXPECT_FALSE(window.findChild<QAction*>(QStringLiteral("save"))->isEnabled());
 }
 
+class ReadOnlySaver final : public Saver {
+public:
+    std::optional<std::string> WhyReadOnly() const override { return "it is carved in stone"; }
+    bool CanChange(int, int) const override { return false; }
+    std::vector<CellText> Save(const Edits&) override { throw SaveError("it is carved in stone"); }
+};
+
+TEST(EditorWindow, LeavesCheckBoxesOfAReadOnlySourceAsTheyAre)
+{
+    auto table = std::make_unique<Table>();
+    table->Columns() = { { u"paid", ColumnKind::Boolean, u"yes", u"no" } };
+    table->AppendRow(std::vector<Field> { { u"-1" } });
+    Document document({ std::move(table), std::make_unique<ReadOnlySaver>() });
+    EditorWindow window(document);
+    window.show();
+    window.activateWindow();
+    QApplication::processEvents();
+    const Vornix& grid = window.GridWidget().Grid();
+    ASSERT_EQ(grid.CellMode(0, 0), vxCheckBox);
+    QTest::keyClick(window.windowHandle(), Qt::Key_Space);
+    EXPECT_TRUE(grid.CellChecked(0, 0));
+    EXPECT_FALSE(document.IsChanged());
+    EXPECT_EQ(window.findChild<QLabel*>(QStringLiteral("changes"))->text(),
+        QStringLiteral("read only: it is carved in stone"));
+}
+
 TEST(EditorWindow, KeepsANameThatLooksLikeTheMark)
 {
     const ScratchFolder folder;

@@ -312,6 +312,16 @@ TEST_F(QtComboBoxTest, TheSelectionIsThatOfTheField)
     EXPECT_THAT(listener.Heard(), IsEmpty());
 }
 
+TEST_F(QtComboBoxTest, OfPastedLinesTheFirstIsTakenAndToldOnce)
+{
+    box.SetText(u"ab\r\nc");
+    box.SetSelStart(1);
+    QApplication::clipboard()->setText(QStringLiteral("one\ntwo"));
+    Type(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), u"aoneb\r\nc");
+    EXPECT_THAT(listener.Heard(), ElementsAre("KeyDown 86 2", "KeyPress 22 2", "TextChanged", "KeyUp 86 2"));
+}
+
 TEST_F(QtComboBoxTest, TheWheelDoesNotChooseRows)
 {
     box.SetListIndex(1);

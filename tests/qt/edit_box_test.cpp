@@ -608,7 +608,14 @@ TEST(QtOneLineTest, ASignHidesTheTextFromViewAndFromTheClipboard)
     EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("before"));
     box.SetPasswordChar(u'+');
     EXPECT_EQ(line->displayText(), QStringLiteral("++++++"));
+    box.SetStyle({ .isMultiLine = true });
+    EXPECT_EQ(box.Window().focusProxy(), line);
+    EXPECT_EQ(line->displayText(), QStringLiteral("++++++"));
     box.SetPasswordChar(0);
+    auto* const lines = qobject_cast<QPlainTextEdit*>(box.Window().focusProxy());
+    ASSERT_TRUE(lines);
+    EXPECT_EQ(lines->toPlainText(), QStringLiteral("secret"));
+    box.SetStyle({});
     EXPECT_EQ(line->displayText(), QStringLiteral("secret"));
 }
 

@@ -3,6 +3,8 @@
 
 #include "vornix/platform/container.h"
 
+#include <QAbstractItemView>
+#include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -106,6 +108,42 @@ TEST_F(QtEditorTest, ThePointerIsFoundOnTheChildUnderIt)
     Edit(2, 4);
     EXPECT_EQ(childAt(*Combo(), { 5, 5 }), ChildName::cboTmp);
     EXPECT_EQ(childAt(*widget, { 5, 5 }), std::nullopt);
+}
+
+TEST_F(QtEditorTest, ThePointerOnAnEditorIsTheEditorsAlone)
+{
+    Grid().ComboAddItem(u"one");
+    Edit(2, 4);
+    const Rect frame = Child(ChildName::fraEdit).Place();
+    const QPoint arrow(frame.right - 6, frame.top + 6);
+    MoveTo(arrow - QPoint(1, 0));
+    log.Clear();
+    MoveTo(arrow);
+    EXPECT_EQ(log.Count("MouseMove"), 1);
+    Press(arrow);
+    EXPECT_TRUE(Combo()->view()->isVisible());
+    Combo()->hidePopup();
+    Release(arrow);
+    EXPECT_EQ(log.Count("MouseDown"), 0);
+    Edit(2, 3);
+    const QPoint inText(frame.left - 40, frame.top + 6);
+    MoveTo(inText - QPoint(1, 0));
+    log.Clear();
+    MoveTo(inText);
+    EXPECT_EQ(log.Count("MouseMove"), 1);
+    Press(inText, Qt::RightButton);
+    Release(inText, Qt::RightButton);
+    EXPECT_EQ(log.Count("MouseDown"), 0);
+}
+
+TEST_F(QtEditorTest, ADisabledEditorLetsNothingThrough)
+{
+    Edit(2, 3);
+    const Rect frame = Child(ChildName::fraEdit).Place();
+    Child(ChildName::txtTmp).SetEnabled(false);
+    Press({ frame.left + 5, frame.top + 5 });
+    Release({ frame.left + 5, frame.top + 5 });
+    EXPECT_EQ(log.Count("MouseDown"), 0);
 }
 
 // -- Focus --
@@ -261,6 +299,35 @@ TEST_F(QtEditorTest, KeysThatTheEditorHasNoUseForAreTheFormsAndNotTheGridsAgain)
     QTest::simulateEvent(form.windowHandle(), true, Qt::Key_Escape, {}, {}, false);
     EXPECT_FALSE(grid.Grid().IsEditMode());
     EXPECT_THAT(form.keys, ElementsAre(Qt::Key_F5));
+}
+
+// -- Assistive tools --
+
+TEST_F(QtEditorTest, ToolsFindTheEditorAsTheFocusByTheNameOfItsColumn)
+{
+    Grid().SetText(-1, 3, u"Town");
+    Grid().SetText(-1, 4, u"Street");
+    Grid().SetText(2, -1, u"Third");
+    QAccessibleInterface* const grid = QAccessible::queryAccessibleInterface(widget);
+    ASSERT_TRUE(grid);
+    Edit(2, 3);
+    QAccessibleInterface* const text = QAccessible::queryAccessibleInterface(Editor());
+    EXPECT_EQ(grid->focusChild(), text);
+    EXPECT_EQ(text->text(QAccessible::Name), QStringLiteral("Town"));
+    EXPECT_EQ(text->text(QAccessible::Description), QStringLiteral("Third"));
+    Edit(2, 4);
+    EXPECT_EQ(grid->focusChild()->role(), QAccessible::ComboBox);
+    EXPECT_EQ(grid->focusChild()->text(QAccessible::Name), QStringLiteral("Street"));
+    Grid().ExitEdit();
+    EXPECT_EQ(grid->focusChild()->role(), QAccessible::Cell);
+}
+
+TEST_F(QtEditorTest, AToolThatWritesTheTextWritesTheCell)
+{
+    Edit(2, 3);
+    QAccessible::queryAccessibleInterface(Editor())->editableTextInterface()->replaceText(0, 0, QStringLiteral("tool"));
+    EXPECT_EQ(Grid().Text(2, 3), u"tool");
+    EXPECT_THAT(SaidNames(), ElementsAre("TextChange"));
 }
 
 // -- Windows of the host --

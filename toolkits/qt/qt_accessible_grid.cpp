@@ -1,5 +1,6 @@
 #include "qt_accessible_grid.h"
 
+#include <QApplication>
 #include <QTimer>
 
 #include <algorithm>
@@ -139,8 +140,13 @@ QAccessibleInterface* QtAccessibleGrid::childAt(int x, int y) const
     return place ? CellFor(*place) : nullptr;
 }
 
+// An editor, or the current cell.
 QAccessibleInterface* QtAccessibleGrid::focusChild() const
 {
+    QWidget* const focus = QApplication::focusWidget();
+    const bool isOnGrid = focus && focus != widget() && reader_->IsOpen() && widget()->isAncestorOf(focus);
+    if (isOnGrid)
+        return QAccessible::queryAccessibleInterface(focus);
     const auto current = reader_->Current();
     return current ? CellFor(*current) : nullptr;
 }

@@ -2,6 +2,7 @@
 
 #include "qt_ambient.h"
 #include "qt_host_call.h"
+#include "qt_one_line.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -90,6 +91,15 @@ public:
     void UseList(QListView* list) { list_ = list; }
 
 protected:
+    bool event(QEvent* event) override
+    {
+        const bool isKept = IsKeptByBox(*event);
+        const bool isHandled = QComboBox::event(event);
+        if (isKept)
+            event->accept();
+        return isHandled || isKept;
+    }
+
     // The grid below scrolls.
     void wheelEvent(QWheelEvent* event) override { event->ignore(); }
 
@@ -170,7 +180,9 @@ void QtComboBox::MakeWindow()
     line.setMouseTracking(true);
     combo_->installEventFilter(watch_.get());
     line.installEventFilter(watch_.get());
+    // Qt tells first that the user has done it, and then that it is done.
     QObject::connect(&line, &QLineEdit::textEdited, combo_, [this] { HearEdit(); });
+    QObject::connect(&line, &QLineEdit::textChanged, combo_, [this](const QString& text) { former_ = text; });
     QObject::connect(combo_, &QComboBox::activated, combo_, [this](int index) { HearActivation(index); });
     line.clear();
     ApplySettings();
@@ -361,7 +373,11 @@ bool QtComboBox::Hears(QObject& watched, QEvent& event)
     }
     if (event.type() == QEvent::MouseMove)
         return pointer_.Hears(isOfLine ? static_cast<QWidget&>(Line()) : *combo_, *combo_, event);
-    return &watched == combo_ && keys_.Hears(event);
+    if (&watched != combo_)
+        return false;
+    if (event.type() == QEvent::FocusIn && OnFocus)
+        OnFocus(*combo_);
+    return keys_.Hears(event);
 }
 
 bool QtComboBox::HearsInList(QEvent& event)
@@ -379,6 +395,10 @@ void QtComboBox::HearEdit()
 {
     if (isSilent_)
         return;
+    {
+        const QScopedValueRollback<bool> silent(isSilent_, true);
+        KeepFirstLine(Line(), former_, 0);
+    }
     index_ = -1;
     Tell([](ComboBoxListener& listener) { listener.TextChanged(); });
 }

@@ -26,6 +26,8 @@ public:
     QWidget& Window();
     // Who moves the focus on for Tab. Otherwise Qt does.
     std::function<bool(bool forward)> OnTab;
+    // The box is about to learn that it has the focus.
+    std::function<void(QWidget& field)> OnFocus;
 
     std::u16string Text() const override;
     void SetText(std::u16string_view text) override;
@@ -95,6 +97,7 @@ private:
     QtFieldKeys keys_;
     QtFieldPointer pointer_;
     QPointer<Combo> combo_;
+    QString former_;
     bool isSilent_ = false;
 };
 

@@ -98,9 +98,8 @@ QtContainer::QtContainer(QFrame& widget)
         if (!children_[child])
             children_[child] = MakeChild(static_cast<ChildName>(child));
     }
-    const auto moveFocus = [this](bool forward) { return OnTab && OnTab(forward); };
-    ChildOf<TextWindow>(ChildName::txtTmp).TheBox().OnTab = moveFocus;
-    ChildOf<ComboWindow>(ChildName::cboTmp).TheBox().OnTab = moveFocus;
+    ConnectEditor(ChildOf<TextWindow>(ChildName::txtTmp).TheBox());
+    ConnectEditor(ChildOf<ComboWindow>(ChildName::cboTmp).TheBox());
     Child(ChildName::picSplitCol).Move({ 0, 0, SplitHandleWidth, 0 });
     QObject::connect(
         &timer_, &QTimer::timeout, &timer_, [this] { setting_.grid.Tell([](Vornix& grid) { grid.Tick(); }); });
@@ -114,6 +113,15 @@ QtContainer::QtContainer(QFrame& widget)
 }
 
 QtContainer::~QtContainer() = default;
+
+template <typename Box> void QtContainer::ConnectEditor(Box& box)
+{
+    box.OnTab = [this](bool forward) { return OnTab && OnTab(forward); };
+    box.OnFocus = [this](QWidget& editor) {
+        if (OnEditorFocus)
+            OnEditorFocus(editor);
+    };
+}
 
 void QtContainer::DropChildWidgets()
 {

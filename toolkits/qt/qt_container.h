@@ -42,6 +42,8 @@ public:
     bool FitToWidget();
     // Moves the focus on from an editor, past the control; false when it has nowhere to go.
     std::function<bool(bool forward)> OnTab;
+    // An editor is about to learn that it has the focus.
+    std::function<void(QWidget& editor)> OnEditorFocus;
     // Called when part of the picture changed, in client coordinates.
     std::function<void(const QRect&)> OnPictureChanged;
 
@@ -78,6 +80,7 @@ public:
 
 private:
     std::unique_ptr<QtChildWindow> MakeChild(ChildName name);
+    template <typename Box> void ConnectEditor(Box& box);
     template <typename Window> Window& ChildOf(ChildName name) const;
     std::unique_ptr<RasterSurface> MakeSurface(Size size) const;
     void UseSurface(std::unique_ptr<RasterSurface> surface);

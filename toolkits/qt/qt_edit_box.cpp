@@ -33,6 +33,15 @@ public:
     ~Frame() override { box_.field_ = nullptr; }
 
 protected:
+    bool event(QEvent* event) override
+    {
+        const bool isKept = IsKeptByBox(*event);
+        const bool isHandled = QFrame::event(event);
+        if (isKept)
+            event->accept();
+        return isHandled || isKept;
+    }
+
     void resizeEvent(QResizeEvent* event) override
     {
         QFrame::resizeEvent(event);
@@ -99,7 +108,9 @@ QtEditField& QtEditBox::Field() const
 
 QtEditField& QtEditBox::FieldFor(const EditBoxStyle& style)
 {
-    return style.isMultiLine ? MadeField(textField_) : MadeField(lineField_);
+    // What is hidden stays hidden, at the price of the other lines.
+    const bool isText = style.isMultiLine && settings_.passwordChar == 0;
+    return isText ? MadeField(textField_) : MadeField(lineField_);
 }
 
 template <typename Widget> QtEditField& QtEditBox::MadeField(QPointer<Widget>& field)
@@ -185,7 +196,7 @@ int QtEditBox::SelStart() const
 void QtEditBox::SetSelStart(int start)
 {
     const int length = static_cast<int>(Field().Text().size());
-    Silently([&] { field_->Select(std::clamp(start, 0, length), 0); });
+    field_->Select(std::clamp(start, 0, length), 0);
 }
 
 int QtEditBox::SelLength() const
@@ -197,7 +208,7 @@ void QtEditBox::SetSelLength(int length)
 {
     const int start = Field().SelStart();
     const int rest = static_cast<int>(Field().Text().size()) - start;
-    Silently([&] { field_->Select(start, std::clamp(length, 0, rest)); });
+    field_->Select(start, std::clamp(length, 0, rest));
 }
 
 std::u16string QtEditBox::SelText() const
@@ -231,7 +242,8 @@ void QtEditBox::SetRightToLeft(bool rightToLeft)
 void QtEditBox::SetPasswordChar(char16_t sign)
 {
     settings_.passwordChar = sign;
-    ApplySettings();
+    if (frame_)
+        UseFieldOfStyle();
 }
 
 void QtEditBox::SetMaxLength(i32 length)

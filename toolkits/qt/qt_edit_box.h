@@ -44,7 +44,7 @@ public:
     void Listen(EditBoxListener* listener) override { listener_ = listener; }
     void SetStyle(const EditBoxStyle& style) override;
     void SetRightToLeft(bool rightToLeft) override;
-    // Only a single line can be hidden.
+    // What is hidden has one line, whatever the style.
     void SetPasswordChar(char16_t sign) override;
     void SetMaxLength(i32 length) override;
     void SetLocked(bool locked) override;

@@ -3,7 +3,8 @@
 
 #include "qt_child_window.h"
 
-#include <QKeyEvent>
+#include <QEvent>
+#include <QWidget>
 
 namespace vornix {
 
@@ -25,6 +26,8 @@ protected:
         box_.Window().setParent(&parent);
         return &box_.Window();
     }
+    // The box sees to the pointer. A disabled widget lets it through to its parent.
+    bool Hears(QEvent& event) override { return IsOfPointer(event) && !Widget()->isEnabled(); }
 
 private:
     Box box_;

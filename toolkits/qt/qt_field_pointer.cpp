@@ -7,17 +7,22 @@
 
 namespace vornix {
 
-bool QtFieldPointer::Hears(QWidget& canvas, QWidget& window, QEvent& event)
+bool IsKeptByBox(const QEvent& event)
 {
     switch (event.type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseMove:
-        return HearsPointer(canvas, window, static_cast<QMouseEvent&>(event));
+        return true;
     default:
         return false;
     }
+}
+
+bool QtFieldPointer::Hears(QWidget& canvas, QWidget& window, QEvent& event)
+{
+    return IsKeptByBox(event) && HearsPointer(canvas, window, static_cast<QMouseEvent&>(event));
 }
 
 bool QtFieldPointer::HearsPointer(QWidget& canvas, QWidget& window, QMouseEvent& event)

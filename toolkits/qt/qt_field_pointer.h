@@ -23,6 +23,9 @@ public:
     virtual void TellDblClick() = 0;
 };
 
+// What the widgets of a box have no use for is not for those below it.
+bool IsKeptByBox(const QEvent& event);
+
 class QtFieldPointer {
 public:
     explicit QtFieldPointer(QtPointedField& field)

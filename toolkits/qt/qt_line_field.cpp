@@ -1,15 +1,14 @@
 #include "qt_line_field.h"
 
 #include "qt_ambient.h"
+#include "qt_one_line.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QProxyStyle>
-#include <QRegularExpression>
 #include <QScopedValueRollback>
 #include <QStyleFactory>
 
-#include <algorithm>
 #include <limits>
 
 namespace vornix {
@@ -21,8 +20,6 @@ constexpr int SideMargin = 2;
 constexpr int TopMargin = 1;
 constexpr int CaretWidth = 1;
 constexpr int Unlimited = std::numeric_limits<int>::max();
-
-const QRegularExpression LineBreak(QStringLiteral("[\\r\\n\u2028\u2029]"));
 
 } // namespace
 
@@ -62,35 +59,14 @@ QtLineField::~QtLineField()
 
 void QtLineField::HearChange()
 {
-    if (!isProgram_)
-        TameAdded();
+    // Qt's own limit would cut what a program has written, too.
+    if (!isProgram_) {
+        const QScopedValueRollback<bool> program(isProgram_, true);
+        KeepFirstLine(*this, former_, mostTyped_);
+    }
     former_ = text();
     if (OnChange)
         OnChange();
-}
-
-// Of what is pasted or dropped the first line stays, as far as there is room. Qt's own limit would cut what a program
-// has written, too.
-void QtLineField::TameAdded()
-{
-    const QString now = text();
-    const auto begins = std::mismatch(now.begin(), now.end(), former_.begin(), former_.end());
-    const qsizetype start = begins.first - now.begin();
-    const qsizetype most = std::min(now.size(), former_.size()) - start;
-    qsizetype same = 0;
-    while (same < most && now[now.size() - 1 - same] == former_[former_.size() - 1 - same])
-        ++same;
-    const QString added = now.mid(start, now.size() - same - start);
-    qsizetype kept = added.indexOf(LineBreak);
-    if (kept < 0)
-        kept = added.size();
-    if (mostTyped_ > 0)
-        kept = std::min(kept, std::max<qsizetype>(mostTyped_ - (now.size() - added.size()), 0));
-    if (kept == added.size())
-        return;
-    const QScopedValueRollback<bool> program(isProgram_, true);
-    setSelection(static_cast<int>(start + kept), static_cast<int>(added.size() - kept));
-    del();
 }
 
 void QtLineField::Apply(const QtEditSettings& settings)

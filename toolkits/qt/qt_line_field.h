@@ -31,7 +31,6 @@ private:
     class SignStyle;
 
     void HearChange();
-    void TameAdded();
     void ShowSign(char16_t sign);
 
     i32 mostTyped_ = 0;

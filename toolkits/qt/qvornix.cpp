@@ -70,6 +70,7 @@ QVornix::QVornix(VornixEvents& events, QWidget* parent)
     // Every pixel of the client area comes from the grid's picture, and the frame is filled before it is drawn.
     setAttribute(Qt::WA_OpaquePaintEvent);
     container_->OnTab = [this](bool forward) { return MoveFocusOn(forward); };
+    container_->OnEditorFocus = [this](QWidget& editor) { NameEditor(editor); };
     container_->OnPictureChanged = [this](const QRect& area) { UpdatePart(area); };
     grid_->ReadProperties(EmptyBag());
 }
@@ -78,6 +79,7 @@ QVornix::~QVornix()
 {
     Q_ASSERT_X(!grid_->IsInCall(), "QVornix", "deleted inside one of its own events; use deleteLater()");
     container_->OnTab = nullptr;
+    container_->OnEditorFocus = nullptr;
     container_->OnPictureChanged = nullptr;
     grid_->Terminate();
     container_->Attach(nullptr);
@@ -321,6 +323,15 @@ void QVornix::PressTab(QKeyEvent& event)
     const bool isMoved = hadFocus && !hasFocus();
     if (isMoved || focusNextPrevChild(IsForward(event)))
         event.accept();
+}
+
+// For assistive tools, as the cell itself is called.
+void QVornix::NameEditor(QWidget& editor) const
+{
+    const auto reader = accessibleNews_->Reader();
+    const std::optional<AccessiblePlace> cell = reader->Current();
+    editor.setAccessibleName(cell ? reader->ColumnText(cell->Col) : QString());
+    editor.setAccessibleDescription(cell ? reader->RowText(cell->Row) : QString());
 }
 
 } // namespace vornix

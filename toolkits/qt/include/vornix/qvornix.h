@@ -29,7 +29,7 @@ class QtWheel;
 // focus unless a handler of KeyDown sets its code to 0. The context menu is left to the host.
 //
 // Assistive tools find a table: fixed rows and columns are its headers, the title is its name unless accessibleName is
-// set, and the current cell has the focus.
+// set, and the current cell has the focus. The editor over a cell has the name of the cell's column.
 //
 // Inside an event of the grid the widget is deleted by deleteLater() only, and not before the handler has returned: a
 // handler that runs an event loop of its own (QDialog::exec, QMenu::exec) must see to it that the widget outlives that
@@ -93,6 +93,7 @@ private:
     void PressTab(QKeyEvent& event);
     bool IsKeyOfChild() const;
     bool MoveFocusOn(bool forward);
+    void NameEditor(QWidget& editor) const;
     void FollowWidget();
     QRect Client() const;
     void UpdatePart(const QRect& area);

@@ -144,6 +144,20 @@ TEST_F(EditBoxTest, SettingsBindTheUser)
     EXPECT_EQ(clipboard, u"");
 }
 
+TEST_F(EditBoxTest, BehindSignsThereIsOneLine)
+{
+    box.SetPasswordChar(u'*');
+    box.SetStyle({ .isMultiLine = true });
+    Character(ReturnKey);
+    EXPECT_EQ(box.Text(), u"");
+    box.SetPasswordChar(0);
+    Character(ReturnKey);
+    EXPECT_EQ(box.Text(), u"\r\n");
+    box.SetPasswordChar(u'*');
+    Character(ReturnKey);
+    EXPECT_EQ(box.Text(), u"\r\n");
+}
+
 TEST_F(EditBoxTest, ItTellsHowItLooks)
 {
     EXPECT_FALSE(box.HasBorder());

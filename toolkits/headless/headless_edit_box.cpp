@@ -109,13 +109,14 @@ void HeadlessEditBox::Replace(std::u16string_view text)
 void HeadlessEditBox::SetStyle(const EditBoxStyle& style)
 {
     style_ = style;
-    text_.SetMultiLine(style.isMultiLine);
+    text_.SetMultiLine(style_.isMultiLine && passwordChar_ == 0);
 }
 
 void HeadlessEditBox::SetPasswordChar(char16_t sign)
 {
     passwordChar_ = sign;
     text_.SetSecret(sign != 0);
+    text_.SetMultiLine(style_.isMultiLine && passwordChar_ == 0);
 }
 
 void HeadlessEditBox::SetPointer(i32 shape, const PicturePtr& picture)

@@ -67,7 +67,7 @@ class CompanionSession(Connection):
         self.require_open()
 
     def end(self) -> None:
-        """Ends the control. Inside one of its own calls it is freed with the last reference to it."""
+        """Ends the control. Inside one of its own calls it is freed with the last reference."""
         if self._ended:
             return
         self.require_open()

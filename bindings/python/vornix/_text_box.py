@@ -128,8 +128,8 @@ class BoxHost(Unique):
         return self._key("key_up", to_i16(code), shift)
 
     def type(self, text: str) -> None:
-        """Types a text, each character by its key; the box gets the focus first. A line break, CR LF
-        too, is one Return."""
+        """Types a text, each character by its key; the box gets the focus first. A line break, CR
+        LF too, is one Return."""
         self._session.use("type", make_text(to_text(text)))
 
     def press(self, key: Union[str, int], shift: int = 0) -> None:

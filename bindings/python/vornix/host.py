@@ -329,12 +329,12 @@ class Child(Unique):
 
     @property
     def left(self) -> int:
-        """The left edge in pixels of the client area; that of an editor in its frame, "fraEdit"."""
+        """The left edge in pixels of the client area; that of an editor in its frame."""
         return int(self._info().left)
 
     @property
     def top(self) -> int:
-        """The upper edge in pixels of the client area; that of an editor in its frame, "fraEdit"."""
+        """The upper edge in pixels of the client area; that of an editor in its frame."""
         return int(self._info().top)
 
     @property
@@ -354,8 +354,8 @@ class Child(Unique):
 
     @property
     def text(self) -> str:
-        """The text of an editor. Written, it is what its user has put in place of the whole text, as
-        an assistive tool does: the grid hears of it, and the caret stands in front of it."""
+        """The text of an editor. Written, it is what its user has put in place of the whole text,
+        as an assistive tool does: the grid hears of it, and the caret stands in front of it."""
         text = _library.Text()
         self._use(library.vornix_host_get_editor_text, ctypes.byref(text))
         return text_of(text)

@@ -405,17 +405,17 @@ enum {
 VORNIX_API int32_t vornix_host_notify_bar(
     vornix_grid* grid, const char* name, int32_t code, const int32_t* track_position);
 
-/* The text of an editor, "txtTmp" or "cboTmp", and its selection in UTF-16 units; error 438 for the other children. The text
- * is valid until the grid is called again. A text that is set is one that the user has put in place of the whole, by an
- * assistive tool; the caret stands in front of it. A selection is limited to the text. */
+/* The text of an editor, "txtTmp" or "cboTmp", and its selection in UTF-16 units; error 438 for the other children. The
+ * text is valid until the grid is called again. A text that is set is one that the user has put in place of the whole,
+ * by an assistive tool; the caret stands in front of it. A selection is limited to the text. */
 VORNIX_API int32_t vornix_host_get_editor_text(vornix_grid* grid, const char* name, vornix_text* text);
 VORNIX_API int32_t vornix_host_set_editor_text(vornix_grid* grid, const char* name, vornix_text text);
 VORNIX_API int32_t vornix_host_get_editor_selection(
     vornix_grid* grid, const char* name, int32_t* start, int32_t* length);
 VORNIX_API int32_t vornix_host_set_editor_selection(vornix_grid* grid, const char* name, int32_t start, int32_t length);
-/* Single notifications of a key to an editor, whatever has the focus. What is left of the code the editor does by itself:
- * Delete and the keys of the caret at key_down, all that characters do at key_press. One that is hidden or disabled hears
- * nothing. */
+/* Single notifications of a key to an editor, whatever has the focus. What is left of the code the editor does by
+ * itself: Delete and the keys of the caret at key_down, all that characters do at key_press. One that is hidden or
+ * disabled hears nothing. */
 VORNIX_API int32_t vornix_host_editor_key_down(vornix_grid* grid, const char* name, int16_t* code, int16_t shift);
 VORNIX_API int32_t vornix_host_editor_key_press(
     vornix_grid* grid, const char* name, int16_t* character, int16_t shift);

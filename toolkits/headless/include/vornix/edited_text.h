@@ -49,12 +49,12 @@ public:
     // Nothing of it reaches the clipboard.
     void SetSecret(bool secret) { isSecret_ = secret; }
 
-    // What the box does for a key, before its character comes: Left, Right, Home, End, and in several lines Up and Down,
-    // with Shift to select, with Ctrl by words or to the ends of the text; Delete, with Ctrl to the next word; Ctrl+Insert,
-    // Shift+Insert and Shift+Delete copy, paste and cut. Gives who changed the text, if that was done.
+    // What the box does for a key, before its character comes: Left, Right, Home, End, and in several lines Up and
+    // Down, with Shift to select, with Ctrl by words or to the ends of the text; Delete, with Ctrl to the next word;
+    // Ctrl+Insert, Shift+Insert and Shift+Delete copy, paste and cut. Gives who changed the text, if that was done.
     std::optional<ChangeOrigin> DoKey(i16 code, i16 shift);
-    // What it does for a character: Backspace (8), with Ctrl (127) to the start of the word; Return (13), which begins a
-    // line where there are several; Ctrl+A, C, X and V (1, 3, 24, 22). Others from the space on take the place of the
+    // What it does for a character: Backspace (8), with Ctrl (127) to the start of the word; Return (13), which begins
+    // a line where there are several; Ctrl+A, C, X and V (1, 3, 24, 22). Others from the space on take the place of the
     // selection, unless they come with Ctrl alone; other control characters do nothing.
     std::optional<ChangeOrigin> DoCharacter(char16_t character, i16 shift);
     // Takes the place of the selection as far as there is room: without several lines the first line, otherwise with

@@ -1,18 +1,19 @@
-// The edit box of a container without a screen: a child window with a text, and the native behaviour of a plain edit box.
+// The edit box of a container without a screen: a child window with a text, and the native behaviour of a plain box.
 #pragma once
 
 #include "vornix/headless_text_field.h"
 
 namespace vornix {
 
-// A key goes to the listener's KeyDown, then, unless its code was set to 0, the box does what the key does by itself; the
-// character that it types goes to KeyPress, and what is left of it takes the place of the selection, with the caret behind
-// it. EditedText lists the keys and characters. Each change of the text is told at once: as ChangeOrigin::Key, and as
-// Foreign where it was cut or pasted.
+// A key goes to the listener's KeyDown, then, unless its code was set to 0, the box does what the key does by itself;
+// the character that it types goes to KeyPress, and what is left of it takes the place of the selection, with the caret
+// behind it. EditedText lists the keys and characters. Each change of the text is told at once: as ChangeOrigin::Key,
+// and as Foreign where it was cut or pasted.
 //
 // A press gives the focus, is told, and with the left button puts the caret to the place between characters that is
 // nearest, with Shift to select; a drag selects, a double click selects the word. The text then is measured as if its
-// lines began at the left edge, or ended at the right one, of a box as wide as the window: it neither scrolls nor breaks.
+// lines began at the left edge, or ended at the right one, of a box as wide as the window, without scrolling and
+// without broken lines.
 class HeadlessEditBox final : public HeadlessTextField<NativeEditBox> {
 public:
     using HeadlessTextField::HeadlessTextField;
@@ -34,6 +35,7 @@ public:
     void Listen(EditBoxListener* listener) override { listener_ = listener; }
     void SetStyle(const EditBoxStyle& style) override;
     const EditBoxStyle& Style() const { return style_; }
+    // Behind signs there is one line alone.
     void SetPasswordChar(char16_t sign) override;
     char16_t PasswordChar() const { return passwordChar_; }
     void SetMaxLength(i32 length) override { text_.SetMaxLength(length); }

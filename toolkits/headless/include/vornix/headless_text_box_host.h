@@ -44,8 +44,8 @@ public:
         return vornix::Invoke(box_, BuiltinLocale(), name, kind, args);
     }
 
-    // Single notifications of its user, with what the box does by itself (HeadlessEditBox); nothing else is implied. Give
-    // the code as it was left. Shift is the sum of 1 Shift, 2 Ctrl, 4 Alt. A box that is disabled has no user.
+    // Single notifications of its user, with what the box does by itself (HeadlessEditBox); nothing else is implied.
+    // Give the code as it was left. Shift is the sum of 1 Shift, 2 Ctrl, 4 Alt. A box that is disabled has no user.
     i16 KeyDown(i16 code, i16 shift);
     i16 KeyPress(i16 character, i16 shift = 0);
     i16 KeyUp(i16 code, i16 shift);

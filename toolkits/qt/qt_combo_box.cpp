@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListView>
+#include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QWheelEvent>
 
@@ -366,11 +367,8 @@ bool QtComboBox::Hears(QObject& watched, QEvent& event)
     if (&watched == combo_->List())
         return HearsInList(event);
     const bool isOfLine = &watched == combo_->lineEdit();
-    if (isOfLine && isListOnly_ && event.type() == QEvent::MouseButtonPress) {
-        if (static_cast<QMouseEvent&>(event).button() == Qt::LeftButton)
-            combo_->showPopup();
-        return true;
-    }
+    if (isOfLine && isListOnly_ && IsKeptByBox(event) && event.type() != QEvent::MouseMove)
+        return HearsFieldOfList(static_cast<QMouseEvent&>(event));
     if (event.type() == QEvent::MouseMove)
         return pointer_.Hears(isOfLine ? static_cast<QWidget&>(Line()) : *combo_, *combo_, event);
     if (&watched != combo_)
@@ -378,6 +376,15 @@ bool QtComboBox::Hears(QObject& watched, QEvent& event)
     if (event.type() == QEvent::FocusIn && OnFocus)
         OnFocus(*combo_);
     return keys_.Hears(event);
+}
+
+// The field of a list alone opens the list. A list that is open before the release would take it for its own.
+bool QtComboBox::HearsFieldOfList(const QMouseEvent& event)
+{
+    const bool isRelease = event.type() == QEvent::MouseButtonRelease && event.button() == Qt::LeftButton;
+    if (isRelease && Line().rect().contains(event.position().toPoint()))
+        combo_->showPopup();
+    return true;
 }
 
 bool QtComboBox::HearsInList(QEvent& event)

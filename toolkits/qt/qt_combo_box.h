@@ -62,6 +62,7 @@ private:
     void PrepareList();
     bool Hears(QObject& watched, QEvent& event);
     bool HearsInList(QEvent& event);
+    bool HearsFieldOfList(const QMouseEvent& event);
     bool Walks(const QKeyEvent& event);
     bool WalksToEnd(const QKeyEvent& event);
     void Choose(int index);

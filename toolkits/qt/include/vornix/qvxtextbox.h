@@ -18,8 +18,8 @@ namespace vornix {
 //     QObject::connect(&phone, &QVxTextBox::changed, [&] { save(phone.Box().Text()); });
 //
 // The widget's palette and font are the system colours and the ambient font. A label finds it as its buddy; accessibleName
-// is the name that assistive tools give to the edit widget inside. Enter is the box's own unless it is typed with a
-// handler that lets it through; Escape and Tab go on to the form.
+// is the name that assistive tools give to the edit widget inside. Enter is the box's own; Escape and Tab go on to the form
+// unless a handler of KeyDown sets their codes to 0.
 //
 // With AutoResize the widget takes the size that its text asks for, which is its sizeHint then: it is to stand free, not
 // in a layout that stretches it. Enabled, place and visibility are those of the widget.

@@ -174,7 +174,7 @@ public:
     OleColor BackColor() const;
     void SetBackColor(OleColor Value);
     FontPtr Font() const;
-    // Null is error 5.
+    // Null is error 5, and so is a size that FontSize does not take.
     void SetFont(const FontPtr& Value);
     // Points. What is not above 0, or above 32767, is error 5.
     float FontSize() const;

@@ -69,11 +69,8 @@ bool Vornix::TBoxAutoResize() const
 void Vornix::SetTBoxAutoResize(bool Value)
 {
     const auto control = Enter();
-    if (!control->SetSetting(control->editor.Settings.TBoxAutoResize, Value, "TBoxAutoResize"))
-        return;
-    control->editor.ApplySettings();
-    if (!Value)
-        control->editor.CloseEditorAndRepaint();
+    if (control->SetSetting(control->editor.Settings.TBoxAutoResize, Value, "TBoxAutoResize"))
+        control->editor.SetAutoResize(Value);
 }
 
 bool Vornix::TBoxIncludeLiteral() const
@@ -85,7 +82,7 @@ void Vornix::SetTBoxIncludeLiteral(bool Value)
 {
     const auto control = Enter();
     if (control->SetSetting(control->editor.Settings.TBoxIncludeLiteral, Value, "TBoxIncludeLiteral"))
-        control->editor.ApplySettings();
+        control->editor.Text().Box().SetIncludeLiteral(Value);
 }
 
 std::u16string Vornix::TBoxPromptChar() const
@@ -97,7 +94,7 @@ void Vornix::SetTBoxPromptChar(std::u16string_view Value)
 {
     const auto control = Enter();
     if (control->SetSetting(control->editor.Settings.TBoxPromptChar, std::u16string(Value), "TBoxPromptChar"))
-        control->editor.ApplySettings();
+        control->editor.Text().Box().SetPromptChar(Value);
 }
 
 std::u16string Vornix::TBoxReplaceChar() const
@@ -109,7 +106,7 @@ void Vornix::SetTBoxReplaceChar(std::u16string_view Value)
 {
     const auto control = Enter();
     if (control->SetSetting(control->editor.Settings.TBoxReplaceChar, std::u16string(Value), "TBoxReplaceChar"))
-        control->editor.ApplySettings();
+        control->editor.Text().Box().SetReplaceChar(Value);
 }
 
 // -- The list --

@@ -106,14 +106,18 @@ void Vornix::SetFixedRows(i16 Value)
 
 void Control::SetFixedRowCount(i16 count)
 {
-    const int delta = count - store.FixedRows();
-    if (delta == 0)
+    if (count == store.FixedRows())
         return;
     RequireTable();
     RequireCount(count);
-    const i16 newMaxRow = ToI16(store.Rows() + count);
+    ToI16(store.Rows() + count);
     selection.Collapse();
     editor.CloseEditor();
+    // A handler of AfterEdit may have written counts.
+    const int delta = count - store.FixedRows();
+    if (delta == 0 || IsClosed())
+        return;
+    const i16 newMaxRow = ToI16(store.Rows() + count);
     if (delta < 0) {
         spans.RemoveSpansAcrossRow(-delta);
         store.ShiftRowsDown(0, -delta);
@@ -168,6 +172,7 @@ void Vornix::SetFixedCols(i16 Value)
     store.StoreFixedCols(Value);
     control->scroll.ClampVisible();
     control->current.AdjustForCols(store, 0, delta);
+    control->editor.AdjustForCols(delta);
     control->layout.MarkMetricsDirty();
     control->funnel.RecalcLayout();
     control->Report("FixedCols");

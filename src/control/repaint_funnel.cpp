@@ -42,6 +42,7 @@ void RepaintFunnel::RecalcLayout(bool forcePercent)
         return;
 
     layout.UpdateClientArea();
+    context_.editor.FollowLayout();
     context_.paint.RebuildBackgroundIfStale();
     context_.scrolling.UpdateScrollBars();
     if (!context_.paint.Repainted())

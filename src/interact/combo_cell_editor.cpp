@@ -74,10 +74,9 @@ void ComboCellEditor::Prepare(CellIndex cell)
 
 bool ComboCellEditor::Open()
 {
-    if (edited_.Place().ListWidth() < 1)
+    if (edited_.Place().ListFrame().IsEmpty())
         return false;
-    native_.SetListOnly(IsListOnly());
-    PlaceBox();
+    Place();
     SetStartText();
     window_.SetEnabled(true);
     edited_.ShowFrame(frame_.Place());
@@ -115,20 +114,14 @@ void ComboCellEditor::TakeLook()
 void ComboCellEditor::SetStartText()
 {
     if (native_.Text().empty()) {
-        const auto [row, col] = edited_.Cell();
-        const std::u16string text = context_.store.CellAt(row, col).Text();
+        const std::u16string text = EditCell().Text();
+        const int found = IsListOnly() && !text.empty() ? list_.Find(text) : ComboList::None;
         if (!IsListOnly())
             native_.SetText(text);
-        else if (!text.empty())
-            SelectRow(list_.Find(text));
+        else if (found != ComboList::None)
+            native_.SetListIndex(found);
     }
     lastText_ = native_.Text();
-}
-
-void ComboCellEditor::SelectRow(int index)
-{
-    if (index != ComboList::None)
-        native_.SetListIndex(index);
 }
 
 void ComboCellEditor::Hide()
@@ -136,23 +129,28 @@ void ComboCellEditor::Hide()
     window_.Show(false);
 }
 
+void ComboCellEditor::Place()
+{
+    native_.SetListOnly(IsListOnly());
+    PlaceBox();
+}
+
 void ComboCellEditor::Reload()
 {
-    PlaceBox();
+    Place();
     native_.SetText({});
     SetStartText();
 }
 
 // -- The list, as hosts reach it --
 
-// The row that is selected stays so, at its new place.
 void ComboCellEditor::AddItem(int index, std::u16string_view text)
 {
     const int selected = native_.ListIndex();
     list_.Insert(index, text);
     native_.ItemsChanged();
     if (selected >= index)
-        native_.SetListIndex(selected + 1);
+        MoveSelectedRow(selected + 1);
 }
 
 void ComboCellEditor::RemoveItem(int index)
@@ -161,16 +159,32 @@ void ComboCellEditor::RemoveItem(int index)
     list_.Remove(index);
     native_.ItemsChanged();
     if (selected == index)
-        native_.SetListIndex(ComboList::None);
+        MoveSelectedRow(ComboList::None);
     else if (selected > index)
-        native_.SetListIndex(selected - 1);
+        MoveSelectedRow(selected - 1);
 }
 
 void ComboCellEditor::ClearList()
 {
+    const bool hasRow = native_.ListIndex() != ComboList::None;
     list_.Clear();
     native_.ItemsChanged();
-    native_.SetListIndex(ComboList::None);
+    if (hasRow)
+        MoveSelectedRow(ComboList::None);
+}
+
+// The row that is selected is at another place, or is no more. What the field shows and selects stays.
+void ComboCellEditor::MoveSelectedRow(int index)
+{
+    const std::u16string text = native_.Text();
+    const int start = native_.SelStart();
+    const int length = native_.SelLength();
+    if (index == ComboList::None)
+        native_.SetText(text);
+    else
+        native_.SetListIndex(index);
+    native_.SetSelStart(start);
+    native_.SetSelLength(length);
 }
 
 void ComboCellEditor::SetItemText(int index, std::u16string_view text)
@@ -191,6 +205,8 @@ void ComboCellEditor::SetListIndex(int index)
 
 void ComboCellEditor::SetSelText(std::u16string_view text)
 {
+    if (IsListOnly() || (text.empty() && native_.SelLength() == 0))
+        return;
     native_.SetSelText(text);
     TextChanged();
 }
@@ -206,7 +222,7 @@ void ComboCellEditor::TakeKeyOfRow()
 
 void ComboCellEditor::Click()
 {
-    if (!edited_.IsOpen())
+    if (!IsOpen())
         return;
     lastText_ = native_.Text();
     const std::u16string before = EditCell().Text();
@@ -222,7 +238,7 @@ void ComboCellEditor::Click()
 
 void ComboCellEditor::TextChanged()
 {
-    if (!edited_.IsOpen() || IsListOnly())
+    if (!IsOpen() || IsListOnly())
         return;
     const std::u16string text = native_.Text();
     if (EditCell().TextEquals(text))
@@ -244,7 +260,7 @@ void ComboCellEditor::KeyDown(i16& KeyCode, i16& Shift)
     context_.events.KeyDown(KeyCode, Shift);
     if (KeyCode == Keys::Escape)
         edited_.CloseByUser();
-    if (Shift == Shifts::None && edited_.IsOpen())
+    if (Shift == Shifts::None)
         LeaveByArrow(KeyCode);
     if (context_.current.HostMovedCurrent)
         KeyCode = 0;
@@ -277,13 +293,22 @@ void ComboCellEditor::KeyPress(i16& KeyAscii, i16 Shift)
     context_.events.KeyPress(KeyAscii);
     if (KeyAscii == 0)
         return;
-    if (edited_.IsOpen()) {
+    if (IsOpen()) {
         if (IsListOnly() && IsTyped(Shift))
             Search(static_cast<char16_t>(KeyAscii));
         lastText_ = native_.Text();
     }
     if (context_.current.HostMovedCurrent)
         KeyAscii = 0;
+}
+
+// Errors of handlers are ignored.
+void ComboCellEditor::ClickRow(int index)
+{
+    try {
+        SetListIndex(index);
+    } catch (const AutomationError&) {
+    }
 }
 
 // What was found counts as clicked.
@@ -293,10 +318,13 @@ void ComboCellEditor::Search(char16_t character)
     context_.container.SetTimer(SearchPause, true);
     const int length = static_cast<int>(search_.size());
     const int found = list_.FindStart(search_, context_.container.GetLocale());
+    const std::uint32_t session = edited_.Session();
     if (found != ComboList::None)
-        SetListIndex(found);
+        ClickRow(found);
     else if (native_.Text() != lastText_)
         native_.SetText(lastText_);
+    if (edited_.Session() != session)
+        return;
     native_.SetSelStart(0);
     native_.SetSelLength(length);
 }

@@ -26,7 +26,9 @@ public:
     void SetEnabled(bool enabled) { window_.SetEnabled(enabled); }
     bool IsVisible() const { return window_.IsVisible(); }
     bool SetFocus() { return window_.SetFocus(); }
+    // Place, look and text of the cell; place and look alone.
     void Reload();
+    void Place();
     void ForgetSearch() { search_.clear(); }
 
     // -- The list, as hosts reach it --
@@ -53,16 +55,18 @@ public:
     void MouseMove(i16 Button, i16 Shift, float x, float y) override;
 
 private:
+    bool IsOpen() const { return IsVisible() && edited_.IsOpen(); }
     bool IsListOnly() const;
     const CellFormat& Format() const;
     Cell& EditCell();
     void TakeLook();
     void PlaceBox();
     void SetStartText();
-    void SelectRow(int index);
+    void MoveSelectedRow(int index);
     void TakeKeyOfRow();
     bool IsAtEdge(int key) const;
     void LeaveByArrow(int key);
+    void ClickRow(int index);
     void Search(char16_t character);
 
     EditedCell& edited_;

@@ -5,6 +5,8 @@
 #include "interact/edit_place.h"
 #include "interact/grid_selection.h"
 
+#include <cstdint>
+
 namespace vornix {
 
 class CurrentCellMover;
@@ -43,6 +45,8 @@ public:
     // There is such a cell, and its editor shows.
     virtual bool IsOpen() const = 0;
     virtual CellIndex Cell() const = 0;
+    // Another number for every session.
+    virtual std::uint32_t Session() const = 0;
     virtual const EditPlace& Place() const = 0;
     virtual void RaiseForCell(void (VornixEvents::*event)(i16 Row, i16 Col)) = 0;
     // Raises TextChange. The editor lies over the cell, so nothing is painted.

@@ -5,6 +5,9 @@
 #include "interact/current_cell_mover.h"
 #include "interact/mouse.h"
 
+#include <algorithm>
+#include <limits>
+
 namespace vornix {
 
 namespace {
@@ -17,6 +20,14 @@ bool IsCombo(i32 mode)
 bool IsEdited(i32 mode)
 {
     return mode == vxTextBox || mode == vxCustom || IsCombo(mode);
+}
+
+// At the edge of the numbers where a host asks for more.
+int EndOf(i32 start, i32 length)
+{
+    constexpr std::int64_t most = std::numeric_limits<i32>::max();
+    constexpr std::int64_t least = std::numeric_limits<i32>::min();
+    return static_cast<int>(std::clamp(std::int64_t { start } + length, least, most));
 }
 
 void RequireNotNegative(i32 value)
@@ -167,22 +178,27 @@ void EditSession::ShowEditor()
         RepaintCell();
 }
 
+void EditSession::ShowCustomFrame()
+{
+    const OleColor ground = context_.store.Format(cell_.row, cell_.col).BackColor;
+    context_.container.Child(ChildName::fraEdit).SetBackColor(OleTranslateColor(ground, context_.container.Colors()));
+    ShowFrame(place_.CustomFrame());
+}
+
 // The frame in the colour of the cell, and over it the window that the host names during the event.
 void EditSession::ShowCustom()
 {
-    if (place_.ListWidth() < 1)
+    if (place_.ListWidth() < 1 || place_.cell.Height() < 1)
         return;
     const std::uint32_t session = session_;
     context_.container.HideHostWindow(customWindow_);
-    const OleColor ground = context_.store.Format(cell_.row, cell_.col).BackColor;
-    const Rect frame = place_.CustomFrame();
-    context_.container.Child(ChildName::fraEdit).SetBackColor(OleTranslateColor(ground, context_.container.Colors()));
-    ShowFrame(frame);
+    ShowCustomFrame();
     RepaintCell();
     if (!IsCurrent(session))
         return;
     customWindow_ = 0;
     const CellIndex asked = context_.mover.PublicPlaceOf(cell_);
+    const Rect frame = place_.CustomFrame();
     i32 x = frame.left;
     i32 y = frame.top;
     i32 width = frame.Width();
@@ -193,7 +209,7 @@ void EditSession::ShowCustom()
     }
     if (customWindow_ == 0 || !IsCurrent(session) || !isShown_)
         return;
-    context_.container.ShowHostWindow(customWindow_, { x, y, AddI32(x, width), AddI32(y, height) });
+    context_.container.ShowHostWindow(customWindow_, { x, y, EndOf(x, width), EndOf(y, height) });
     context_.container.FocusHostWindow(customWindow_);
 }
 
@@ -215,12 +231,13 @@ void EditSession::EnterEdit()
     }
 }
 
+// The focus moves while they go, and whoever hears of it must find no editor any more.
 void EditSession::HideWindows()
 {
+    isShown_ = false;
     text_.Hide();
     combo_.Hide();
     context_.container.Child(ChildName::fraEdit).Show(false);
-    isShown_ = false;
     context_.container.HideHostWindow(customWindow_);
 }
 
@@ -231,6 +248,8 @@ void EditSession::HideEditor()
 
 void EditSession::ForgetEditCell()
 {
+    if (isShown_)
+        HideWindows();
     cell_ = { NoIndex, NoIndex };
     ++session_;
 }
@@ -242,8 +261,7 @@ void EditSession::ExitEdit()
     HideWindows();
     const std::uint32_t session = session_;
     RepaintCell();
-    if (session_ == session)
-        ForgetEditCell();
+    EndSession(session);
 }
 
 void EditSession::Close(bool repaint)
@@ -256,9 +274,23 @@ void EditSession::Close(bool repaint)
     combo_.SetEnabled(false);
     if (repaint)
         RepaintCell();
-    if (IsCurrent(session))
-        RaiseForCell(&VornixEvents::AfterEdit);
-    // A handler may have opened the next editor.
+    try {
+        if (IsCurrent(session))
+            RaiseForCell(&VornixEvents::AfterEdit);
+    } catch (...) {
+        const CellIndex left = cell_;
+        EndSession(session);
+        // Whoever was to paint it later will not.
+        if (context_.mover.IsReal(left))
+            context_.repainter.RefreshCellUnderGate(left.row, left.col);
+        throw;
+    }
+    EndSession(session);
+}
+
+// Unless a handler has opened the next editor.
+void EditSession::EndSession(std::uint32_t session)
+{
     if (session_ == session)
         ForgetEditCell();
 }
@@ -273,6 +305,32 @@ void EditSession::Dispose()
 {
     Reset();
     isDisposed_ = true;
+}
+
+void EditSession::FollowLayout()
+{
+    if (!isShown_ || !IsOpen())
+        return;
+    place_ = EditPlace(context_.layout, cell_, context_.store.Format(cell_.row, cell_.col));
+    if (text_.IsVisible())
+        text_.Place();
+    else if (combo_.IsVisible())
+        combo_.Place();
+    else
+        ShowCustomFrame();
+}
+
+void EditSession::AdjustForCols(int delta)
+{
+    if (cell_.col != NoIndex)
+        cell_.col += delta;
+}
+
+void EditSession::SetAutoResize(bool autoResize)
+{
+    text_.SetAutoResize(autoResize);
+    if (!autoResize)
+        Close(true);
 }
 
 void EditSession::RepaintCell()
@@ -290,6 +348,8 @@ void EditSession::Reload(CellIndex cell)
         text_.Reload();
     else if (combo_.IsVisible())
         combo_.Reload();
+    else
+        ShowCustomFrame();
 }
 
 // -- Focus and pointer --

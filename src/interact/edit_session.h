@@ -50,6 +50,10 @@ public:
 
     // The editor of the cell takes place, look and text of the cell anew.
     void Reload(CellIndex cell);
+    void FollowLayout() override;
+    // Columns were added in front of the cell, or taken away there.
+    void AdjustForCols(int delta);
+    void SetAutoResize(bool autoResize);
     // Gives the focus to the editor that the mode of the cell asks for, or to the one that shows.
     void TakeFocus();
     void TakeFocusShown();
@@ -77,6 +81,7 @@ private:
     // What of the cell its editors see.
     bool IsOpen() const override;
     CellIndex Cell() const override { return cell_; }
+    std::uint32_t Session() const override { return session_; }
     const EditPlace& Place() const override { return place_; }
     void RaiseForCell(void (VornixEvents::*event)(i16 Row, i16 Col)) override;
     void WriteText(std::u16string_view text) override;
@@ -92,8 +97,10 @@ private:
     void AskHost();
     void ShowEditor();
     void ShowCustom();
+    void ShowCustomFrame();
     void HideWindows();
     void Close(bool repaint);
+    void EndSession(std::uint32_t session);
     void RepaintCell();
     EditBox* ShownBox() const;
 

@@ -60,14 +60,11 @@ std::u16string TextCellEditor::ShownText() const
 
 bool TextCellEditor::Open()
 {
-    if (edited_.Place().TextWidth() < 1)
+    if (edited_.Place().TextFrame().IsEmpty())
         return false;
-    const Rect frame = edited_.Place().TextFrame();
-    frame_.Move(frame);
-    if (box_.AutoResize())
-        SetLimits(frame);
-    const i32 alignment = Format().TextAlignment;
-    box_.InitializeTextBox((alignment & vxTxtRight) != 0 ? 1 : 0, (alignment & vxSingleLine) == 0);
+    frame_.Move(edited_.Place().TextFrame());
+    SetLimits();
+    TakeKind();
     box_.SetMask(context_.store.ColumnAt(edited_.Cell().col).Mask);
     box_.SetText(ShownText());
     PlaceBox();
@@ -80,8 +77,18 @@ bool TextCellEditor::Open()
     return true;
 }
 
-void TextCellEditor::SetLimits(const Rect& frame)
+void TextCellEditor::TakeKind()
 {
+    const i32 alignment = Format().TextAlignment;
+    box_.InitializeTextBox((alignment & vxTxtRight) != 0 ? 1 : 0, (alignment & vxSingleLine) == 0);
+}
+
+// Between which sizes the box grows.
+void TextCellEditor::SetLimits()
+{
+    if (!box_.AutoResize())
+        return;
+    const Rect frame = edited_.Place().TextFrame();
     box_.SetNormalWidth(InShort(frame.Width()));
     box_.SetNormalHeight(InShort(frame.Height()));
     box_.SetMaxWidth(InShort(context_.layout.ClientWidth() - context_.layout.FrozenColsWidth() - FreeEdge));
@@ -110,7 +117,8 @@ void TextCellEditor::TakeLook()
     box_.SetFontName(format.FontName.View());
     box_.SetFontBold(format.FontBold);
     box_.SetFontItalic(format.FontItalic);
-    box_.SetFontSize(format.FontSize);
+    if (format.FontSize > 0)
+        box_.SetFontSize(format.FontSize);
     box_.SetForeColor(format.ForeColor);
     box_.SetBackColor(format.BackColor);
 }
@@ -135,17 +143,32 @@ void TextCellEditor::Hide()
     window_.Show(false);
 }
 
+void TextCellEditor::Place()
+{
+    SetLimits();
+    TakeKind();
+    PlaceBox();
+}
+
 void TextCellEditor::Reload()
 {
-    PlaceBox();
+    Place();
     box_.SetText(ShownText());
+}
+
+void TextCellEditor::SetAutoResize(bool autoResize)
+{
+    box_.SetAutoResize(autoResize);
+    if (IsVisible() && edited_.IsOpen())
+        SetLimits();
 }
 
 // -- What the user does --
 
+// The engine may have gone on behind a handler that has closed this editor and opened one of another kind.
 void TextCellEditor::Change()
 {
-    if (edited_.IsOpen())
+    if (IsVisible() && edited_.IsOpen())
         edited_.WriteText(box_.Text());
 }
 
@@ -208,6 +231,8 @@ void TextCellEditor::MouseMove(i16 Button, i16 Shift, float x, float y)
 
 void TextCellEditor::Resize()
 {
+    if (!IsVisible())
+        return;
     const Rect place = window_.Place();
     const Rect frame = frame_.Place();
     frame_.Move({ frame.left, frame.top, frame.left + place.Width(), frame.top + place.Height() });

@@ -22,8 +22,10 @@ public:
     void SetEnabled(bool enabled) { box_.SetEnabled(enabled); }
     bool IsVisible() const { return window_.IsVisible(); }
     bool SetFocus() { return window_.SetFocus(); }
-    // Place, look and text of the cell.
+    // Place, look and text of the cell; place and look alone.
     void Reload();
+    void Place();
+    void SetAutoResize(bool autoResize);
 
 private:
     void Change() override;
@@ -42,7 +44,8 @@ private:
 
     const CellFormat& Format() const;
     std::u16string ShownText() const;
-    void SetLimits(const Rect& frame);
+    void TakeKind();
+    void SetLimits();
     void PlaceBox();
     void KeepFrameInside();
     void TakeLook();

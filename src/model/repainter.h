@@ -25,6 +25,8 @@ public:
     virtual bool IsEditorOpen() const = 0;
     // Hides the editor; raises AfterEdit once if the cell still exists.
     virtual void CloseEditor() = 0;
+    // The layout is another one: an editor that a handler has opened meanwhile goes where its cell is.
+    virtual void FollowLayout() { }
 };
 
 } // namespace vornix

@@ -88,7 +88,7 @@ void MaskEngine::Initialize()
     committedText_.clear();
     isCommittedForm_ = false;
     committedValues_.reset();
-    previousText_.clear();
+    previousText_.reset();
     keyHandled_ = false;
     WriteSilently({});
 }
@@ -101,6 +101,7 @@ void MaskEngine::SetMask(std::u16string_view Value)
     form_.Parse(mask_, promptChar_);
     committedValues_.reset();
     WriteSilently(form_.MaskDisplay());
+    ForgetChangeBefore();
     numericOnly_ = false;
 }
 
@@ -137,6 +138,7 @@ std::u16string MaskEngine::Text() const
 void MaskEngine::SetText(std::u16string_view Value)
 {
     committedText_ = Apply(Value);
+    ForgetChangeBefore();
     isCommittedForm_ = IsMaskInForce();
     committedValues_.reset();
     if (isCommittedForm_)
@@ -157,6 +159,13 @@ void MaskEngine::SetSelText(std::u16string_view Value)
         box_.SetSelText(Value);
     }
     TextChanged(true);
+}
+
+// What changes a text that was assigned is told even where it gives what was told last, before the assignment.
+void MaskEngine::ForgetChangeBefore()
+{
+    if (previousText_ != box_.Text())
+        previousText_.reset();
 }
 
 // Shows a whole text in the form, and returns what is shown.

@@ -99,6 +99,7 @@ private:
 
     std::u16string Apply(std::u16string_view text);
     void RestoreCommitted();
+    void ForgetChangeBefore();
     void WriteSilently(std::u16string_view text);
     void WriteWithCaret(std::u16string_view text, int caret);
     void WriteAndTell(std::u16string_view text, int caret);
@@ -129,8 +130,8 @@ private:
     std::u16string committedText_;
     bool isCommittedForm_ = false;
     std::optional<std::vector<i16>> committedValues_;
-    // The text at the latest Change.
-    std::u16string previousText_;
+    // The text at the latest Change; nothing when another was assigned since.
+    std::optional<std::u16string> previousText_;
     bool internalChange_ = false;
     // A key was the latest that happened; what the box changes now is its answer.
     bool keyHandled_ = false;

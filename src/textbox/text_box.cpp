@@ -338,6 +338,7 @@ FontPtr TextBox::Font() const
 void TextBox::SetFont(const FontPtr& Value)
 {
     CheckArgument(Value != nullptr);
+    CheckFontSize(Value->Size);
     parts_->settings.Font = Value;
     parts_->ApplyFont();
     parts_->Report("Font");

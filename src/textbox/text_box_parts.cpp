@@ -158,7 +158,7 @@ void TextBox::Parts::ShowBox(int index)
 
 void TextBox::Parts::SizeToText()
 {
-    if (!settings.AutoResize || sizingSelf_)
+    if (!settings.AutoResize || sizingSelf_ || limits == SizeLimits())
         return;
     Device* const device = box.DrawingDevice();
     if (!device)

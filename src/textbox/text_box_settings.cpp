@@ -3,6 +3,7 @@
 #include "automation/checked.h"
 #include "textbox/mask_form.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <memory>
@@ -118,7 +119,7 @@ const std::array keys {
             EditFont(s, [&](FontObject& font) { font.Size = Held<i32>(v); });
         },
         // A bag has no fractions: the key Font keeps them.
-        [](const Saved& s) -> Value { return RoundToI32(s.settings.Font->Size); } },
+        [](const Saved& s) -> Value { return std::max(RoundToI32(s.settings.Font->Size), 1); } },
     Key { "FontName", [](Saved& s, const Value& v) { EditFont(s, [&](FontObject& font) { font.Name = Text(v); }); },
         [](const Saved& s) -> Value { return s.settings.Font->Name; } },
     Key { "FontItalic",

@@ -13,6 +13,7 @@ struct SizeLimits {
     i16 NormalHeight = 0;
     i16 MaxWidth = 0;
     i16 MaxHeight = 0;
+    friend bool operator==(const SizeLimits&, const SizeLimits&) = default;
 };
 
 // What a box has around its text, both sides together.

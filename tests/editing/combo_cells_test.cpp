@@ -303,6 +303,82 @@ TEST_F(ComboCells, WhatTheHostTakesSearchesNothing)
     EXPECT_EQ(Cell(0, 1), u"free");
 }
 
+TEST_F(ComboCells, AnErrorOfAHandlerDoesNotEndASearch)
+{
+    handlers.OnTextChange = [](i16, i16) { throw AutomationError(ErrorNumber::InvalidArgument, "by the host"); };
+    Edit(1, 2);
+    EXPECT_NO_THROW(Type(u"o"));
+    EXPECT_EQ(Cell(1, 2), u"Oslo");
+    EXPECT_EQ(Grid().SelLength(), 1);
+}
+
+TEST_F(ComboCells, TheListIsFilledAnewWhileItIsTypedInto)
+{
+    Edit(0, 1);
+    SelectAll();
+    handlers.OnTextChange = [&](i16, i16) {
+        Grid().ComboClear();
+        Grid().ComboAddItem(u"Os and more", 0);
+    };
+    Type(u"Os");
+    EXPECT_EQ(Cell(0, 1), u"Os");
+    EXPECT_EQ(Combo().Text(), u"Os");
+}
+
+TEST_F(ComboCells, RowsThatComeAndGoLeaveTheSelectionInTheField)
+{
+    Edit(0, 1);
+    desk->ClickItem(2);
+    SelectAll();
+    Grid().ComboAddItem(u"first", 0);
+    EXPECT_EQ(Grid().SelText(), u"Aarhus");
+    EXPECT_EQ(Grid().ComboListIndex(), 3);
+    Grid().ComboRemoveItem(3);
+    EXPECT_EQ(Combo().Text(), u"Aarhus");
+    EXPECT_EQ(Grid().ComboListIndex(), -1);
+}
+
+TEST_F(ComboCells, TheIndexOfAListThatDoesNotShowWritesNoCell)
+{
+    Edit(0, 0);
+    Grid().SetComboListIndex(0);
+    EXPECT_EQ(Cell(0, 0), u"t00");
+    EXPECT_EQ(Said(), Lines {});
+}
+
+TEST_F(ComboCells, SelTextWritesNothingWhereOnlyRowsArePicked)
+{
+    Edit(0, 2);
+    SelectAll();
+    Grid().SetSelText(u"free");
+    EXPECT_EQ(Combo().Text(), u"Oslo");
+    EXPECT_EQ(Cell(0, 2), u"Oslo");
+    EXPECT_EQ(Grid().ComboListIndex(), 1);
+}
+
+TEST_F(ComboCells, AKeyInsideAKeyIsIgnored)
+{
+    int keys = 0;
+    handlers.OnKeyDown = [&](i16&, i16&) {
+        if (++keys == 1)
+            Press("Down");
+    };
+    Edit(0, 1);
+    Press("Down");
+    EXPECT_EQ(keys, 1);
+    Press("Down");
+    EXPECT_EQ(keys, 2) << "only while the other one lasts";
+}
+
+TEST_F(ComboCells, RightToLeftOnesAreEdited)
+{
+    Grid().SetTextAlignment(0, 1, 131072);
+    Edit(0, 1);
+    SelectAll();
+    Type(u"x");
+    EXPECT_EQ(Cell(0, 1), u"x");
+}
+
 // -- Leaving --
 
 TEST_F(ComboCells, ArrowsLeaveAtTheEdgesOfTheText)

@@ -63,6 +63,19 @@ TEST_F(TextCells, AMaskShapesTheValueAtEachOpening)
     EXPECT_EQ(Cell(0, 0), u"1234") << "opening writes nothing";
 }
 
+TEST_F(TextCells, TheSameTextIsTypedIntoCellAfterCell)
+{
+    Grid().SetColMask(0, u"0");
+    for (i16 row = 0; row < 3; ++row) {
+        Grid().SetText(row, 0, u"");
+        Edit(row, 0);
+        Grid().SetSelStart(0);
+        Type(u"1");
+        EXPECT_EQ(Cell(row, 0), u"1") << row;
+        EXPECT_THAT(Said(), testing::Contains(testing::StartsWith("TextChange"))) << row;
+    }
+}
+
 TEST_F(TextCells, AMaskWithItsLiterals)
 {
     Grid().SetTBoxIncludeLiteral(true);
@@ -203,6 +216,26 @@ TEST_F(TextCells, AVeryNarrowOneOpensNothing)
     EXPECT_EQ(FramePlace().Width(), 1);
 }
 
+TEST_F(TextCells, AVeryLowOneOpensNothing)
+{
+    Grid().SetRowHeight(0, 4);
+    Grid().CurrentPos(0, 1);
+    Grid().EnterEdit();
+    EXPECT_FALSE(Grid().IsEditMode());
+    Grid().SetRowHeight(0, 5);
+    Grid().EnterEdit();
+    EXPECT_EQ(FramePlace().Height(), 1);
+}
+
+TEST_F(TextCells, AFontWithoutASizeIsNoError)
+{
+    Grid().SetCellFontSize(0, 1, 0);
+    Edit(0, 1);
+    SelectAll();
+    Type(u"x");
+    EXPECT_EQ(Cell(0, 1), u"x");
+}
+
 TEST_F(TextCells, InASpanTheEditorCoversTheSpan)
 {
     Grid().SetRowSpan(1, 1, 2);
@@ -256,6 +289,18 @@ TEST_F(TextCells, AnEditorThatGrowsStaysInTheWindow)
     Type(u"a text that is much longer than the cell is wide and so passes the right edge of the window");
     EXPECT_LE(FramePlace().right, Grid().GetScaleWidth());
     EXPECT_LT(FramePlace().left, 404);
+}
+
+TEST_F(TextCells, GrowthIsSwitchedOnWhileTheEditorIsOpen)
+{
+    Edit(1, 1);
+    Grid().SetTBoxAutoResize(true);
+    const Rect before = FramePlace();
+    SelectAll();
+    Type(u"x");
+    EXPECT_EQ(FramePlace(), before);
+    Type(u" and much more than the cell has room for");
+    EXPECT_GT(FramePlace().Width(), before.Width());
 }
 
 TEST_F(TextCells, SwitchingGrowthOffClosesTheEditor)
@@ -350,6 +395,72 @@ TEST_F(TextCells, AChangeOfTheLayoutClosesTheEditor)
     Grid().SetColWidth(1, 50);
     EXPECT_FALSE(Grid().IsEditMode());
     EXPECT_EQ(Said(), Lines { "AfterEdit 1 1" });
+}
+
+TEST_F(TextCells, AHandlerThatOpensItAgainFindsItWhereTheLayoutPutsTheCell)
+{
+    Edit(1, 1);
+    bool isAgain = false;
+    handlers.OnAfterEdit = [&](i16, i16) {
+        if (!std::exchange(isAgain, true))
+            Grid().EnterEdit();
+    };
+    Grid().SetColWidth(0, 150);
+    EXPECT_TRUE(Grid().IsEditMode());
+    EXPECT_EQ(FramePlace().left, 254);
+    EXPECT_EQ(EditorText(), u"t11");
+}
+
+TEST_F(TextCells, FixedColumnsThatComeOrGoCloseItsOwnCell)
+{
+    Edit(0, 2);
+    Grid().SetFixedCols(2);
+    EXPECT_EQ(Said(), Lines { "AfterEdit 0 2" });
+    Edit(0, 3);
+    Grid().SetFixedCols(0);
+    EXPECT_EQ(Said(), Lines { "AfterEdit 0 3" });
+}
+
+TEST_F(TextCells, AHandlerMayWriteCountsWhileFixedRowsAreWritten)
+{
+    Edit(0, 0);
+    handlers.OnAfterEdit = [&](i16, i16) { Grid().SetRows(100); };
+    Grid().SetFixedRows(3);
+    EXPECT_EQ(Grid().Rows(), 100);
+    EXPECT_EQ(Grid().FixedRows(), 3);
+    Grid().SetText(99, 3, u"last");
+    EXPECT_EQ(Cell(99, 3), u"last");
+}
+
+TEST_F(TextCells, AnErrorInAfterEditLeavesNoSessionBehind)
+{
+    Edit(0, 0);
+    SelectAll();
+    Type(u"x");
+    handlers.OnAfterEdit = [](i16, i16) { throw AutomationError(ErrorNumber::InvalidArgument, "by the host"); };
+    EXPECT_THROW(Grid().SetColWidth(0, 50), AutomationError);
+    handlers.OnAfterEdit = nullptr;
+    EXPECT_FALSE(Grid().IsEditMode());
+    Forget();
+    Edit(1, 1);
+    Press("Escape");
+    EXPECT_EQ(Said().at(1), "AfterEdit 1 1");
+}
+
+TEST_F(TextCells, WhatAKeyDoesBehindAHandlerThatMovesOnGoesIntoNoOtherCell)
+{
+    Grid().SetColMask(0, u"000");
+    Grid().SetText(0, 0, u"123");
+    Grid().SetColMode(2, vxComboDropDownBox);
+    Edit(0, 0);
+    handlers.OnKeyDown = [&](i16&, i16&) {
+        Grid().CurrentPos(1, 2);
+        Grid().EnterEdit();
+    };
+    Grid().SetSelStart(0);
+    Press("Delete");
+    EXPECT_EQ(Cell(1, 2), u"t12");
+    EXPECT_EQ(Cell(0, 0), u"123");
 }
 
 TEST_F(TextCells, EnterInACellOfSeveralLines)

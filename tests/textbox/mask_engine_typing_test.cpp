@@ -198,7 +198,7 @@ TEST_F(MaskEngineTypingTest, ATextThatStaysEqualToldOnce)
     EXPECT_EQ(Count("Change"), 1);
 }
 
-TEST_F(MaskEngineTypingTest, TheTextOfTheLatestChangeCountsEvenBehindAnAssignment)
+TEST_F(MaskEngineTypingTest, BehindAnAssignmentTheTextOfTheChangeBeforeIsToldAgain)
 {
     Mask(u"0");
     Box.TypeAll(u"1");
@@ -206,7 +206,14 @@ TEST_F(MaskEngineTypingTest, TheTextOfTheLatestChangeCountsEvenBehindAnAssignmen
     Box.SetSelStart(0);
     Box.TypeAll(u"1");
     EXPECT_EQ(Box.Text(), u"1");
-    EXPECT_EQ(Count("Change"), 1);
+    EXPECT_EQ(Count("Change"), 2);
+    Engine.SetMask(u"0");
+    Box.TypeAll(u"1");
+    EXPECT_EQ(Count("Change"), 3);
+    Engine.SetText(u"1");
+    Box.SetSelStart(0);
+    Box.TypeAll(u"1");
+    EXPECT_EQ(Count("Change"), 3) << "nothing else was assigned";
 }
 
 TEST_F(MaskEngineTypingTest, TheHostSeesTheValueOfTheTextItIsToldOf)

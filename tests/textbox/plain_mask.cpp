@@ -61,6 +61,7 @@ void PlainMask::SetMask(const std::u16string& mask)
     isCommittedHere_ = false;
     Put(blank_, 0);
     numericOnly_ = false;
+    Assigned();
 }
 
 void PlainMask::SetNumericOnly(bool numericOnly)
@@ -81,6 +82,7 @@ void PlainMask::SetText(const std::u16string& text)
     committedValues_ = values_;
     isCommittedHere_ = isCommittedForm_ = IsForm();
     Put(committed_, caret);
+    Assigned();
 }
 
 std::u16string PlainMask::Text() const
@@ -356,11 +358,17 @@ bool PlainMask::EraseSelection()
 
 void PlainMask::Told()
 {
-    if (IsForm() && text_ == previous_)
+    if (IsForm() && isPreviousHere_ && text_ == previous_)
         return;
     ++changes_;
     if (IsForm())
         previous_ = text_;
+    isPreviousHere_ = isPreviousHere_ || IsForm();
+}
+
+void PlainMask::Assigned()
+{
+    isPreviousHere_ = isPreviousHere_ && text_ == previous_;
 }
 
 } // namespace vornix

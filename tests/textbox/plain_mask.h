@@ -54,6 +54,7 @@ private:
     void TypeIntoBox(const std::u16string& text);
     bool EraseSelection();
     void Told();
+    void Assigned();
 
     std::u16string mask_;
     bool numericOnly_ = false;
@@ -69,6 +70,8 @@ private:
     bool isCommittedForm_ = false;
     bool isCommittedHere_ = false;
     std::u16string previous_;
+    // No other text was assigned since it was told.
+    bool isPreviousHere_ = false;
     int changes_ = 0;
 };
 

@@ -37,7 +37,7 @@ class NativeComboBox : public EditBox {
 public:
     // Null takes the listener away.
     virtual void Listen(ComboBoxListener* listener) = 0;
-    // The list to show, which outlives the box; null for an empty one.
+    // The list to show; null takes it away, as it must be before the list goes.
     virtual void SetItems(const ComboItems* items) = 0;
     // The rows are others. Comes once for each change, and has to be quick: the box reads them when it next shows them.
     virtual void ItemsChanged() = 0;

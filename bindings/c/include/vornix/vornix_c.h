@@ -417,8 +417,7 @@ VORNIX_API int32_t vornix_host_set_editor_selection(vornix_grid* grid, const cha
  * itself: Delete and the keys of the caret at key_down, all that characters do at key_press. One that is hidden or
  * disabled hears nothing. */
 VORNIX_API int32_t vornix_host_editor_key_down(vornix_grid* grid, const char* name, int16_t* code, int16_t shift);
-VORNIX_API int32_t vornix_host_editor_key_press(
-    vornix_grid* grid, const char* name, int16_t* character, int16_t shift);
+VORNIX_API int32_t vornix_host_editor_key_press(vornix_grid* grid, const char* name, int16_t* character, int16_t shift);
 VORNIX_API int32_t vornix_host_editor_key_up(vornix_grid* grid, const char* name, int16_t* code, int16_t shift);
 
 typedef struct vornix_combo_info {

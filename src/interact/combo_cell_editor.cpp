@@ -76,7 +76,7 @@ bool ComboCellEditor::Open()
 {
     if (edited_.Place().ListFrame().IsEmpty())
         return false;
-    Place();
+    PlaceAnew(false);
     SetStartText();
     window_.SetEnabled(true);
     edited_.ShowFrame(frame_.Place());
@@ -129,15 +129,12 @@ void ComboCellEditor::Hide()
     window_.Show(false);
 }
 
-void ComboCellEditor::Place()
+void ComboCellEditor::PlaceAnew(bool withText)
 {
     native_.SetListOnly(IsListOnly());
     PlaceBox();
-}
-
-void ComboCellEditor::Reload()
-{
-    Place();
+    if (!withText)
+        return;
     native_.SetText({});
     SetStartText();
 }

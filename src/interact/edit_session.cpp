@@ -307,19 +307,6 @@ void EditSession::Dispose()
     isDisposed_ = true;
 }
 
-void EditSession::FollowLayout()
-{
-    if (!isShown_ || !IsOpen())
-        return;
-    place_ = EditPlace(context_.layout, cell_, context_.store.Format(cell_.row, cell_.col));
-    if (text_.IsVisible())
-        text_.Place();
-    else if (combo_.IsVisible())
-        combo_.Place();
-    else
-        ShowCustomFrame();
-}
-
 void EditSession::AdjustForCols(int delta)
 {
     if (cell_.col != NoIndex)
@@ -341,13 +328,24 @@ void EditSession::RepaintCell()
 
 void EditSession::Reload(CellIndex cell)
 {
-    if (!IsEditorOpenOn(cell) || !IsOpen())
+    if (IsEditorOpenOn(cell))
+        PlaceAnew(true);
+}
+
+void EditSession::FollowLayout()
+{
+    PlaceAnew(false);
+}
+
+void EditSession::PlaceAnew(bool withText)
+{
+    if (!isShown_ || !IsOpen())
         return;
     place_ = EditPlace(context_.layout, cell_, context_.store.Format(cell_.row, cell_.col));
     if (text_.IsVisible())
-        text_.Reload();
+        text_.PlaceAnew(withText);
     else if (combo_.IsVisible())
-        combo_.Reload();
+        combo_.PlaceAnew(withText);
     else
         ShowCustomFrame();
 }

@@ -98,6 +98,7 @@ private:
     void ShowEditor();
     void ShowCustom();
     void ShowCustomFrame();
+    void PlaceAnew(bool withText);
     void HideWindows();
     void Close(bool repaint);
     void EndSession(std::uint32_t session);

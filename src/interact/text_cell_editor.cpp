@@ -143,17 +143,13 @@ void TextCellEditor::Hide()
     window_.Show(false);
 }
 
-void TextCellEditor::Place()
+void TextCellEditor::PlaceAnew(bool withText)
 {
     SetLimits();
     TakeKind();
     PlaceBox();
-}
-
-void TextCellEditor::Reload()
-{
-    Place();
-    box_.SetText(ShownText());
+    if (withText)
+        box_.SetText(ShownText());
 }
 
 void TextCellEditor::SetAutoResize(bool autoResize)

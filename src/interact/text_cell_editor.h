@@ -22,9 +22,8 @@ public:
     void SetEnabled(bool enabled) { box_.SetEnabled(enabled); }
     bool IsVisible() const { return window_.IsVisible(); }
     bool SetFocus() { return window_.SetFocus(); }
-    // Place, look and text of the cell; place and look alone.
-    void Reload();
-    void Place();
+    // Place and look of the cell, and its text where that may be another one.
+    void PlaceAnew(bool withText);
     void SetAutoResize(bool autoResize);
 
 private:

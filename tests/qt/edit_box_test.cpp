@@ -133,6 +133,39 @@ TEST_P(QtEditBoxTest, ACharacterMayBecomeAnother)
     EXPECT_THAT(listener.Heard(), ElementsAre("KeyDown 65 0", "KeyPress 97 0", "TextChanged by key", "KeyUp 65 0"));
 }
 
+TEST_P(QtEditBoxTest, ACharacterThatBecomesBackspaceTakesOneAway)
+{
+    box.SetText(u"abcd");
+    box.SetSelStart(2);
+    listener.keyPress = [](i16& character, i16) { character = 8; };
+    Type(Qt::Key_X);
+    EXPECT_EQ(box.Text(), u"acd");
+    EXPECT_THAT(listener.Heard(), ElementsAre("KeyDown 88 0", "KeyPress 120 0", "TextChanged by key", "KeyUp 88 0"));
+    Compose({}, QStringLiteral("é"));
+    EXPECT_EQ(box.Text(), u"cd");
+    EXPECT_THAT(listener.Heard(), ElementsAre("KeyDown 229 0", "KeyPress 233 0", "TextChanged by key"));
+}
+
+TEST_P(QtEditBoxTest, ACharacterThatBecomesEnterBeginsALineWhereThereAreSeveral)
+{
+    box.SetText(u"ab");
+    box.SetSelStart(1);
+    listener.keyPress = [](i16& character, i16) { character = 13; };
+    Type(Qt::Key_X);
+    EXPECT_EQ(box.Text(), GetParam() ? u"a\r\nb" : u"ab");
+    Compose({}, QStringLiteral("é"));
+    EXPECT_EQ(box.Text(), GetParam() ? u"a\r\n\r\nb" : u"ab");
+}
+
+TEST_P(QtEditBoxTest, AKeyThatBecomesAnotherDoesWhatItDid)
+{
+    box.SetText(u"abcd");
+    listener.keyDown = [](i16& code, i16&) { code = 46; };
+    Type(Qt::Key_Right);
+    Type(Qt::Key_X);
+    EXPECT_EQ(box.Text(), u"axbcd");
+}
+
 TEST_P(QtEditBoxTest, BackspaceAndDeleteTakeOneCharacter)
 {
     box.SetText(u"abcd");
@@ -362,6 +395,32 @@ TEST_P(QtEditBoxTest, MoreThanTheGreatestLengthCannotBeTypedOrPasted)
     EXPECT_EQ(box.Text(), u"apq");
 }
 
+TEST_P(QtEditBoxTest, ACharacterOfTwoUnitsIsNotCutAtTheGreatestLength)
+{
+    box.SetMaxLength(3);
+    TypeText(QStringLiteral("ab"));
+    QKeyEvent pair(QEvent::KeyPress, Qt::Key_unknown, {}, QStringLiteral("😀"));
+    QApplication::sendEvent(&Field(), &pair);
+    EXPECT_EQ(box.Text(), u"ab");
+    QApplication::clipboard()->setText(QStringLiteral("😀"));
+    Type(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), u"ab");
+    box.SetSelStart(0);
+    box.SetSelLength(2);
+    QApplication::clipboard()->setText(QStringLiteral("😀😁"));
+    Type(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), u"😀");
+    // The same first unit as before.
+    box.SetSelStart(0);
+    box.SetSelLength(2);
+    QApplication::clipboard()->setText(QStringLiteral("😁😂"));
+    Type(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), u"😁");
+    box.SetText(u"");
+    QApplication::sendEvent(&Field(), &pair);
+    EXPECT_EQ(box.Text(), u"😀");
+}
+
 TEST_P(QtEditBoxTest, AProgramMayWriteMoreThanCanBeTyped)
 {
     box.SetMaxLength(3);
@@ -411,6 +470,22 @@ TEST_P(QtEditBoxTest, AnotherStyleKeepsTextCaretSelectionFocusAndEnabled)
     EXPECT_THAT(listener.Heard(), IsEmpty());
     TypeText(QStringLiteral("x"));
     EXPECT_EQ(box.Text(), u"axd");
+}
+
+TEST_P(QtEditBoxTest, AnotherStyleKeepsTheFocusOfAWindowThatIsNotActive)
+{
+    QLineEdit elsewhere;
+    ShowAndSettle(elsewhere);
+    elsewhere.activateWindow();
+    elsewhere.setFocus();
+    Settle();
+    ASSERT_FALSE(Field().hasFocus());
+    box.SetStyle({ .isMultiLine = !GetParam() });
+    EXPECT_EQ(form.focusWidget(), &Field());
+    EXPECT_TRUE(elsewhere.hasFocus());
+    form.activateWindow();
+    Settle();
+    EXPECT_TRUE(Field().hasFocus());
 }
 
 TEST_P(QtEditBoxTest, EscapeAndTabAreTheFormsUnlessSetToZero)

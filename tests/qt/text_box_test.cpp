@@ -208,6 +208,16 @@ TEST_F(QVxTextBoxTest, DisablingIsThatOfTheWidget)
     EXPECT_TRUE(Box().Enabled());
 }
 
+TEST_F(QVxTextBoxTest, OnADisabledFormItKeepsItsOwnSetting)
+{
+    form.setEnabled(false);
+    EXPECT_TRUE(Box().Enabled());
+    Box().SetEnabled(false);
+    EXPECT_FALSE(Box().Enabled());
+    form.setEnabled(true);
+    EXPECT_FALSE(field.isEnabled());
+}
+
 TEST_F(QVxTextBoxTest, AssistiveToolsFindTheEditWidgetByTheNameOfTheField)
 {
     QLabel label(QStringLiteral("&Telephone"), &form);

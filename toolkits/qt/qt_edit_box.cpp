@@ -19,6 +19,12 @@ namespace {
 // Between a border and the text.
 constexpr int Padding = 1;
 
+// Whether the text of a key may be inserted, also where its first character is of two units.
+bool IsInserted(const QString& text)
+{
+    return !text.isEmpty() && text.front().category() != QChar::Other_Control;
+}
+
 } // namespace
 
 // The border, and the fields inside.
@@ -146,7 +152,8 @@ void QtEditBox::UseFieldOfStyle()
     chosen.Widget().show();
     if (!former || former == &chosen)
         return;
-    if (former->Widget().hasFocus())
+    // Or would have it, were its window active.
+    if (frame_->window()->focusWidget() == &former->Widget())
         chosen.Widget().setFocus();
     former->Widget().hide();
 }
@@ -391,7 +398,7 @@ QWidget& QtEditBox::KeyWidget()
 void QtEditBox::ActOnKey(QKeyEvent& event, ChangeOrigin origin)
 {
     const QString text = event.text();
-    if (!text.isEmpty() && text.front().isPrint() && !field_->HasRoomFor(static_cast<int>(text.size())))
+    if (IsInserted(text) && !field_->HasRoomFor(static_cast<int>(text.size())))
         return event.accept();
     Acting(origin, [&] { event.setAccepted(field_->Act(event)); });
 }

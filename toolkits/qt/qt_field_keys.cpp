@@ -61,6 +61,14 @@ ChangeOrigin OriginOf(const QKeyEvent& event)
     return isCtrl == isAlt ? ChangeOrigin::Key : ChangeOrigin::Foreign;
 }
 
+// The two characters that fields act on rather than insert.
+int KeyOf(const QString& characters)
+{
+    if (characters == QLatin1Char('\b'))
+        return Qt::Key_Backspace;
+    return characters == QLatin1Char('\r') ? Qt::Key_Return : Qt::Key_unknown;
+}
+
 bool IsPrintable(const std::u16string& characters)
 {
     return !characters.empty() && characters.front() >= FirstPrintable && characters.front() != 127;
@@ -149,11 +157,15 @@ bool QtFieldKeys::PressTyped(QKeyEvent& event, const std::u16string& characters,
 {
     if (left == characters)
         return Act(event) || IsPrintable(characters);
-    if (!left.empty()) {
-        QKeyEvent other(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, ToQString(left));
-        Act(other);
-    }
+    if (!left.empty())
+        ActOnCharacters(ToQString(left));
     return true;
+}
+
+void QtFieldKeys::ActOnCharacters(const QString& characters)
+{
+    QKeyEvent typed(QEvent::KeyPress, KeyOf(characters), Qt::NoModifier, characters);
+    Act(typed);
 }
 
 bool QtFieldKeys::Act(QKeyEvent& event)
@@ -216,12 +228,19 @@ void QtFieldKeys::Commit(const QString& text)
         }
         if (left.isEmpty())
             continue;
-        QInputMethodEvent typed;
-        typed.setCommitString(left);
-        field_.ActOnComposition(typed, ChangeOrigin::Key);
+        CommitCharacters(left);
         if (turn.IsOver(field_))
             return;
     }
+}
+
+void QtFieldKeys::CommitCharacters(const QString& characters)
+{
+    if (KeyOf(characters) != Qt::Key_unknown)
+        return ActOnCharacters(characters);
+    QInputMethodEvent typed;
+    typed.setCommitString(characters);
+    field_.ActOnComposition(typed, ChangeOrigin::Key);
 }
 
 void QtFieldKeys::ShowComposition(QInputMethodEvent& event)

@@ -49,10 +49,13 @@ private:
     void Press(QKeyEvent& event);
     bool PressHeard(QKeyEvent& event, i16 key);
     bool PressTyped(QKeyEvent& event, const std::u16string& characters, const std::u16string& left);
+    // Those that a handler has put in place of others.
+    void ActOnCharacters(const QString& characters);
     bool Act(QKeyEvent& event);
     void Release(QKeyEvent& event);
     void Compose(QInputMethodEvent& event);
     void Commit(const QString& text);
+    void CommitCharacters(const QString& characters);
     void ShowComposition(QInputMethodEvent& event);
     // The selection stays until what takes its place is known.
     void KeepSelection();

@@ -1,6 +1,7 @@
 #include "qt_text_field.h"
 
 #include "qt_ambient.h"
+#include "qt_one_line.h"
 
 #include <QKeyEvent>
 #include <QMimeData>
@@ -140,7 +141,7 @@ void QtTextField::insertFromMimeData(const QMimeData* source)
     if (mostTyped_ > 0) {
         QString whole = lines;
         whole.replace(QLatin1Char('\n'), LineEnd);
-        whole.truncate(std::max(mostTyped_ - (Length() - SelLength()), 0));
+        whole.truncate(FittingLength(whole, mostTyped_ - (Length() - SelLength())));
         if (whole.endsWith(QLatin1Char('\r'))) // half a line's end
             whole.chop(1);
         lines = InLines(whole);

@@ -64,7 +64,8 @@ public:
     void Show(bool visible) override { widget_.setVisible(visible); }
     bool IsVisible() const override { return widget_.isVisible(); }
     void SetEnabled(bool enabled) override { widget_.setEnabled(enabled); }
-    bool IsEnabled() const override { return widget_.isEnabled(); }
+    // Its own setting: on a disabled form it is not the widget that was disabled.
+    bool IsEnabled() const override { return widget_.isEnabledTo(widget_.parentWidget()); }
     void Raise() override { widget_.raise(); }
     bool SetFocus() override
     {

@@ -3,7 +3,7 @@
 #include "unicode.h"
 
 #include <array>
-#include <cstdio>
+#include <charconv>
 
 namespace vornix::viewer {
 
@@ -11,10 +11,10 @@ namespace {
 
 std::u16string RealText(double value)
 {
-    // Fifteen digits are what a double holds of any decimal number.
+    // Fifteen digits are what a double holds of any decimal number. The decimal point is one in any country.
     std::array<char, 32> text {};
-    std::snprintf(text.data(), text.size(), "%.15g", value);
-    return ToUtf16(text.data());
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, 15).ptr;
+    return ToUtf16(std::string_view(text.data(), end));
 }
 
 std::u16string WithoutNul(std::u16string_view stored)

@@ -1,11 +1,15 @@
 #include "sqlite_reader.h"
 
+#include "scratch_folder.h"
 #include "sqlite/made_database.h"
 #include "unicode.h"
 
 #include "vornix/sqlite/database.h"
 
 #include <gmock/gmock.h>
+
+#include <clocale>
+#include <cstdlib>
 
 using namespace vornix;
 using namespace vornix::viewer;
@@ -163,4 +167,26 @@ TEST(SqliteReader, RefusesMoreColumnsThanTheGridHolds)
     limits.maxColumns = 3;
     EXPECT_THROW(ReadQuery("", "SELECT 1, 2, 3, 4", limits), LoadError);
     EXPECT_EQ(ReadQuery("", "SELECT 1, 2, 3", limits).ColumnCount(), 3);
+}
+
+TEST(ReadDatabaseTable, WritesRealsWithAPointInEveryCountry)
+{
+    // A locale with a decimal comma, made of the one that every system has.
+    const ScratchFolder folder;
+    const std::filesystem::path plain = "/usr/lib/locale/C.utf8";
+    std::ifstream file(plain / "LC_NUMERIC", std::ios::binary);
+    std::string numeric { std::istreambuf_iterator<char>(file), {} };
+    const std::size_t point = numeric.find('.');
+    if (point == std::string::npos)
+        GTEST_SKIP() << "the system's locales are kept in another way";
+    numeric[point] = ',';
+    std::filesystem::copy(plain, folder.Path("comma"), std::filesystem::copy_options::recursive);
+    folder.Write("comma/LC_NUMERIC", numeric);
+    ::setenv("LOCPATH", folder.Path("").c_str(), 1);
+    const bool hasComma = std::setlocale(LC_NUMERIC, "comma") && *std::localeconv()->decimal_point == ',';
+    const Table table = ReadTable("CREATE TABLE t(r REAL); INSERT INTO t VALUES(0.1), (-2.5e-30), (1e300), (3);");
+    std::setlocale(LC_NUMERIC, "C");
+    ::unsetenv("LOCPATH");
+    ASSERT_TRUE(hasComma);
+    EXPECT_THAT(ColumnTexts(table, 0), ElementsAre("0.1", "-2.5e-30", "1e+300", "3"));
 }

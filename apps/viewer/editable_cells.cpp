@@ -2,16 +2,19 @@
 
 #include "line_breaks.h"
 
+#include <algorithm>
+
 namespace vornix::viewer {
 
 namespace {
 
 class CellOpener {
 public:
-    CellOpener(Vornix& grid, const Document& document)
+    CellOpener(Vornix& grid, const Document& document, const ColumnInputs& inputs)
         : grid_(grid)
         , document_(document)
         , table_(document.Saved())
+        , inputs_(inputs)
     {
     }
 
@@ -20,7 +23,7 @@ public:
         const i16 Col = static_cast<i16>(column);
         const bool isBoolean = table_.Columns()[static_cast<std::size_t>(column)].kind == ColumnKind::Boolean;
         if (!isBoolean && CanChangeAny(column))
-            grid_.SetColMode(Col, vxTextBox);
+            grid_.SetColMode(Col, EditorOf(column));
         for (int row = 0; row < table_.RowCount(); ++row)
             OpenCell(static_cast<i16>(row), Col);
     }
@@ -29,12 +32,25 @@ public:
     {
         if (grid_.CellMode(Row, Col) == vxCheckBox)
             return;
-        SetMode(Row, Col, document_.CanChange(Row, Col) ? vxTextBox : vxCellFixed);
-        if (!LineBreakOf(table_.Text(Row, Col)).empty())
+        const bool hasLines = !LineBreakOf(table_.Text(Row, Col)).empty();
+        SetMode(Row, Col, document_.CanChange(Row, Col) ? (hasLines ? vxTextBox : EditorOf(Col)) : vxCellFixed);
+        if (hasLines)
             MakeRoomForLines(Row, Col);
     }
 
 private:
+    vxCellModeEnum EditorOf(int column) const
+    {
+        switch (inputs_.Kind(column)) {
+        case InputKind::Choice:
+            return vxComboDropDownBox;
+        case InputKind::Key:
+            return vxComboListBox;
+        default:
+            return vxTextBox;
+        }
+    }
+
     // An editor of one line could not keep the breaks; those that it has are CR LF.
     void MakeRoomForLines(i16 Row, i16 Col)
     {
@@ -60,6 +76,7 @@ private:
     Vornix& grid_;
     const Document& document_;
     const Table& table_;
+    const ColumnInputs& inputs_;
 };
 
 bool IsBeingEdited(const Vornix& grid, int row, int column)
@@ -69,19 +86,37 @@ bool IsBeingEdited(const Vornix& grid, int row, int column)
 
 } // namespace
 
-void MakeEditable(Vornix& grid, const Document& document)
+void MakeEditable(Vornix& grid, const Document& document, const ColumnInputs& inputs)
 {
     if (document.WhyReadOnly())
         return;
     grid.SetRedraw(false);
     grid.SetTBoxAutoResize(true); // a text longer than its cell is seen whole while it is typed
-    CellOpener opener(grid, document);
+    // Of a date that is typed.
+    grid.SetTBoxIncludeLiteral(true);
+    grid.SetTBoxReplaceChar(u" ");
+    CellOpener opener(grid, document, inputs);
     for (int column = 0; column < document.Saved().ColumnCount(); ++column)
         opener.OpenColumn(column);
     grid.SetRedraw(true);
 }
 
-void ShowText(Vornix& grid, const Document& document, const CellText& cell)
+void FillList(Vornix& grid, const ColumnInputs& inputs, i16 Row, i16 Col)
+{
+    const i32 mode = grid.CellMode(Row, Col);
+    if (mode != vxComboDropDownBox && mode != vxComboListBox)
+        return;
+    grid.ComboClear();
+    const std::vector<std::u16string> texts = inputs.List(Col);
+    for (const std::u16string& text : texts)
+        grid.ComboAddItem(text);
+    // The keys of the list go on from here.
+    const auto found = std::find(texts.begin(), texts.end(), grid.Text(Row, Col));
+    if (found != texts.end() && !found->empty())
+        grid.SetComboListIndex(static_cast<i16>(found - texts.begin()));
+}
+
+void ShowText(Vornix& grid, const Document& document, const ColumnInputs& inputs, const CellText& cell)
 {
     if (IsBeingEdited(grid, cell.row, cell.column))
         grid.ExitEdit();
@@ -91,7 +126,7 @@ void ShowText(Vornix& grid, const Document& document, const CellText& cell)
         grid.SetCellChecked(Row, Col, cell.text == u"-1");
     else
         grid.SetText(Row, Col, cell.text);
-    CellOpener(grid, document).OpenCell(Row, Col);
+    CellOpener(grid, document, inputs).OpenCell(Row, Col);
 }
 
 std::u16string TextForDocument(const Vornix& grid, i16 Row, i16 Col)

@@ -1,17 +1,21 @@
 // The cells of the grid that a document lets be changed.
 #pragma once
 
-#include "document.h"
+#include "column_inputs.h"
 #include "vornix/vornix.h"
 
 namespace vornix::viewer {
 
-// Gives the grid, which shows the document's table, text boxes where something can be typed. Check boxes stay; where a
-// column of them has no truth value, its text can be typed. The rest stays as it is shown.
-void MakeEditable(Vornix& grid, const Document& document);
+// Gives the grid, which shows the document's table, text boxes where something can be typed, and lists where there is
+// something to choose from. Check boxes stay; where a column of them has no truth value, its text can be typed. The rest
+// stays as it is shown.
+void MakeEditable(Vornix& grid, const Document& document, const ColumnInputs& inputs);
+
+// Fills the list of a cell that has one, before its editor opens.
+void FillList(Vornix& grid, const ColumnInputs& inputs, i16 Row, i16 Col);
 
 // A cell that now reads otherwise, without an event. Its editor closes if it has one.
-void ShowText(Vornix& grid, const Document& document, const CellText& cell);
+void ShowText(Vornix& grid, const Document& document, const ColumnInputs& inputs, const CellText& cell);
 
 // What a changed cell says, as the document takes it.
 std::u16string TextForDocument(const Vornix& grid, i16 Row, i16 Col);

@@ -53,11 +53,13 @@ public:
 EditorWindow::EditorWindow(Document& document)
     : ViewerWindow(document.Saved())
     , document_(document)
+    , inputs_(document)
+    , date_(GridWidget().Grid(), document)
 {
     setWindowTitle(TitleFor(document.Saved()));
     changes_ = AddLabel("changes", 0);
     AddFileMenu();
-    MakeEditable(GridWidget().Grid(), document);
+    MakeEditable(GridWidget().Grid(), document, inputs_);
     ListenToGrid();
     TellChanges();
 }
@@ -78,14 +80,41 @@ void EditorWindow::ListenToGrid()
     EventHandlers& handlers = Handlers();
     handlers.OnTextChange = [this](i16 Row, i16 Col) { TakeChange(Row, Col); };
     // The keys of an editor do not come by the grid's widget.
-    handlers.OnBeforeEdit = [this](i16, i16) { TellStateLater(); };
-    handlers.OnAfterEdit = [this](i16, i16) { TellStateLater(); };
+    handlers.OnBeforeEdit = [this](i16 Row, i16 Col) { BeginEditing(Row, Col); };
+    handlers.OnAfterEdit = [this](i16, i16) { EndEditing(); };
     handlers.OnCellChange = [this](i16, i16, bool&) { TellStateLater(); };
+}
+
+void EditorWindow::BeginEditing(i16 Row, i16 Col)
+{
+    FillList(GridWidget().Grid(), inputs_, Row, Col);
+    if (Row >= 0 && Col >= 0 && inputs_.Kind(Col) == InputKind::Date)
+        date_.Begin(Row, Col);
+    TellStateLater();
+}
+
+void EditorWindow::EndEditing()
+{
+    if (!date_.Unfinished().empty())
+        notice_ = OneLine(ToUtf8(date_.Unfinished())) + " is no date and was not taken";
+    date_.End();
+    TellChanges();
+    TellStateLater();
+}
+
+void EditorWindow::TakeDate()
+{
+    date_.Take();
+    if (!date_.Unfinished().empty())
+        notice_ = OneLine(ToUtf8(date_.Unfinished())) + " is no date yet";
 }
 
 void EditorWindow::TakeChange(i16 Row, i16 Col)
 {
-    if (document_.CanChange(Row, Col))
+    notice_.clear();
+    if (date_.IsOf(Row, Col))
+        TakeDate();
+    else if (document_.CanChange(Row, Col))
         document_.Change(Row, Col, TextForDocument(GridWidget().Grid(), Row, Col));
     else
         ResetCheckBox(document_.Saved(), Row, Col);
@@ -103,21 +132,28 @@ void EditorWindow::TellStateLater()
 void EditorWindow::TellChanges()
 {
     setWindowModified(document_.IsChanged());
-    save_->setEnabled(document_.IsChanged());
+    save_->setEnabled(document_.IsChanged() || !date_.Unfinished().empty());
     std::string text = wasSaved_ ? "saved" : "no changes";
     if (document_.IsChanged())
         text = Counted(document_.ChangeCount(), "change") + " not saved";
     if (const auto reason = document_.WhyReadOnly())
         text = "read only: " + *reason;
-    changes_->setText(QString::fromStdString(text));
+    changes_->setText(QString::fromStdString(notice_.empty() ? text : notice_ + "; " + text));
 }
 
 bool EditorWindow::Save()
 {
+    if (!date_.Unfinished().empty()) {
+        notice_ = "not saved: " + OneLine(ToUtf8(date_.Unfinished())) + " is no date yet";
+        TellChanges();
+        return false;
+    }
+    notice_.clear();
     try {
         const BusyPointer busy;
         for (const CellText& cell : document_.Save())
-            ShowText(GridWidget().Grid(), document_, cell);
+            ShowText(GridWidget().Grid(), document_, inputs_, cell);
+        date_.Saved();
         wasSaved_ = true;
     } catch (const std::bad_alloc&) {
         TellFailure(tr("There is not enough memory."));
@@ -145,6 +181,11 @@ int EditorWindow::AskAboutChanges()
 
 void EditorWindow::closeEvent(QCloseEvent* event)
 {
+    // An unfinished date must not keep the rest from being saved.
+    if (!date_.Unfinished().empty()) {
+        GridWidget().Grid().ExitEdit();
+        EndEditing();
+    }
     const int answer = document_.IsChanged() ? AskAboutChanges() : QMessageBox::Discard;
     event->setAccepted(answer == QMessageBox::Discard || (answer == QMessageBox::Save && Save()));
 }

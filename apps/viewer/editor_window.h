@@ -1,6 +1,8 @@
 // The viewer's window for changing a table: what is typed and clicked goes into a document, which can be saved.
 #pragma once
 
+#include "column_inputs.h"
+#include "date_entry.h"
 #include "document.h"
 #include "viewer_window.h"
 
@@ -17,7 +19,7 @@ class EditorWindow final : public ViewerWindow {
 public:
     explicit EditorWindow(Document& document);
 
-    // False when it failed; the reader has been told why, and nothing is lost.
+    // False when it failed, or a date is unfinished; the reader has been told why, and nothing is lost.
     bool Save();
 
 protected:
@@ -26,7 +28,10 @@ protected:
 private:
     void AddFileMenu();
     void ListenToGrid();
+    void BeginEditing(i16 Row, i16 Col);
+    void EndEditing();
     void TakeChange(i16 Row, i16 Col);
+    void TakeDate();
     void TellStateLater();
     void TellChanges();
     void TellFailure(const QString& reason);
@@ -36,6 +41,9 @@ private:
     Document& document_;
     QAction* save_ = nullptr;
     QLabel* changes_ = nullptr;
+    const ColumnInputs inputs_;
+    DateEntry date_;
+    std::string notice_; // about a date that is none, until the next change
     bool wasSaved_ = false;
 };
 

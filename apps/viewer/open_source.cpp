@@ -14,6 +14,7 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <optional>
+#include <set>
 #include <unistd.h>
 
 namespace vornix::viewer {
@@ -120,6 +121,14 @@ std::string WhyWithoutKey(const sqlite::TableLayout& layout)
     return "its rows have nothing to tell them apart by";
 }
 
+std::set<int> ColumnsOf(const ForeignKeys& keys)
+{
+    std::set<int> columns;
+    for (const auto& [column, list] : keys)
+        columns.insert(column);
+    return columns;
+}
+
 ChangeableSource OpenDatabaseForChanging(
     const ViewerOptions& options, const LoadLimits& limits, const ProgressFunction& progress)
 {
@@ -134,8 +143,10 @@ ChangeableSource OpenDatabaseForChanging(
             return { std::move(table), std::make_unique<NoSaver>(WhyWithoutKey(rows.Layout())) };
         }
         *table = ReadChangeableTable(database, rows, limits, progress);
-        auto saver = std::make_unique<SqliteSaver>(options.file, *table, std::move(rows), opened.whyReadOnly);
-        return { std::move(table), std::move(saver) };
+        ForeignKeys keys = ReadForeignKeys(database, rows.Layout());
+        auto saver
+            = std::make_unique<SqliteSaver>(options.file, *table, std::move(rows), opened.whyReadOnly, ColumnsOf(keys));
+        return { std::move(table), std::move(saver), std::move(keys) };
     } catch (const sqlite::Error& error) {
         throw LoadError(error.what());
     }

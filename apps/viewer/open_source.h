@@ -1,6 +1,7 @@
 // From a file's name to a table.
 #pragma once
 
+#include "foreign_keys.h"
 #include "loading.h"
 #include "options.h"
 #include "saver.h"
@@ -28,6 +29,7 @@ Table OpenSource(const ViewerOptions& options, const LoadLimits& limits, const P
 struct ChangeableSource {
     std::unique_ptr<Table> table; // at one address, which the saver refers to
     std::unique_ptr<Saver> saver;
+    ForeignKeys keys = {};
 };
 
 // The same for changing cells. What cannot be changed opens all the same, and the saver says why. A query is an error.

@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""The viewer's window for changing a table, on a display of its own: typing, clicking, saving, closing.
+"""The viewer's window for changing a table, on a display of its own: typing, choosing, clicking,
+saving, closing.
 
     editor_window_test.py VORNIX_VIEW
 
@@ -99,6 +100,74 @@ def editing(program_path, display, step_name, *arguments):
             program.wait()
 
 
+JOBS = "status,due\n" + "open,2024-12-31\nlate,2024-02-29\ndone,\n" * 3
+
+
+def choose_and_date(program_path, display, path):
+    with open(path, "w", newline="", encoding="utf-8") as file:
+        file.write(JOBS)
+    with editing(program_path, display, "lists", path) as user:
+        user.keys("F2")
+        user.keys("alt+Down")
+        user.settled((0, 0, 900, 600))
+        user.keep_picture("the list is open")
+        user.keys("Up", "Return")
+        user.sees_title("picking marks the title", "jobs.csv* - Vornix")
+        user.keys("ctrl+s")
+        user.sees_title("the choice is saved", "jobs.csv - Vornix")
+        saved = JOBS.replace("open", "late", 1)
+        assert read(path) == saved, read(path)
+
+        user.keys("Escape", "Right", "Home")
+        user.types("20251")
+        user.sees_title("the first digits give a date", "jobs.csv* - Vornix")
+        user.keys("BackSpace")
+        user.sees_title("an unfinished date is no change", "jobs.csv - Vornix")
+        user.keys("ctrl+s")
+        user.settled((0, 0, 900, 600))
+        user.keep_picture("why it is not saved")
+        assert read(path) == saved, read(path)
+        user.types("0115")
+        user.sees_title("the date is whole", "jobs.csv* - Vornix")
+        user.keys("ctrl+s")
+        user.sees_title("the date is saved", "jobs.csv - Vornix")
+        saved = saved.replace("2024-12-31", "2025-01-15", 1)
+        assert read(path) == saved, read(path)
+
+        user.keys("Delete", "Escape")
+        user.settled((0, 0, 900, 600))
+        user.keep_picture("what was not taken")
+        user.keys("ctrl+q")
+        user.ends()
+    assert read(path) == saved, read(path)
+
+
+def choose_key(program_path, display, path):
+    connection = sqlite3.connect(path)
+    connection.executescript("""
+        CREATE TABLE countries(code TEXT PRIMARY KEY);
+        INSERT INTO countries VALUES('at'), ('ch'), ('no');
+        CREATE TABLE cities(country TEXT REFERENCES countries, name TEXT);
+        INSERT INTO cities VALUES('at', 'Bern'), ('ch', 'Atlantis');""")
+    with editing(program_path, display, "keys", path, "--table", "cities") as user:
+        user.keys("F2")
+        user.types("c")
+        user.sees_title("typing finds a key", "cities* - Vornix")
+        user.keys("Escape", "Down")
+        user.keys("alt+Down")
+        user.settled((0, 0, 900, 600))
+        user.keep_picture("the keys")
+        user.keys("Home", "Return")
+        user.settled(user.CELLS)
+        user.keys("ctrl+s")
+        user.sees_title("the keys are saved", "cities - Vornix")
+        rows = connection.execute("SELECT * FROM cities").fetchall()
+        assert rows == [("ch", "Bern"), (None, "Atlantis")], rows
+        user.keys("ctrl+q")
+        user.ends()
+    connection.close()
+
+
 def read(path):
     with open(path, newline="", encoding="utf-8") as file:
         return file.read()
@@ -191,7 +260,11 @@ def main():
             edit_text_file(sys.argv[1], display, os.path.join(folder, "cities.csv"))
         with Display() as display:
             edit_database(sys.argv[1], display, os.path.join(folder, "cities.db"))
-    print("a text file and a database were changed, saved and closed")
+        with Display() as display:
+            choose_and_date(sys.argv[1], display, os.path.join(folder, "jobs.csv"))
+        with Display() as display:
+            choose_key(sys.argv[1], display, os.path.join(folder, "keys.db"))
+    print("text files and databases were changed, saved and closed")
     return 0
 
 

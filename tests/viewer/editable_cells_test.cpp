@@ -36,19 +36,34 @@ ChangeableSource Source(std::optional<std::string> reason)
     return { std::move(table), std::make_unique<FakeSaver>(std::move(reason)) };
 }
 
+// With a column of few texts and one of keys, which may be null.
+ChangeableSource SourceOfLists()
+{
+    auto table = std::make_unique<Table>();
+    table->Columns() = { { u"city" }, { u"country" } };
+    for (int row = 0; row < 9; ++row)
+        table->AppendRow(std::vector<Field> { { row % 2 ? u"Roma" : u"Bern" }, { row % 2 ? u"39" : u"41" } });
+    return { std::move(table), std::make_unique<FakeSaver>(std::nullopt), { { 1, { u"", u"39", u"41", u"47" } } } };
+}
+
 // A grid that shows a document whose cells can be changed.
 class Desk {
 public:
     explicit Desk(std::optional<std::string> reason = {})
-        : document(Source(std::move(reason)))
+        : Desk(Source(std::move(reason)))
+    {
+    }
+    explicit Desk(ChangeableSource source)
+        : document(std::move(source))
     {
         PresentTable(grid, container.WindowDevice(), container.Colors(), document.Saved());
-        MakeEditable(grid, document);
+        MakeEditable(grid, document, inputs);
     }
 
     HeadlessContainer container;
     Vornix& grid = container.Grid();
     Document document;
+    const ColumnInputs inputs { document };
 };
 
 } // namespace
@@ -95,9 +110,9 @@ TEST(EditableCells, SayWhatTheDocumentTakes)
 TEST(EditableCells, ShowWhatTheSourceHasMadeOfThem)
 {
     Desk desk;
-    ShowText(desk.grid, desk.document, { 0, 0, u"ONE" });
+    ShowText(desk.grid, desk.document, desk.inputs, { 0, 0, u"ONE" });
     EXPECT_EQ(desk.grid.Text(0, 0), u"ONE");
-    ShowText(desk.grid, desk.document, { 0, 2, u"0" });
+    ShowText(desk.grid, desk.document, desk.inputs, { 0, 2, u"0" });
     EXPECT_FALSE(desk.grid.CellChecked(0, 2));
     EXPECT_EQ(desk.grid.CellMode(0, 2), vxCheckBox);
 }
@@ -108,9 +123,35 @@ TEST(EditableCells, CloseTheEditorOfACellThatReadsOtherwiseOnly)
     desk.grid.CurrentPos(0, 0);
     desk.grid.EnterEdit();
     ASSERT_TRUE(desk.grid.IsEditMode());
-    ShowText(desk.grid, desk.document, { 1, 1, u"y" });
+    ShowText(desk.grid, desk.document, desk.inputs, { 1, 1, u"y" });
     EXPECT_TRUE(desk.grid.IsEditMode());
-    ShowText(desk.grid, desk.document, { 0, 0, u"ONE" });
+    ShowText(desk.grid, desk.document, desk.inputs, { 0, 0, u"ONE" });
     EXPECT_FALSE(desk.grid.IsEditMode());
     EXPECT_EQ(desk.grid.Text(0, 0), u"ONE");
+}
+
+TEST(EditableCells, HaveListsWhereThereIsSomethingToChooseFrom)
+{
+    Desk desk(SourceOfLists());
+    EXPECT_EQ(desk.grid.CellMode(0, 0), vxComboDropDownBox);
+    EXPECT_EQ(desk.grid.CellMode(8, 0), vxComboDropDownBox);
+    EXPECT_EQ(desk.grid.CellMode(0, 1), vxCellFixed) << "which cannot be changed";
+    EXPECT_EQ(desk.grid.CellMode(1, 1), vxComboListBox);
+    ShowText(desk.grid, desk.document, desk.inputs, { 1, 1, u"47" });
+    EXPECT_EQ(desk.grid.CellMode(1, 1), vxComboListBox);
+}
+
+TEST(EditableCells, HaveTheListOfTheirColumn)
+{
+    Desk desk(SourceOfLists());
+    FillList(desk.grid, desk.inputs, 1, 1);
+    ASSERT_EQ(desk.grid.ComboListCount(), 4);
+    EXPECT_EQ(desk.grid.ComboList(0), u"") << "for a null";
+    EXPECT_EQ(desk.grid.ComboList(3), u"47");
+    EXPECT_EQ(desk.grid.ComboListIndex(), 1) << "the cell's";
+    FillList(desk.grid, desk.inputs, 0, 0);
+    ASSERT_EQ(desk.grid.ComboListCount(), 2);
+    EXPECT_EQ(desk.grid.ComboList(0), u"Bern");
+    EXPECT_EQ(desk.grid.ComboList(1), u"Roma");
+    EXPECT_EQ(desk.grid.Text(0, 0), u"Bern") << "filling changes nothing";
 }

@@ -4,6 +4,7 @@
 
 #include "vornix/sqlite/database.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace vornix::viewer {
@@ -76,7 +77,8 @@ std::string DatabaseRows::Update(const std::vector<int>& columns) const
         const std::string& name = layout_.columns[static_cast<std::size_t>(column)].name;
         assignments += (assignments.empty() ? " SET " : ", ") + sqlite::QuotedName(name) + " = ?";
     }
-    return "UPDATE " + sqlite::QuotedName(layout_.name) + assignments + WhereKey() + " RETURNING " + List(layout_.key);
+    return "UPDATE OR ABORT " + sqlite::QuotedName(layout_.name) + assignments + WhereKey() + " RETURNING "
+        + List(layout_.key);
 }
 
 DatabaseRow DatabaseRows::Read(const sqlite::Statement& statement) const
@@ -89,6 +91,13 @@ DatabaseRow DatabaseRows::Read(const sqlite::Statement& statement) const
         AddValue(print, statement, column);
     row.print = print.Value();
     return row;
+}
+
+bool DatabaseRows::HasKey(int row) const
+{
+    const std::vector<sqlite::Value>& key = Row(row).key;
+    return std::none_of(key.begin(), key.end(),
+        [](const sqlite::Value& value) { return std::holds_alternative<std::monostate>(value); });
 }
 
 void DatabaseRows::SetLocked(int row, int column, bool isLocked)

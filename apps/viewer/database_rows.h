@@ -33,13 +33,17 @@ public:
     std::string SelectAll() const;
     // The parameters are the key's values.
     std::string SelectOne() const;
-    // The parameters are the columns' new values, then those of the key; gives the key as it is then.
+    // The parameters are the columns' new values, then those of the key; gives the key as it is then. Whatever the table
+    // says, no other row is removed for it.
     std::string Update(const std::vector<int>& columns) const;
 
     // The row that the statement stands on, before any of its values was read as UTF-16.
     DatabaseRow Read(const sqlite::Statement& statement) const;
 
     // The rows count as the table's do.
+    int Count() const { return static_cast<int>(rows_.size()); }
+    // False where a part of the key is null, by which a row cannot be found again.
+    bool HasKey(int row) const;
     const DatabaseRow& Row(int row) const { return rows_[static_cast<std::size_t>(row)]; }
     void Append(DatabaseRow row) { rows_.push_back(std::move(row)); }
     void Replace(int row, DatabaseRow read) { rows_[static_cast<std::size_t>(row)] = std::move(read); }

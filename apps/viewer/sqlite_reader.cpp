@@ -165,6 +165,15 @@ Table ReadRows(sqlite::Database& database, const std::string& name, sqlite::Stat
     return table;
 }
 
+void AddMissingKeysNotice(const DatabaseRows& rows, Table& table)
+{
+    std::uint64_t count = 0;
+    for (int row = 0; row < rows.Count(); ++row)
+        count += rows.HasKey(row) ? 0 : 1;
+    if (count > 0)
+        table.AddNotice(Counted(count, "row") + " without a key cannot be changed");
+}
+
 } // namespace
 
 Table ReadDatabaseTable(
@@ -184,7 +193,9 @@ Table ReadChangeableTable(
 {
     try {
         sqlite::Statement statement = database.ReadQuery(rows.SelectAll());
-        return ReadRows(database, rows.Layout().name, statement, &rows, limits, progress);
+        Table table = ReadRows(database, rows.Layout().name, statement, &rows, limits, progress);
+        AddMissingKeysNotice(rows, table);
+        return table;
     } catch (const sqlite::Error& error) {
         throw LoadError(error.what());
     }

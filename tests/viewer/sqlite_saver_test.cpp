@@ -204,6 +204,91 @@ TEST(SqliteSaver, ShowsWhatTheDatabaseHasMadeOfARow)
         << "what the trigger did is no change by another program";
 }
 
+TEST(SqliteSaver, RemovesNoRowForTheSakeOfAnother)
+{
+    const MadeDatabase made("CREATE TABLE t(id INTEGER PRIMARY KEY ON CONFLICT REPLACE, u UNIQUE ON CONFLICT REPLACE);"
+                            "INSERT INTO t VALUES(1, 'a'), (2, 'b');");
+    for (const int column : { 0, 1 }) {
+        Document document = Opened(made.Path());
+        document.Change(0, column, column == 0 ? u"2" : u"b");
+        EXPECT_EQ(MessageOfSave(document),
+            column == 0 ? "row 1: UNIQUE constraint failed: t.id" : "row 1: UNIQUE constraint failed: t.u");
+        EXPECT_THAT(Rows(made.Path(), "SELECT * FROM t"), ElementsAre("1|'a'", "2|'b'"));
+    }
+    Document document = Opened(made.Path());
+    document.Change(0, 0, u"7");
+    document.Change(1, 0, u"7");
+    EXPECT_EQ(MessageOfSave(document), "row 2: UNIQUE constraint failed: t.id");
+    EXPECT_THAT(Rows(made.Path(), "SELECT * FROM t"), ElementsAre("1|'a'", "2|'b'"));
+}
+
+TEST(SqliteSaver, RefusesARowThatTheSavingOfAnotherChanges)
+{
+    const MadeDatabase made("CREATE TABLE t(a, b); INSERT INTO t VALUES('x', 1), ('y', 2);"
+                            "CREATE TRIGGER u AFTER UPDATE OF a ON t BEGIN UPDATE t SET b = b + 1; END;");
+    Document document = Opened(made.Path());
+    document.Change(0, 0, u"X");
+    document.Change(1, 1, u"5");
+    EXPECT_EQ(MessageOfSave(document), "row 2: the database changes it when another changed row is saved");
+    EXPECT_THAT(Rows(made.Path(), "SELECT * FROM t"), ElementsAre("'x'|1", "'y'|2"));
+}
+
+TEST(SqliteSaver, RefusesAKeyThatSeveralRowsHave)
+{
+    const std::string columns = "_rowid_, oid)";
+    MadeDatabase made("CREATE TABLE t(rowid PRIMARY KEY, " + columns + "; INSERT INTO t VALUES(1, 2, 3);");
+    Document document = Opened(made.Path());
+    document.Change(0, 2, u"4");
+    made.Execute("DROP TABLE t; CREATE TABLE t(rowid, " + columns + "; INSERT INTO t VALUES(1, 2, 3), (1, 2, 3);");
+    EXPECT_EQ(MessageOfSave(document), "row 1: its key is that of other rows too");
+    EXPECT_THAT(Rows(made.Path(), "SELECT * FROM t"), ElementsAre("1|2|3", "1|2|3"));
+}
+
+TEST(SqliteSaver, LetsNoRowBeChangedThatHasANullForAKey)
+{
+    const MadeDatabase made("CREATE TABLE t(rowid PRIMARY KEY, _rowid_, oid);"
+                            "INSERT INTO t VALUES(1, 2, 3), (NULL, 4, 5), (NULL, 6, 7);");
+    const Document document = Opened(made.Path());
+    EXPECT_TRUE(document.CanChange(0, 2));
+    EXPECT_FALSE(document.CanChange(1, 2));
+    EXPECT_FALSE(document.CanChange(2, 0));
+    EXPECT_THAT(document.Saved().Notices(), ElementsAre("2 rows without a key cannot be changed"));
+}
+
+TEST(SqliteSaver, RefusesTextsThatCouldNotBeReadAgain)
+{
+    const std::u16string longest(1 << 20, u'x');
+    const MadeDatabase made(
+        "CREATE TABLE t(a TEXT, b TEXT, c AS (a || b)); INSERT INTO t VALUES('x', 'y'), ('z', '');");
+    Document document = Opened(made.Path());
+    document.Change(1, 0, longest + u"x");
+    EXPECT_EQ(
+        MessageOfSave(document), "row 2, column a: a text is longer than 1048576 characters, the most a cell takes");
+    document.Change(1, 0, longest);
+    EXPECT_EQ(MessageOfSave(document), "saved");
+    document.Change(0, 0, longest);
+    EXPECT_EQ(
+        MessageOfSave(document), "row 1, column c: a text is longer than 1048576 characters, the most a cell takes");
+    EXPECT_THAT(Rows(made.Path(), "SELECT length(a) FROM t"), ElementsAre("1", "1048576"));
+}
+
+TEST(SqliteSaver, ReadsTheOtherRowsAgainThatTheDatabaseHasChanged)
+{
+    MadeDatabase made("CREATE TABLE t(id INTEGER PRIMARY KEY, parent REFERENCES t ON UPDATE CASCADE, n);"
+                      "INSERT INTO t VALUES(1, NULL, 0), (2, 1, 0), (3, 2, 0);"
+                      "CREATE TRIGGER u AFTER UPDATE OF n ON t BEGIN UPDATE t SET parent = NULL WHERE id = 3; END;");
+    Document document = Opened(made.Path());
+    document.Change(0, 0, u"10");
+    EXPECT_THAT(document.Save(), ElementsAre(CellText { 1, 1, u"10" }));
+    EXPECT_EQ(document.Text(1, 1), u"10");
+    document.Change(0, 2, u"5");
+    EXPECT_THAT(document.Save(), ElementsAre(CellText { 2, 1, u"" }));
+    document.Change(1, 2, u"6");
+    document.Change(2, 0, u"30");
+    EXPECT_EQ(MessageOfSave(document), "saved") << "nobody else has changed these";
+    EXPECT_THAT(Rows(made.Path(), "SELECT * FROM t"), ElementsAre("2|10|6", "10|NULL|5", "30|NULL|0"));
+}
+
 TEST(SqliteSaver, RefusesRowsThatAnotherProgramHasChangedOrRemoved)
 {
     MadeDatabase made(

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 
 namespace vornix::viewer {
 
@@ -13,6 +14,7 @@ struct CsvLayout {
     char16_t separator = u','; // 0: every line is one field
     std::size_t markerLength = 0; // UTF-16 units of a first line that names the separator, without its line break
     bool hasHeader = false;
+    std::u16string lineBreak = {}; // behind the first row; empty when it is not known
     std::uint64_t print = 0; // of the whole file's bytes
 };
 

@@ -14,4 +14,7 @@ class InputFile;
 // is needed to write the file again, unless it is null.
 Table ReadCsv(InputFile& file, const LoadLimits& limits, const ProgressFunction& progress, CsvLayout* layout = nullptr);
 
+// Encoding, separator and marker alone, by which ReadCsv would read the file. Raises LoadError.
+CsvLayout GuessLayout(InputFile& file);
+
 } // namespace vornix::viewer

@@ -1,6 +1,7 @@
 #include "csv_saver.h"
 
 #include "csv_parser.h"
+#include "csv_reader.h"
 #include "file_replacement.h"
 #include "input_file.h"
 #include "text_encoder.h"
@@ -14,7 +15,6 @@ namespace vornix::viewer {
 namespace {
 
 constexpr char16_t Quote = u'"';
-constexpr const char* ChangedMeanwhile = "another program has changed the file since it was read";
 
 // Rows of columns and texts, as they are to stand in the file.
 using Rows = std::map<int, Edits::RowEdits>;
@@ -26,9 +26,15 @@ struct Replacement {
     std::u16string text;
 };
 
-bool NeedsQuotes(std::u16string_view text, char16_t separator)
+bool NeedsQuotes(std::u16string_view text, char16_t separator, CsvQuoting quoting)
 {
     constexpr std::u16string_view special = u"\"\r\n";
+    constexpr std::u16string_view anySeparator = u"\t;|,";
+    // A file of one column must not look like one of several.
+    if (separator == 0 || quoting == CsvQuoting::AllSeparators) {
+        if (text.find_first_of(anySeparator) != std::u16string_view::npos)
+            return true;
+    }
     // The last two would be taken for something else at the beginning of a file.
     return text.find_first_of(special) != std::u16string_view::npos
         || (separator != 0 && text.find(separator) != std::u16string_view::npos) || text.starts_with(u'\uFEFF')
@@ -90,9 +96,10 @@ private:
 // Finds the fields that are to change.
 class FieldFinder {
 public:
-    FieldFinder(const CsvLayout& layout, const LoadLimits& limits, const Rows& rows)
+    FieldFinder(const CsvLayout& layout, const LoadLimits& limits, const Rows& rows, CsvQuoting quoting)
         : layout_(layout)
         , rows_(rows)
+        , quoting_(quoting)
         , parser_(layout, limits, [this](int row, const CsvParser::Record& record) { Take(row, record); })
     {
     }
@@ -131,7 +138,7 @@ private:
                 throw SaveError(ChangedMeanwhile);
             const CsvParser::Place& place = record.places[static_cast<std::size_t>(column)];
             const bool isBlankLine = record.fields.size() == 1 && text.find_first_not_of(u' ') == std::u16string::npos;
-            const bool needsQuotes = place.isQuoted || isBlankLine || NeedsQuotes(text, layout_.separator);
+            const bool needsQuotes = place.isQuoted || isBlankLine || NeedsQuotes(text, layout_.separator, quoting_);
             found_.push_back({ layout_.markerLength + place.begin, layout_.markerLength + place.end,
                 needsQuotes ? Quoted(text) : text });
         }
@@ -139,6 +146,7 @@ private:
 
     const CsvLayout& layout_;
     const Rows& rows_;
+    const CsvQuoting quoting_;
     RowParser parser_;
     std::vector<Replacement> found_;
     std::uint64_t rowCount_ = 0;
@@ -259,6 +267,15 @@ std::uint64_t WriteSpliced(InputFile& file, std::uint64_t oldPrint, const std::v
     return print.Value();
 }
 
+// Whether a file would be opened the way the layout says.
+bool ReadsWith(const CsvLayout& layout, const std::string& path)
+{
+    InputFile file(path);
+    const CsvLayout guess = GuessLayout(file);
+    return guess.encoding == layout.encoding && guess.separator == layout.separator
+        && guess.markerLength == layout.markerLength;
+}
+
 } // namespace
 
 CsvSaver::CsvSaver(std::string path, const Table& table, const CsvLayout& layout, const LoadLimits& limits)
@@ -283,28 +300,41 @@ bool CsvSaver::CanChange(int, int) const
 std::vector<CellText> CsvSaver::Save(const Edits& edits)
 {
     const Rows rows = StoredRows(edits);
+    std::vector<CellText> mended = Mended(edits); // whatever can fail comes before the file is there
     try {
-        InputFile file(path_);
-        FieldFinder finder(layout_, limits_, rows);
-        const std::vector<Replacement> replacements = finder.Find(file);
-        file.Rewind();
-        ReadBack readBack(layout_, limits_, rows);
-        FileReplacement target(path_);
-        const std::uint64_t print = WriteSpliced(file, layout_.print, replacements, readBack, target);
-        readBack.Finish(finder.RowCount());
-        target.Commit();
-        layout_.print = print;
+        if (!Write(rows, CsvQuoting::WhereNeeded) && !Write(rows, CsvQuoting::AllSeparators))
+            throw SaveError("the changed file would be taken for one with another separator");
     } catch (const LoadError& error) {
         throw SaveError(error.what());
     }
-    return Mended(edits);
+    return mended;
+}
+
+// False, and nothing done, when the new file would be read with another layout.
+bool CsvSaver::Write(const Rows& rows, CsvQuoting quoting)
+{
+    InputFile file(path_);
+    const FileIdentity identity = file.Identity();
+    FieldFinder finder(layout_, limits_, rows, quoting);
+    const std::vector<Replacement> replacements = finder.Find(file);
+    file.Rewind();
+    ReadBack readBack(layout_, limits_, rows);
+    FileReplacement target(path_);
+    const std::uint64_t print = WriteSpliced(file, layout_.print, replacements, readBack, target);
+    readBack.Finish(finder.RowCount());
+    if (!ReadsWith(layout_, target.TemporaryPath()))
+        return false;
+    target.Commit(identity);
+    layout_.print = print;
+    return true;
 }
 
 // As the file writes it.
-std::u16string CsvSaver::Stored(int column, std::u16string_view text) const
+std::u16string CsvSaver::Stored(int row, int column, std::u16string_view text) const
 {
     const Column& described = table_.Columns()[static_cast<std::size_t>(column)];
-    if (described.kind == ColumnKind::Boolean && (text == u"-1" || text == u"0"))
+    const bool isTruthValue = described.kind == ColumnKind::Boolean && table_.HasTruthValue(row, column);
+    if (isTruthValue && (text == u"-1" || text == u"0"))
         return text == u"0" ? described.falseText : described.trueText;
     return WellFormed(text);
 }
@@ -314,7 +344,7 @@ std::map<int, Edits::RowEdits> CsvSaver::StoredRows(const Edits& edits) const
     Rows rows;
     for (const auto& [row, cells] : edits.Rows()) {
         for (const auto& [column, text] : cells)
-            rows[row].emplace(column, Stored(column, text));
+            rows[row].emplace(column, Stored(row, column, text));
     }
     return rows;
 }

@@ -2,12 +2,14 @@
 
 #include "saver.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace vornix::viewer {
@@ -47,6 +49,34 @@ std::string FolderOf(const std::string& path)
     return std::filesystem::path(path).parent_path().string();
 }
 
+constexpr const char* AccessList = "system.posix_acl_access";
+
+// Empty where the file system knows none.
+std::vector<std::string> AttributesOf(const std::string& path)
+{
+    const ssize_t size = ::listxattr(path.c_str(), nullptr, 0);
+    std::string list(size > 0 ? static_cast<std::size_t>(size) : 0, '\0');
+    const ssize_t length = size > 0 ? ::listxattr(path.c_str(), list.data(), list.size()) : size;
+    if (length < 0 && errno != ENOTSUP)
+        throw SaveError(std::string("its extended attributes cannot be read (") + std::strerror(errno) + ")");
+    list.resize(length > 0 ? static_cast<std::size_t>(length) : 0);
+    std::vector<std::string> names;
+    for (std::size_t start = 0; start < list.size(); start += names.back().size() + 1)
+        names.emplace_back(list.c_str() + start);
+    return names;
+}
+
+std::string AttributeOf(const std::string& path, const std::string& name)
+{
+    const ssize_t size = ::getxattr(path.c_str(), name.c_str(), nullptr, 0);
+    std::string value(size > 0 ? static_cast<std::size_t>(size) : 0, '\0');
+    const ssize_t length = size > 0 ? ::getxattr(path.c_str(), name.c_str(), value.data(), value.size()) : size;
+    if (length < 0)
+        throw SaveError("its extended attribute " + name + " cannot be read (" + std::strerror(errno) + ")");
+    value.resize(static_cast<std::size_t>(length));
+    return value;
+}
+
 std::string WhyNotReplaced(const std::string& target)
 {
     if (!MayWrite(target))
@@ -69,6 +99,7 @@ std::string WhyNotReplaceable(const std::string& path)
 
 FileReplacement::FileReplacement(const std::string& path)
     : target_(Resolved(path))
+    , folder_(FolderOf(target_))
 {
     if (const std::string reason = WhyNotReplaced(target_); !reason.empty())
         throw SaveError(reason);
@@ -78,7 +109,7 @@ FileReplacement::FileReplacement(const std::string& path)
     if (!S_ISREG(old.st_mode))
         throw SaveError("it is no regular file any more");
 
-    std::string name = FolderOf(target_) + "/.vornix-view.XXXXXX";
+    std::string name = folder_ + "/.vornix-view.XXXXXX";
     temporary_.descriptor = ::mkostemp(name.data(), O_CLOEXEC);
     if (temporary_.descriptor < 0)
         RaiseSystemError(errno);
@@ -104,8 +135,25 @@ void FileReplacement::TakeOver(const struct stat& old)
         mode &= ~static_cast<mode_t>(S_ISUID | S_ISGID);
     if (!keepsGroup)
         mode = (mode & ~static_cast<mode_t>(S_IRWXG)) | ((mode & S_IRWXO) << 3);
+    TakeOverAttributes();
     if (::fchmod(temporary_.descriptor, mode) != 0)
         RaiseSystemError(errno);
+}
+
+// Before the mode is set, which an access list has a part of. What the folder gives to new files is taken away again.
+void FileReplacement::TakeOverAttributes() const
+{
+    const std::vector<std::string> names = AttributesOf(target_);
+    if (std::find(names.begin(), names.end(), AccessList) == names.end()
+        && ::fremovexattr(temporary_.descriptor, AccessList) != 0 && errno != ENODATA && errno != ENOTSUP)
+        RaiseSystemError(errno);
+    for (const std::string& name : names) {
+        const std::string value = AttributeOf(target_, name);
+        const bool isKept = ::fsetxattr(temporary_.descriptor, name.c_str(), value.data(), value.size(), 0) == 0;
+        // Those are the system's own, and no program's.
+        if (!isKept && !name.starts_with("security.") && !name.starts_with("trusted."))
+            throw SaveError("the new file cannot get the old one's " + name + " (" + std::strerror(errno) + ")");
+    }
 }
 
 void FileReplacement::Write(std::string_view bytes)
@@ -120,20 +168,28 @@ void FileReplacement::Write(std::string_view bytes)
     }
 }
 
-void FileReplacement::Commit()
+void FileReplacement::Commit(const FileIdentity& read)
 {
     if (::fsync(temporary_.descriptor) != 0)
         RaiseSystemError(errno);
+    RequireSame(read);
     if (::rename(temporary_.path.c_str(), target_.c_str()) != 0)
         RaiseSystemError(errno);
     temporary_.path.clear();
     SyncFolder();
 }
 
+void FileReplacement::RequireSame(const FileIdentity& read) const
+{
+    struct stat status = {};
+    if (::stat(target_.c_str(), &status) != 0 || FileIdentity::Of(status) != read)
+        throw SaveError(ChangedMeanwhile);
+}
+
 // The new name is there already; should the disk not take it now, the old one comes back at the worst.
 void FileReplacement::SyncFolder() const
 {
-    const int folder = ::open(FolderOf(target_).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    const int folder = ::open(folder_.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (folder < 0)
         return;
     ::fsync(folder);

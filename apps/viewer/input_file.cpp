@@ -38,6 +38,12 @@ void CheckIsUsable(const struct stat& status)
 
 } // namespace
 
+FileIdentity FileIdentity::Of(const struct stat& status)
+{
+    return { status.st_dev, status.st_ino, static_cast<std::uint64_t>(status.st_size),
+        { status.st_mtim.tv_sec, status.st_mtim.tv_nsec, status.st_ctim.tv_sec, status.st_ctim.tv_nsec } };
+}
+
 InputFile::InputFile(const std::string& path)
 {
     // Looked at before opening: a socket cannot be opened, and its own error would say little.
@@ -55,6 +61,14 @@ InputFile::InputFile(const std::string& path)
 InputFile::~InputFile()
 {
     ::close(descriptor_);
+}
+
+FileIdentity InputFile::Identity() const
+{
+    struct stat status = {};
+    if (::fstat(descriptor_, &status) != 0)
+        RaiseSystemError(errno);
+    return FileIdentity::Of(status);
 }
 
 std::size_t InputFile::Read(std::span<char> buffer)

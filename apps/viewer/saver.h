@@ -6,6 +6,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace vornix::viewer {
@@ -33,6 +34,8 @@ public:
     virtual std::optional<std::string> WhyReadOnly() const = 0;
     // Whether a change of this cell could be saved.
     virtual bool CanChange(int row, int column) const = 0;
+    // How the source breaks lines; empty where it has no way of its own.
+    virtual std::u16string_view LineBreak() const { return {}; }
     // Saves all of the edits or, raising SaveError, none; the source is then as it was. Gives the cells that do not read
     // as the edits say: what the source has made of a text, and what it has changed besides.
     virtual std::vector<CellText> Save(const Edits& edits) = 0;

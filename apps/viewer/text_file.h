@@ -22,6 +22,7 @@ public:
     bool Next();
     // The piece, without the byte order mark; up to the bytes that are no text once HasFailed(). May be changed.
     std::u16string& Text() { return text_; }
+    const std::u16string& Text() const { return text_; }
     // True when the bytes read so far are no text in this encoding. Not certain before Next() was false.
     bool HasFailed() const { return decoder_.HasFailed(); }
 

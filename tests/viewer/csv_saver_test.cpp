@@ -2,6 +2,7 @@
 
 #include "as_ordinary_user.h"
 #include "csv_reader.h"
+#include "file_replacement.h"
 #include "input_file.h"
 #include "scratch_folder.h"
 #include "text_encoder.h"
@@ -12,6 +13,7 @@
 #include <random>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 
 using namespace vornix::viewer;
 using testing::ElementsAre;
@@ -162,6 +164,36 @@ std::string Saved(std::string_view bytes, const std::vector<Change>& changes)
     return Content(file.path);
 }
 
+std::string AttributeOf(const std::string& path, const char* name)
+{
+    char value[256];
+    const ssize_t length = ::getxattr(path.c_str(), name, value, sizeof value);
+    return length < 0 ? std::string() : std::string(value, static_cast<std::size_t>(length));
+}
+
+// Everything for the owner, reading for that user, the group and the mask, nothing for others; as the system keeps it.
+std::string AccessListFor(std::uint32_t user)
+{
+    constexpr std::uint32_t nobody = 0xFFFFFFFF;
+    std::string list;
+    const auto add = [&](std::uint32_t number, int bytes) {
+        for (int byte = 0; byte < bytes; ++byte)
+            list += static_cast<char>(number >> (8 * byte) & 0xFF);
+    };
+    add(2, 4);
+    const auto addEntry = [&](std::uint32_t tag, std::uint32_t rights, std::uint32_t id) {
+        add(tag, 2);
+        add(rights, 2);
+        add(id, 4);
+    };
+    addEntry(0x01, 6, nobody);
+    addEntry(0x02, 4, user);
+    addEntry(0x04, 4, nobody);
+    addEntry(0x10, 4, nobody);
+    addEntry(0x20, 0, nobody);
+    return list;
+}
+
 std::vector<std::string> FilesIn(const ScratchFolder& folder)
 {
     std::vector<std::string> names;
@@ -178,7 +210,7 @@ TEST(CsvSaver, WritesWhatWasChangedAndNothingElse)
         "id,name\n1,Anna\n2,Bert\n33,Cleo\n");
     EXPECT_EQ(Saved("1;2\n3;4\n", { { 0, 0, u"10" }, { 1, 1, u"40" } }), "10;2\n3;40\n") << "without a header";
     EXPECT_EQ(Saved("a\tb\n1\tx\n", { { 0, 1, u"y,z;w" } }), "a\tb\n1\ty,z;w\n");
-    EXPECT_EQ(Saved("name\nAnna\nBob 1\n", { { 0, 0, u"Anna; and so on" } }), "name\nAnna; and so on\nBob 1\n")
+    EXPECT_EQ(Saved("name\nAnna\nBob 1\n", { { 0, 0, u"Anna and so on" } }), "name\nAnna and so on\nBob 1\n")
         << "one column";
 }
 
@@ -210,6 +242,53 @@ TEST(CsvSaver, QuotesWhatHasToBe)
     EXPECT_EQ(Saved("id,n\n1,a\n", { { 0, 1, u" x " } }), "id,n\n1, x \n");
     EXPECT_EQ(Saved("1,2\n3,4\n", { { 0, 0, u"\uFEFF5" } }), "\"\xEF\xBB\xBF\x35\",2\n3,4\n")
         << "a byte order mark that is none";
+}
+
+TEST(CsvSaver, QuotesEverySeparatorInAFileOfOneColumn)
+{
+    for (const char16_t separator : { u',', u';', u'|', u'\t' }) {
+        const std::string written(1, static_cast<char>(separator));
+        const ScratchFolder folder;
+        OpenFile file(folder.Write("file.csv", "name\nAnna\n"));
+        ASSERT_EQ(file.layout.separator, u'\0');
+        file.edits.Set(0, 0, u"a" + std::u16string(1, separator) + u"b");
+        EXPECT_EQ(file.MessageOfSave(), "saved");
+        EXPECT_EQ(Content(file.path), "name\n\"a" + written + "b\"\n");
+        const OpenFile again(file.path);
+        EXPECT_EQ(again.table.ColumnCount(), 1);
+        EXPECT_EQ(again.table.Text(0, 0), file.edits.Text(0, 0));
+    }
+}
+
+TEST(CsvSaver, QuotesWhatWouldBeTakenForTheFilesSeparator)
+{
+    EXPECT_EQ(Saved("1,2\n3,4\n", { { 0, 0, u"1;5" }, { 1, 0, u"3;6" } }), "\"1;5\",2\n\"3;6\",4\n");
+    EXPECT_EQ(Saved("1,2\n3,4\n", { { 0, 0, u"1;5" } }), "1;5,2\n3,4\n") << "where there is no doubt it stays plain";
+}
+
+TEST(CsvSaver, RefusesAFileThatWouldBeReadWithAnotherSeparator)
+{
+    // Without the second semicolon of its last line the file has one in each, as it has commas.
+    const std::string content = "a;b,c\nd;e,f;g\n";
+    const ScratchFolder folder;
+    OpenFile file(folder.Write("file.csv", content));
+    ASSERT_EQ(file.layout.separator, u',');
+    file.edits.Set(0, 1, u"f");
+    EXPECT_EQ(file.MessageOfSave(), "the changed file would be taken for one with another separator");
+    EXPECT_EQ(Content(file.path), content);
+    EXPECT_THAT(FilesIn(folder), ElementsAre("file.csv"));
+}
+
+TEST(CsvSaver, KnowsHowTheFileBreaksLines)
+{
+    const ScratchFolder folder;
+    const auto lineBreakOf = [&](const char* content) {
+        return std::u16string(OpenFile(folder.Write("file.csv", content)).saver.LineBreak());
+    };
+    EXPECT_EQ(lineBreakOf("id,n\n1,\"a\r\nb\"\n"), u"\n");
+    EXPECT_EQ(lineBreakOf("\"id\nof\",n\r\n1,a\r\n"), u"\r\n");
+    EXPECT_EQ(lineBreakOf("sep=;\nid;n\r1;a\r"), u"\r");
+    EXPECT_EQ(lineBreakOf("1,2"), u"");
 }
 
 TEST(CsvSaver, ReplacesFieldsWithLineBreaks)
@@ -252,6 +331,12 @@ TEST(CsvSaver, WritesTruthValuesAsTheColumnDoes)
     EXPECT_EQ(Saved("id,paid\n1,yes\n2,no\n", { { 0, 1, u"0" }, { 1, 1, u"-1" } }), "id,paid\n1,no\n2,yes\n");
     EXPECT_EQ(Saved("id,paid\n1,True\n2,True\n", { { 1, 1, u"0" } }), "id,paid\n1,True\n2,False\n");
     EXPECT_EQ(Saved("id,paid\n1,Yes\n2,YES\n3,no\n", { { 0, 1, u"0" } }), "id,paid\n1,no\n2,YES\n3,no\n");
+}
+
+TEST(CsvSaver, WritesWhatIsTypedWhereATruthValueIsMissing)
+{
+    EXPECT_EQ(Saved("id,paid\n1,yes\n2,\n3,no\n4,\n", { { 1, 1, u"0" }, { 3, 1, u"-1" } }),
+        "id,paid\n1,yes\n2,0\n3,no\n4,-1\n");
 }
 
 TEST(CsvSaver, ReplacesFieldsWhereverPiecesOfTheFileMeet)
@@ -358,6 +443,67 @@ TEST(CsvSaver, RefusesAFileThatIsNotTheOneThatWasRead)
     EXPECT_THAT(FilesIn(folder), IsEmpty());
     folder.Write("file.csv", "id,n\n1,a\n2,b\n");
     EXPECT_EQ(file.MessageOfSave(), "saved") << "it is the one that was read again";
+}
+
+TEST(FileReplacement, LeavesAFileAloneThatWasWrittenToWhileTheNewOneWasMade)
+{
+    const ScratchFolder folder;
+    const std::string path = folder.Write("file.csv", "old");
+    const auto replace = [&](const std::function<void()>& meanwhile) -> std::string {
+        const FileIdentity identity = InputFile(path).Identity();
+        FileReplacement target(path);
+        target.Write("new");
+        meanwhile();
+        try {
+            target.Commit(identity);
+        } catch (const SaveError& error) {
+            return error.what();
+        }
+        return Content(path);
+    };
+    EXPECT_EQ(replace([&] { folder.Write("file.csv", "other"); }), ChangedMeanwhile);
+    EXPECT_EQ(Content(path), "other");
+    EXPECT_EQ(replace([&] { std::filesystem::rename(folder.Write("second.csv", "other"), path); }), ChangedMeanwhile);
+    EXPECT_EQ(replace([&] { std::filesystem::remove(path); }), ChangedMeanwhile);
+    folder.Write("file.csv", "old");
+    EXPECT_EQ(replace([] {}), "new");
+    EXPECT_THAT(FilesIn(folder), ElementsAre("file.csv"));
+}
+
+TEST(FileReplacement, KeepsExtendedAttributesAndAccessLists)
+{
+    const ScratchFolder folder;
+    const std::string path = folder.Write("file.csv", "id,n\n1,a\n");
+    if (::setxattr(path.c_str(), "user.origin", "somewhere", 9, 0) != 0)
+        GTEST_SKIP() << "the file system has no extended attributes";
+    ASSERT_EQ(::chmod(path.c_str(), 0640), 0);
+    const std::string list = AccessListFor(54321);
+    if (::setxattr(path.c_str(), "system.posix_acl_access", list.data(), list.size(), 0) != 0)
+        GTEST_SKIP() << "the file system has no access lists";
+    OpenFile file(path);
+    file.edits.Set(0, 1, u"x");
+    ASSERT_EQ(file.MessageOfSave(), "saved");
+    ASSERT_EQ(Content(path), "id,n\n1,x\n");
+    EXPECT_EQ(AttributeOf(path, "user.origin"), "somewhere");
+    EXPECT_EQ(AttributeOf(path, "system.posix_acl_access"), list);
+}
+
+TEST(FileReplacement, TakesNoAccessListFromTheFolder)
+{
+    const ScratchFolder folder;
+    const std::string path = folder.Write("file.csv", "id,n\n1,a\n");
+    ASSERT_EQ(::chmod(path.c_str(), 0660), 0);
+    const std::string list = AccessListFor(54321);
+    if (::setxattr(folder.Path("").c_str(), "system.posix_acl_default", list.data(), list.size(), 0) != 0)
+        GTEST_SKIP() << "the file system has no access lists";
+    ASSERT_EQ(AttributeOf(folder.Write("other", "x"), "system.posix_acl_access").size(), list.size());
+    OpenFile file(path);
+    file.edits.Set(0, 1, u"x");
+    ASSERT_EQ(file.MessageOfSave(), "saved");
+    EXPECT_EQ(AttributeOf(path, "system.posix_acl_access"), "");
+    struct stat status = {};
+    ASSERT_EQ(::stat(path.c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777, 0660u);
 }
 
 TEST(CsvSaver, FollowsLinksAndKeepsPermissions)

@@ -13,6 +13,7 @@ class FakeSaver final : public Saver {
 public:
     std::optional<std::string> WhyReadOnly() const override { return whyReadOnly; }
     bool CanChange(int, int column) const override { return column == 0; }
+    std::u16string_view LineBreak() const override { return lineBreak; }
     std::vector<CellText> Save(const Edits& edits) override
     {
         if (fails)
@@ -27,6 +28,7 @@ public:
 
     std::optional<std::string> whyReadOnly;
     bool fails = false;
+    std::u16string lineBreak;
     int saves = 0;
     std::vector<CellText> saved;
     std::vector<CellText> others;
@@ -104,6 +106,15 @@ TEST_F(DocumentTest, LetsOnlyThoseCellsBeChangedThatCanBeSaved)
     EXPECT_THROW(document.Change(0, 1, u"x"), std::logic_error);
     EXPECT_THROW(document.Change(3, 0, u"x"), std::out_of_range);
     EXPECT_FALSE(document.IsChanged());
+}
+
+TEST_F(DocumentTest, WritesLineBreaksAsTheSourceDoesWhereTheCellHadNone)
+{
+    saver->lineBreak = u"\n";
+    document.Change(0, 0, u"a\r\nb");
+    document.Change(2, 0, u"z\r\ny");
+    EXPECT_EQ(document.Text(0, 0), u"a\nb");
+    EXPECT_EQ(document.Text(2, 0), u"z\r\ny");
 }
 
 TEST_F(DocumentTest, WritesLineBreaksAsTheCellHadThem)

@@ -134,7 +134,7 @@ def choose_and_date(program_path, display, path):
         saved = saved.replace("2024-12-31", "2025-01-15", 1)
         assert read(path) == saved, read(path)
 
-        user.keys("Delete", "Escape")
+        user.keys("Home", "Delete", "Escape")
         user.settled((0, 0, 900, 600))
         user.keep_picture("what was not taken")
         user.keys("ctrl+q")

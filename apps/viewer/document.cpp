@@ -26,13 +26,10 @@ const std::vector<std::u16string>* Document::KeysFor(int column) const
 
 void Document::Change(int row, int column, std::u16string_view text)
 {
-    const std::u16string_view lineBreak = LineBreakOf(Saved().Text(row, column));
+    const std::u16string_view old = Saved().Text(row, column);
     if (!CanChange(row, column))
         throw std::logic_error("this cell cannot be changed");
-    if (lineBreak.empty())
-        edits_.Set(row, column, text);
-    else
-        edits_.Set(row, column, WithLineBreaks(text, lineBreak));
+    edits_.Set(row, column, WithLineBreaksOf(old, text, source_.saver->LineBreak()));
 }
 
 std::vector<CellText> Document::Save()

@@ -26,7 +26,8 @@ public:
     // anything.
     const std::vector<std::u16string>* KeysFor(int column) const;
 
-    // Line breaks become those of the text that was saved, if it has any; an editor writes them all as CR LF. Throws
+    // An editor writes all line breaks as CR LF: they become those of the text that was saved where it still says the same,
+    // its first one elsewhere, or that of the source if it has none. Throws
     // std::out_of_range when there is no such cell, std::logic_error when it cannot be changed.
     void Change(int row, int column, std::u16string_view text);
     std::u16string_view Text(int row, int column) const { return edits_.Text(row, column); }

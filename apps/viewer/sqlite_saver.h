@@ -15,7 +15,8 @@ class Database;
 namespace vornix::viewer {
 
 // All changes are one transaction. A row that is gone, or of which anything was changed since it was read, is an error
-// that names it. A column makes of a text what its type says, as for any program that writes a text; where it takes
+// that names it; so is one that the change of another one changes. What the database changes by itself is read again. A
+// text that could not be read again is an error. A column makes of a text what its type says, as for any program that writes a text; where it takes
 // anything, a cell that held a number, or stands in a column of numbers, gets a number where the text is one. Without a
 // text a cell of a text column holds an empty one, and any other a null, as does one that refers to another table.
 class SqliteSaver final : public Saver {
@@ -38,14 +39,21 @@ private:
         std::vector<bool> isLocked;
     };
     using Types = std::map<int, sqlite::ValueType>; // by column
+    using Keys = std::map<int, std::vector<sqlite::Value>>; // by row
 
+    void RequireShort(int row, int column, std::u16string_view text) const;
+    void RequireShort(const Edits& edits) const;
     std::map<int, Types> RequireUnchanged(const sqlite::Database& database, const Edits& edits) const;
+    Keys UpdateAll(const sqlite::Database& database, const Edits& edits, std::map<int, Types> types) const;
+    void RequireNotChangedHere(sqlite::Statement& select, int row) const;
     std::vector<sqlite::Value> Update(
         const sqlite::Database& database, int row, const Edits::RowEdits& cells, const Types& types) const;
     ReadRow Read(const sqlite::Database& database, int row, const std::vector<sqlite::Value>& key) const;
     sqlite::Value ValueFor(int column, std::u16string_view text, sqlite::ValueType oldType) const;
     std::u16string ShownText(const sqlite::Statement& statement, int column) const;
-    std::vector<CellText> TakeOver(std::vector<ReadRow> rows, const Edits& edits);
+    // Of the rows that are not among the edits, those that are not as they were.
+    std::vector<int> OtherChanges(const sqlite::Database& database, const Edits& edits) const;
+    std::vector<CellText> TakeOver(DatabaseRows& rows, std::vector<ReadRow> saved, const Edits& edits) const;
 
     std::string path_;
     const Table& table_;

@@ -65,6 +65,11 @@ protected:
         event.setCommitString(done);
         QApplication::sendEvent(&Field(), &event);
     }
+    // What is being composed in a field of several lines.
+    QString ShownPreedit()
+    {
+        return qobject_cast<QPlainTextEdit*>(&Field())->document()->firstBlock().layout()->preeditAreaText();
+    }
     // Whether the box has a use for the key.
     bool Takes(int key)
     {
@@ -379,6 +384,53 @@ TEST_P(QtEditBoxTest, ACompositionThatIsGivenUpLeavesTheSelection)
     EXPECT_EQ(box.Text(), u"abcd");
     EXPECT_EQ(box.SelText(), u"bc");
     EXPECT_THAT(listener.Heard(), IsEmpty());
+}
+
+TEST_P(QtEditBoxTest, ACompositionGoesNoFurtherThanAFieldThatLosesTheFocus)
+{
+    QLineEdit other(&form);
+    other.show();
+    int presses = 0;
+    listener.keyPress = [&](i16&, i16) {
+        ++presses;
+        other.setFocus();
+    };
+    Compose(QStringLiteral("´"));
+    Compose(QStringLiteral("rest"), QStringLiteral("éa"));
+    EXPECT_EQ(presses, 1);
+    EXPECT_EQ(box.Text(), u"");
+    auto* const line = qobject_cast<QLineEdit*>(&Field());
+    EXPECT_EQ(line ? line->displayText() : ShownPreedit(), QString());
+}
+
+TEST_P(QtEditBoxTest, ASelectionOfBeforeIsNotRestoredInATextThatAProgramWrote)
+{
+    box.SetText(u"abcd");
+    box.SetSelLength(2);
+    Compose(QStringLiteral("´"));
+    box.SetText(u"efgh");
+    Compose({});
+    EXPECT_EQ(box.SelLength(), 0);
+    box.SetSelLength(2);
+    Compose(QStringLiteral("´"));
+    box.SetSelText(u"");
+    box.SetSelStart(0);
+    Compose({});
+    EXPECT_EQ(box.SelLength(), 0);
+}
+
+TEST_P(QtEditBoxTest, ASelectionOfBeforeIsNotRestoredInAFieldThatWasLeft)
+{
+    QLineEdit other(&form);
+    other.show();
+    box.SetText(u"abcd");
+    box.SetSelLength(2);
+    Compose(QStringLiteral("´"));
+    other.setFocus();
+    Field().setFocus();
+    box.SetSelStart(0);
+    Compose({});
+    EXPECT_EQ(box.SelLength(), 0);
 }
 
 TEST_P(QtEditBoxTest, MoreThanTheGreatestLengthCannotBeTypedOrPasted)

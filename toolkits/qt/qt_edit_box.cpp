@@ -192,6 +192,7 @@ std::u16string QtEditBox::Text() const
 void QtEditBox::SetText(std::u16string_view text)
 {
     Field();
+    keys_.ForgetComposition();
     Silently([&] { field_->SetText(text); });
 }
 
@@ -226,6 +227,7 @@ std::u16string QtEditBox::SelText() const
 void QtEditBox::SetSelText(std::u16string_view text)
 {
     Field();
+    keys_.ForgetComposition();
     Silently([&] { field_->Insert(text); });
 }
 

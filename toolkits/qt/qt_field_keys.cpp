@@ -115,6 +115,9 @@ bool QtFieldKeys::Hears(QEvent& event)
     case QEvent::KeyRelease:
         Release(static_cast<QKeyEvent&>(event));
         return true;
+    case QEvent::FocusOut:
+        ForgetComposition();
+        return false;
     case QEvent::InputMethod:
         Compose(static_cast<QInputMethodEvent&>(event));
         return true;
@@ -198,8 +201,7 @@ void QtFieldKeys::Compose(QInputMethodEvent& event)
     if (!event.commitString().isEmpty()) {
         QInputMethodEvent end;
         ShowComposition(end);
-        Commit(event.commitString());
-        if (event.preeditString().isEmpty())
+        if (!Commit(event.commitString()) || event.preeditString().isEmpty())
             return;
     }
     QInputMethodEvent rest(event.preeditString(), event.attributes());
@@ -207,14 +209,14 @@ void QtFieldKeys::Compose(QInputMethodEvent& event)
 }
 
 // Each character is in the text before the next one is told. The keys themselves have not come here; one stands for all.
-void QtFieldKeys::Commit(const QString& text)
+bool QtFieldKeys::Commit(const QString& text)
 {
     const Turn turn(field_.KeyWidget());
     i16 code = ComposedKey;
     i16 shift = 0;
     field_.TellKeyDown(code, shift);
     if (code == 0 || turn.IsOver(field_))
-        return;
+        return !turn.IsOver(field_);
     for (qsizetype at = 0; at < text.size();) {
         const bool isPair = text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
         QString left;
@@ -222,7 +224,7 @@ void QtFieldKeys::Commit(const QString& text)
             i16 character = static_cast<i16>(text[at].unicode());
             field_.TellKeyPress(character, 0);
             if (turn.IsOver(field_))
-                return;
+                return false;
             if (character != 0)
                 left += QChar(static_cast<char16_t>(character));
         }
@@ -230,8 +232,9 @@ void QtFieldKeys::Commit(const QString& text)
             continue;
         CommitCharacters(left);
         if (turn.IsOver(field_))
-            return;
+            return false;
     }
+    return true;
 }
 
 void QtFieldKeys::CommitCharacters(const QString& characters)
@@ -253,6 +256,12 @@ void QtFieldKeys::ShowComposition(QInputMethodEvent& event)
     field_.ActOnComposition(event, ChangeOrigin::Foreign);
     if (ends)
         RestoreSelection();
+}
+
+void QtFieldKeys::ForgetComposition()
+{
+    isComposing_ = false;
+    keptLength_ = 0;
 }
 
 void QtFieldKeys::KeepSelection()

@@ -41,6 +41,8 @@ public:
 
     // True for what it has seen to; a key that nobody has a use for is ignored.
     bool Hears(QEvent& event);
+    // Where a program has written the text; what was selected before is nothing to come back to.
+    void ForgetComposition();
 
 private:
     // Whether what follows of a key is still for the field: it is not where a handler has hidden it or moved the focus.
@@ -54,7 +56,8 @@ private:
     bool Act(QKeyEvent& event);
     void Release(QKeyEvent& event);
     void Compose(QInputMethodEvent& event);
-    void Commit(const QString& text);
+    // Whether the field still has its turn.
+    bool Commit(const QString& text);
     void CommitCharacters(const QString& characters);
     void ShowComposition(QInputMethodEvent& event);
     // The selection stays until what takes its place is known.

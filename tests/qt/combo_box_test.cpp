@@ -292,6 +292,85 @@ TEST_F(QtComboBoxTest, AClickOnTheFieldOfAListAloneOpensIt)
     EXPECT_TRUE(IsListOpen());
 }
 
+TEST_F(QtComboBoxTest, AClickOnTheFieldOfAnOpenListAloneClosesIt)
+{
+    const QPoint place(30, 31);
+    box.SetListOnly(true);
+    QTest::mouseClick(form.windowHandle(), Qt::LeftButton, {}, place);
+    ASSERT_TRUE(IsListOpen());
+    QTest::mousePress(form.windowHandle(), Qt::LeftButton, {}, place);
+    Settle();
+    EXPECT_FALSE(IsListOpen());
+    QTest::mouseRelease(form.windowHandle(), Qt::LeftButton, {}, place);
+    Settle();
+    EXPECT_FALSE(IsListOpen());
+    QTest::qWait(QApplication::doubleClickInterval() + 20);
+    QTest::mouseClick(form.windowHandle(), Qt::LeftButton, {}, place);
+    EXPECT_TRUE(IsListOpen());
+}
+
+TEST_F(QtComboBoxTest, AReleaseWithoutAPressOnTheFieldOpensNothing)
+{
+    box.SetListOnly(true);
+    QTest::mousePress(form.windowHandle(), Qt::LeftButton, {}, QPoint(250, 150));
+    QTest::mouseRelease(&*Combo().lineEdit(), Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_FALSE(IsListOpen());
+}
+
+TEST_F(QtComboBoxTest, AToolThatWritesTheTextIsTold)
+{
+    box.SetListIndex(1);
+    Combo().lineEdit()->setText(QStringLiteral("other"));
+    EXPECT_EQ(box.ListIndex(), -1);
+    EXPECT_THAT(listener.Heard(), ElementsAre("TextChanged"));
+    // What is pasted next is seen against what the tool wrote.
+    QApplication::clipboard()->setText(QStringLiteral("one\ntwo"));
+    box.SetSelStart(5);
+    Type(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(box.Text(), u"otherone");
+    EXPECT_THAT(listener.Heard(), ElementsAre("KeyDown 86 2", "KeyPress 22 2", "TextChanged", "KeyUp 86 2"));
+}
+
+TEST_F(QtComboBoxTest, AToolThatWritesTheTextOfARowIsToldTooAndChoosesNone)
+{
+    box.SetListIndex(1);
+    box.DropDown(true);
+    box.DropDown(false);
+    box.SetText(u"other");
+    Combo().lineEdit()->setText(QStringLiteral("banana"));
+    Settle();
+    EXPECT_THAT(listener.Heard(), ElementsAre("TextChanged"));
+    EXPECT_EQ(box.ListIndex(), -1);
+}
+
+TEST_F(QtComboBoxTest, ARowThatAProgramChoosesAfterAToolStaysChosen)
+{
+    box.SetListIndex(1);
+    box.DropDown(true);
+    box.DropDown(false);
+    box.SetText(u"other");
+    Combo().lineEdit()->setText(QStringLiteral("banana"));
+    EXPECT_EQ(box.ListIndex(), -1);
+    box.SetListIndex(2);
+    Settle();
+    EXPECT_EQ(box.ListIndex(), 2);
+    EXPECT_THAT(listener.Heard(), IsEmpty());
+}
+
+TEST_F(QtComboBoxTest, TheRowThatTheListWasOpenedWithIsChosenAgainWithoutAChange)
+{
+    box.SetListIndex(1);
+    box.DropDown(true);
+    box.SetListIndex(2);
+    Combo().view()->setCurrentIndex(Combo().model()->index(1, 0));
+    QTest::keyClick(Combo().view(), Qt::Key_Return);
+    Settle();
+    EXPECT_EQ(box.Text(), u"banana");
+    EXPECT_EQ(box.ListIndex(), 1);
+    EXPECT_THAT(listener.Heard(),
+        testing::AllOf(testing::Contains("Click").Times(1), testing::Not(testing::Contains("TextChanged"))));
+}
+
 TEST_F(QtComboBoxTest, TheSelectionIsThatOfTheField)
 {
     box.SetText(u"abcd");

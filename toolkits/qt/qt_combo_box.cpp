@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace vornix {
 
@@ -78,6 +79,8 @@ public:
         : owner_(owner)
     {
     }
+    // The list goes next.
+    ~Combo() override { owner_.combo_ = nullptr; }
 
     using QComboBox::focusNextPrevChild;
 
@@ -182,8 +185,8 @@ void QtComboBox::MakeWindow()
     combo_->installEventFilter(watch_.get());
     line.installEventFilter(watch_.get());
     // Qt tells first that the user has done it, and then that it is done.
-    QObject::connect(&line, &QLineEdit::textEdited, combo_, [this] { HearEdit(); });
-    QObject::connect(&line, &QLineEdit::textChanged, combo_, [this](const QString& text) { former_ = text; });
+    QObject::connect(&line, &QLineEdit::textEdited, combo_, [this] { isEdited_ = true; });
+    QObject::connect(&line, &QLineEdit::textChanged, combo_, [this] { HearChange(); });
     QObject::connect(combo_, &QComboBox::activated, combo_, [this](int index) { HearActivation(index); });
     line.clear();
     ApplySettings();
@@ -213,6 +216,8 @@ void QtComboBox::SetText(std::u16string_view text)
 {
     const QScopedValueRollback<bool> silent(isSilent_, true);
     index_ = -1;
+    isActivationAwaited_ = false;
+    keys_.ForgetComposition();
     Line().setText(ToQString(text));
     Line().setCursorPosition(0);
 }
@@ -254,6 +259,7 @@ void QtComboBox::SetSelText(std::u16string_view text)
     index_ = -1;
     if (text.empty() && SelLength() == 0)
         return;
+    keys_.ForgetComposition();
     Line().insert(ToQString(text));
 }
 
@@ -284,6 +290,7 @@ void QtComboBox::PrepareList()
         auto* const list = qobject_cast<QListView*>(combo_->view());
         list->setUniformItemSizes(true);
         list->installEventFilter(watch_.get());
+        list->window()->installEventFilter(watch_.get());
         combo_->UseList(list);
     }
     const QString text = Line().text();
@@ -301,6 +308,8 @@ void QtComboBox::SetListIndex(int index)
     if (index < -1 || index >= model_.Count())
         return;
     const QScopedValueRollback<bool> silent(isSilent_, true);
+    isActivationAwaited_ = false;
+    keys_.ForgetComposition();
     Line().setText(model_.TextOf(index));
     Line().setCursorPosition(0);
     index_ = index;
@@ -366,6 +375,11 @@ bool QtComboBox::Hears(QObject& watched, QEvent& event)
         return false;
     if (&watched == combo_->List())
         return HearsInList(event);
+    if (combo_->List() && &watched == combo_->List()->window()) {
+        if (event.type() == QEvent::MouseButtonPress)
+            HearPressOutsideList(static_cast<QMouseEvent&>(event));
+        return false;
+    }
     const bool isOfLine = &watched == combo_->lineEdit();
     if (isOfLine && isListOnly_ && IsKeptByBox(event) && event.type() != QEvent::MouseMove)
         return HearsFieldOfList(static_cast<QMouseEvent&>(event));
@@ -378,13 +392,28 @@ bool QtComboBox::Hears(QObject& watched, QEvent& event)
     return keys_.Hears(event);
 }
 
-// The field of a list alone opens the list. A list that is open before the release would take it for its own.
+// The field of a list alone opens the list, or closes the open one. A list that is open before the release would take it
+// for its own.
 bool QtComboBox::HearsFieldOfList(const QMouseEvent& event)
 {
-    const bool isRelease = event.type() == QEvent::MouseButtonRelease && event.button() == Qt::LeftButton;
-    if (isRelease && Line().rect().contains(event.position().toPoint()))
+    if (event.button() != Qt::LeftButton)
+        return true;
+    if (event.type() != QEvent::MouseButtonRelease) {
+        opensList_ = closingPress_ != event.timestamp();
+        return true;
+    }
+    closingPress_.reset();
+    if (std::exchange(opensList_, false) && Line().rect().contains(event.position().toPoint()))
         combo_->showPopup();
     return true;
+}
+
+void QtComboBox::HearPressOutsideList(const QMouseEvent& event)
+{
+    opensList_ = false;
+    closingPress_.reset();
+    if (Line().rect().contains(Line().mapFromGlobal(event.globalPosition()).toPoint()))
+        closingPress_ = event.timestamp();
 }
 
 bool QtComboBox::HearsInList(QEvent& event)
@@ -398,14 +427,45 @@ bool QtComboBox::HearsInList(QEvent& event)
     }
 }
 
-void QtComboBox::HearEdit()
+// By the user, by an assistive tool, or by Qt when a row is chosen.
+void QtComboBox::HearChange()
 {
-    if (isSilent_)
-        return;
-    {
+    const bool isEdited = std::exchange(isEdited_, false);
+    if (!isSilent_ && !isEdited && IsTextOfQtsRow())
+        return AwaitActivation();
+    if (!isSilent_) {
         const QScopedValueRollback<bool> silent(isSilent_, true);
         KeepFirstLine(Line(), former_, 0);
     }
+    former_ = Line().text();
+    if (!isSilent_)
+        TellChange();
+}
+
+bool QtComboBox::IsTextOfQtsRow() const
+{
+    const int row = combo_->currentIndex();
+    return row >= 0 && Line().text() == combo_->itemText(row);
+}
+
+// Qt writes the text of a chosen row before it tells of the choice. A change that no choice follows is another's.
+void QtComboBox::AwaitActivation()
+{
+    former_ = Line().text();
+    index_ = -1;
+    isActivationAwaited_ = true;
+    QMetaObject::invokeMethod(
+        combo_,
+        [this] {
+            if (std::exchange(isActivationAwaited_, false))
+                TellChange();
+        },
+        Qt::QueuedConnection);
+}
+
+void QtComboBox::TellChange()
+{
+    isActivationAwaited_ = false;
     index_ = -1;
     Tell([](ComboBoxListener& listener) { listener.TextChanged(); });
 }

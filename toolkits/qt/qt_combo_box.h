@@ -10,6 +10,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 class QLineEdit;
 
@@ -63,11 +64,15 @@ private:
     bool Hears(QObject& watched, QEvent& event);
     bool HearsInList(QEvent& event);
     bool HearsFieldOfList(const QMouseEvent& event);
+    void HearPressOutsideList(const QMouseEvent& event);
     bool Walks(const QKeyEvent& event);
     bool WalksToEnd(const QKeyEvent& event);
     void Choose(int index);
     void ShowIndex();
-    void HearEdit();
+    void HearChange();
+    bool IsTextOfQtsRow() const;
+    void AwaitActivation();
+    void TellChange();
     void HearActivation(int index);
     template <typename Step> void Tell(const Step& step);
 
@@ -100,6 +105,13 @@ private:
     QPointer<Combo> combo_;
     QString former_;
     bool isSilent_ = false;
+    // Between Qt's two tellings of what was typed.
+    bool isEdited_ = false;
+    bool isActivationAwaited_ = false;
+    // The press on the field of a list alone came while the list was closed.
+    bool opensList_ = false;
+    // When a press on the field closed the list. Qt hands the same press to the field afterwards.
+    std::optional<quint64> closingPress_;
 };
 
 } // namespace vornix

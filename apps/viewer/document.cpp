@@ -37,14 +37,24 @@ std::vector<CellText> Document::Save()
     if (!IsChanged())
         return {};
     std::vector<CellText> others = source_.saver->Save(edits_);
+    try {
+        TakeOver(others);
+    } catch (...) {
+        edits_.Clear(); // saved they are
+        throw;
+    }
+    edits_.Clear();
+    return others;
+}
+
+void Document::TakeOver(const std::vector<CellText>& others)
+{
     for (const auto& [row, cells] : edits_.Rows()) {
         for (const auto& [column, text] : cells)
             source_.table->ReplaceText(row, column, text);
     }
     for (const CellText& cell : others)
         source_.table->ReplaceText(cell.row, cell.column, cell.text);
-    edits_.Clear();
-    return others;
 }
 
 } // namespace vornix::viewer

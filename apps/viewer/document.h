@@ -35,10 +35,13 @@ public:
     std::size_t ChangeCount() const { return edits_.Count(); }
 
     // Saves all changes; nothing happens without one. Gives the cells that the source has given another text than they
-    // had here. Raises SaveError; the changes are all still there then.
+    // had here. Raises SaveError; the changes are all still there then. After any other exception IsChanged() tells whether
+    // they were saved: if so, they only could not be taken over.
     std::vector<CellText> Save();
 
 private:
+    void TakeOver(const std::vector<CellText>& others);
+
     ChangeableSource source_;
     std::optional<std::string> whyReadOnly_; // as it was when the source was opened
     Edits edits_;

@@ -108,6 +108,15 @@ TEST_F(DocumentTest, LetsOnlyThoseCellsBeChangedThatCanBeSaved)
     EXPECT_FALSE(document.IsChanged());
 }
 
+TEST_F(DocumentTest, HasNoChangesLeftThatAreSavedButCannotBeTakenOver)
+{
+    saver->others = { { 99, 0, u"no such cell" } };
+    document.Change(0, 0, u"two");
+    EXPECT_THROW(document.Save(), std::out_of_range);
+    EXPECT_EQ(saver->saves, 1);
+    EXPECT_FALSE(document.IsChanged());
+}
+
 TEST_F(DocumentTest, WritesLineBreaksAsTheSourceDoesWhereTheCellHadNone)
 {
     saver->lineBreak = u"\n";

@@ -24,6 +24,22 @@ i16 InShort(int value)
     return static_cast<i16>(std::clamp(value, -32768, 32767));
 }
 
+// With the line ends that boxes count on.
+std::u16string WithLineEnds(std::u16string_view text)
+{
+    std::u16string lines;
+    for (std::size_t place = 0; place < text.size(); ++place) {
+        if (text[place] != u'\r' && text[place] != u'\n') {
+            lines += text[place];
+            continue;
+        }
+        lines += u"\r\n";
+        if (text[place] == u'\r' && text.substr(place + 1).starts_with(u'\n'))
+            ++place;
+    }
+    return lines;
+}
+
 bool IsArrow(int key)
 {
     return key >= Keys::Left && key <= Keys::Down;
@@ -49,13 +65,15 @@ const CellFormat& TextCellEditor::Format() const
     return context_.store.Format(row, col);
 }
 
-// The text, or what the column's format makes of it.
+// The text, or what the column's format makes of it. A mask has a place for each character, line ends among them.
 std::u16string TextCellEditor::ShownText() const
 {
     const auto [row, col] = edited_.Cell();
     std::u16string text = context_.store.CellAt(row, col).Text();
-    const std::u16string& pattern = context_.store.ColumnAt(col).Format;
-    return pattern.empty() ? text : FormatText(text, pattern, GetLocale());
+    const Column& column = context_.store.ColumnAt(col);
+    if (!column.Format.empty())
+        text = FormatText(text, column.Format, GetLocale());
+    return box_.MultiLine() && column.Mask.empty() ? WithLineEnds(text) : text;
 }
 
 bool TextCellEditor::Open()

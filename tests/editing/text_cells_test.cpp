@@ -476,6 +476,42 @@ TEST_F(TextCells, EnterInACellOfSeveralLines)
     EXPECT_TRUE(Grid().IsEditMode());
 }
 
+TEST_F(TextCells, LinesOfACellMayEndAsTheyDoElsewhere)
+{
+    Grid().SetText(0, 0, u"a\nb");
+    Edit(0, 0);
+    EXPECT_EQ(EditorText(), u"a\r\nb");
+    EXPECT_EQ(Cell(0, 0), u"a\nb") << "opening writes nothing";
+    Grid().SetSelStart(4);
+    Type(u"c");
+    EXPECT_EQ(Cell(0, 0), u"a\r\nbc");
+}
+
+TEST_F(TextCells, APressThatLeavesTheEditorOpenLeavesItTheFocus)
+{
+    Edit(0, 0);
+    const Point beside { Width + 1, Height + 10 };
+    desk->ClickAt(beside.x, beside.y, 0);
+    EXPECT_TRUE(Grid().IsEditMode());
+    EXPECT_EQ(desk->WhereFocusIs(), Focus::TextEditor);
+}
+
+TEST_F(TextCells, AKeyThatIsExchangedDoesWhatItWasPressedFor)
+{
+    Edit(0, 0);
+    Grid().SetSelStart(1);
+    handlers.OnKeyDown = [](i16& KeyCode, i16&) {
+        if (KeyCode == 46)
+            KeyCode = 39;
+    };
+    Press("Delete");
+    EXPECT_EQ(Cell(0, 0), u"t0");
+    handlers.OnKeyDown = nullptr;
+    handlers.OnKeyPress = [](i16& KeyAscii) { KeyAscii = u'X'; };
+    Type(u"a");
+    EXPECT_EQ(Cell(0, 0), u"tX0");
+}
+
 TEST_F(TextCells, EnterInACellOfOneLineDoesNothing)
 {
     Grid().SetTextAlignment(0, 0, vxSingleLine);

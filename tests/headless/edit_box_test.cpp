@@ -119,7 +119,7 @@ TEST_F(EditBoxTest, TheListenerMayHideTheBoxAndLeave)
         box.Listen(nullptr);
     };
     Down(DeleteKey);
-    EXPECT_EQ(box.Text(), u"b") << "the key was on its way";
+    EXPECT_EQ(box.Text(), u"ab") << "the key is for a box that shows";
     EXPECT_EQ(listener.Said(), Lines { "KeyDown 46 0" });
 }
 

@@ -11,10 +11,11 @@ void HeadlessComboBox::KeyDown(i16& code, i16& shift)
 {
     if (!IsUsable())
         return;
+    const i16 key = code;
     const i16 held = shift;
     if (listener_)
         listener_->KeyDown(code, shift);
-    if (code != 0 && !DoInList(code, held) && text_.DoKey(code, held))
+    if (code != 0 && IsUsable() && !DoInList(key, held) && text_.DoKey(key, held))
         TellChange();
 }
 
@@ -24,7 +25,7 @@ void HeadlessComboBox::KeyPress(i16& character, i16 shift)
         return;
     if (listener_)
         listener_->KeyPress(character, shift);
-    if (character != 0 && text_.DoCharacter(static_cast<char16_t>(character), shift))
+    if (character != 0 && IsUsable() && text_.DoCharacter(static_cast<char16_t>(character), shift))
         TellChange();
 }
 
@@ -93,7 +94,7 @@ void HeadlessComboBox::MouseDown(i16 /*button*/, i16 /*shift*/, float /*x*/, flo
 
 void HeadlessComboBox::MouseMove(i16 button, i16 shift, float x, float y)
 {
-    if (listener_)
+    if (listener_ && IsUsable())
         listener_->MouseMove(button, shift, x, y);
 }
 

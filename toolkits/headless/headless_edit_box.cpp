@@ -25,11 +25,12 @@ void HeadlessEditBox::KeyDown(i16& code, i16& shift)
 {
     if (!IsUsable())
         return;
+    const i16 key = code;
     const i16 held = shift;
     if (listener_)
         listener_->KeyDown(code, shift);
-    if (code != 0)
-        TellChange(text_.DoKey(code, held));
+    if (code != 0 && IsUsable())
+        TellChange(text_.DoKey(key, held));
 }
 
 void HeadlessEditBox::KeyPress(i16& character, i16 shift)
@@ -38,7 +39,7 @@ void HeadlessEditBox::KeyPress(i16& character, i16 shift)
         return;
     if (listener_)
         listener_->KeyPress(character, shift);
-    if (character != 0)
+    if (character != 0 && IsUsable())
         TellChange(text_.DoCharacter(static_cast<char16_t>(character), shift));
 }
 
@@ -56,10 +57,11 @@ void HeadlessEditBox::TellChange(std::optional<ChangeOrigin> origin)
 
 void HeadlessEditBox::MouseDown(i16 button, i16 shift, float x, float y)
 {
-    SetFocus();
+    if (!SetFocus())
+        return;
     if (listener_)
         listener_->MouseDown(button, shift, x, y);
-    if (button != LeftButton)
+    if (button != LeftButton || !IsUsable())
         return;
     isSelecting_ = true;
     text_.MoveCaret(PlaceAt(x, y), shift & ShiftDown);
@@ -67,9 +69,9 @@ void HeadlessEditBox::MouseDown(i16 button, i16 shift, float x, float y)
 
 void HeadlessEditBox::MouseMove(i16 button, i16 shift, float x, float y)
 {
-    if (listener_)
+    if (listener_ && IsUsable())
         listener_->MouseMove(button, shift, x, y);
-    if (isSelecting_ && (button & LeftButton))
+    if (IsUsable() && isSelecting_ && (button & LeftButton))
         text_.MoveCaret(PlaceAt(x, y), true);
 }
 
@@ -77,21 +79,22 @@ void HeadlessEditBox::MouseUp(i16 button, i16 shift, float x, float y)
 {
     if (button == LeftButton)
         isSelecting_ = false;
-    if (listener_)
+    if (listener_ && IsUsable())
         listener_->MouseUp(button, shift, x, y);
 }
 
 void HeadlessEditBox::Click()
 {
-    if (listener_)
+    if (listener_ && IsUsable())
         listener_->Click();
 }
 
 void HeadlessEditBox::DblClick()
 {
-    if (listener_)
+    if (listener_ && IsUsable())
         listener_->DblClick();
-    text_.SelectWordAt(text_.Caret());
+    if (IsUsable())
+        text_.SelectWordAt(text_.Caret());
 }
 
 void HeadlessEditBox::Paste(std::u16string_view text)

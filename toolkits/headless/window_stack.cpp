@@ -130,9 +130,13 @@ void WindowStack::GiveFocus(HeadlessChild* child)
         host_.Grid().EnterFocus();
 }
 
+// From one of its editors it comes by the corner between the bars, which hands it on to an editor that stays open.
 void WindowStack::FocusControl()
 {
+    const bool isFromChild = hasFocus_ && focusedChild_;
     GiveFocus(nullptr);
+    if (isFromChild && !host_.Grid().IsTerminated())
+        host_.Grid().EnterChildFocus(ChildName::cPivot);
 }
 
 void WindowStack::EnterFocus()

@@ -19,7 +19,8 @@ public:
     virtual ~EditBox() = default;
 
     virtual std::u16string Text() const = 0;
-    // Puts the caret in front of the text and empties the selection.
+    // Puts the caret in front of the text and empties the selection. A box of several lines may show CR or LF alone as
+    // CR LF.
     virtual void SetText(std::u16string_view text) = 0;
     virtual int SelStart() const = 0;
     // Limited to the text; empties the selection.
@@ -42,7 +43,8 @@ class EditBoxListener {
 public:
     virtual ~EditBoxListener() = default;
 
-    // A key, and each character that it types, before the box acts on them: what is set to 0 is not for the box. Shift is
+    // A key, and each character that it types, before the box acts on them: what is set to 0 is not for the box. Another
+    // character takes the place of the one that was typed; another code than 0 changes nothing of what the key does. Shift is
     // the sum of the keys held: 1 Shift, 2 Ctrl, 4 Alt. A key that types nothing has no KeyPress; neither has one whose
     // code was set to 0. What an input method has composed comes as one KeyDown of the code 229, without a KeyUp, and as a
     // KeyPress for each UTF-16 unit.

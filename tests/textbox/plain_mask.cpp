@@ -341,6 +341,7 @@ bool PlainMask::EraseSelection()
 {
     if (length == 0)
         return false;
+    Complete();
     std::u16string kept;
     for (int place = 0; Offset(place) < text_.size(); ++place) {
         const bool isSelected = place >= start && place < start + length;

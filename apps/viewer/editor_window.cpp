@@ -154,19 +154,21 @@ bool EditorWindow::Save()
         for (const CellText& cell : document_.Save())
             ShowText(GridWidget().Grid(), document_, inputs_, cell);
         date_.Saved();
-        wasSaved_ = true;
     } catch (const std::bad_alloc&) {
-        TellFailure(tr("There is not enough memory."));
+        TellFailure(tr("there is not enough memory"));
     } catch (const std::exception& error) {
         TellFailure(QString::fromUtf8(error.what()));
     }
+    wasSaved_ = !document_.IsChanged();
     TellChanges();
-    return !document_.IsChanged();
+    return wasSaved_;
 }
 
 void EditorWindow::TellFailure(const QString& reason)
 {
-    const QString text = tr("%1 is not saved:\n%2.\n\nThe changes are still here.");
+    const QString text = document_.IsChanged()
+        ? tr("%1 is not saved:\n%2.\n\nThe changes are still here.")
+        : tr("%1 is saved, but cannot be shown as it is now:\n%2.\n\nOpen it again to see it.");
     Box(QMessageBox::Critical, text.arg(NameOf(document_.Saved()), reason), QMessageBox::Ok, this).exec();
 }
 

@@ -462,6 +462,32 @@ TEST(EditorWindow, KeepsANameThatLooksLikeTheMark)
     EXPECT_EQ(window.windowTitle(), QStringLiteral("a[*][*].csv[*] - Vornix"));
 }
 
+// Saves everything, and then tells of a cell that the table does not have.
+class ForgetfulSaver final : public Saver {
+public:
+    std::optional<std::string> WhyReadOnly() const override { return {}; }
+    bool CanChange(int, int) const override { return true; }
+    std::vector<CellText> Save(const Edits&) override { return { { 99, 0, u"" } }; }
+};
+
+TEST(EditorWindow, TellsOfChangesThatAreSavedButCannotBeShown)
+{
+    auto table = std::make_unique<Table>();
+    table->SetName(u"file.csv");
+    table->Columns() = { { u"a" } };
+    table->AppendRow(std::vector<Field> { { u"one" } });
+    table->SetTotalRows(1);
+    Document document(ChangeableSource { std::move(table), std::make_unique<ForgetfulSaver>() });
+    EditorWindow window(document);
+    window.show();
+    document.Change(0, 0, u"two");
+    BoxAnswer box(QMessageBox::Ok);
+    EXPECT_TRUE(window.Save());
+    EXPECT_EQ(box.Text(),
+        "file.csv is saved, but cannot be shown as it is now:\nno such cell in the table.\n\nOpen it again to see it.");
+    EXPECT_FALSE(window.isWindowModified());
+}
+
 } // namespace
 
 } // namespace vornix::viewer

@@ -309,6 +309,30 @@ TEST_F(QtComboBoxTest, AClickOnTheFieldOfAnOpenListAloneClosesIt)
     EXPECT_TRUE(IsListOpen());
 }
 
+// As Qt does it where windows have the pointer for themselves.
+TEST_F(QtComboBoxTest, APressThatClosedTheListAndComesAgainDoesNotOpenIt)
+{
+    box.SetListOnly(true);
+    box.DropDown(true);
+    QWidget& line = *Combo().lineEdit();
+    const auto send = [&](QWidget& widget, QEvent::Type type, quint64 time) {
+        const QPointF place = line.mapToGlobal(QPointF(5, 5));
+        const bool isPress = type == QEvent::MouseButtonPress;
+        QMouseEvent event(type, widget.mapFromGlobal(place), place, Qt::LeftButton,
+            isPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+        event.setTimestamp(time);
+        QApplication::sendEvent(&widget, &event);
+    };
+    send(*Combo().view()->window(), QEvent::MouseButtonPress, 1000);
+    EXPECT_FALSE(IsListOpen());
+    send(line, QEvent::MouseButtonPress, 1000);
+    send(line, QEvent::MouseButtonRelease, 1100);
+    EXPECT_FALSE(IsListOpen());
+    send(line, QEvent::MouseButtonPress, 2000);
+    send(line, QEvent::MouseButtonRelease, 2100);
+    EXPECT_TRUE(IsListOpen());
+}
+
 TEST_F(QtComboBoxTest, AReleaseWithoutAPressOnTheFieldOpensNothing)
 {
     box.SetListOnly(true);

@@ -43,6 +43,7 @@ struct Rect {
 
     int Width() const { return right - left; }
     int Height() const { return bottom - top; }
+    Size GetSize() const { return { Width(), Height() }; }
     bool IsEmpty() const { return right <= left || bottom <= top; }
     Rect Inflated(int dx, int dy) const { return { left - dx, top - dy, right + dx, bottom + dy }; }
     friend bool operator==(const Rect&, const Rect&) = default;

@@ -6,25 +6,23 @@ namespace vornix {
 
 namespace {
 
-// A disabled control leaves keys to no one.
-template <typename Step> void EnterKey(Control& control, i16& code, const Step& step)
+// Whether the step was taken: not in a control that is closed or disabled.
+template <typename Step> bool EnterIfHeard(Control& control, const Step& step)
 {
     if (control.IsClosed())
-        return;
+        return false;
     const ControlCall call(control);
-    if (control.HearsUser())
-        step();
-    else
-        code = 0;
+    if (!control.HearsUser())
+        return false;
+    step();
+    return true;
 }
 
-template <typename Step> void EnterIfHeard(Control& control, const Step& step)
+// A key that is not heard is for no one.
+template <typename Step> void EnterKey(Control& control, i16& code, const Step& step)
 {
-    if (control.IsClosed())
-        return;
-    const ControlCall call(control);
-    if (control.HearsUser())
-        step();
+    if (!EnterIfHeard(control, step))
+        code = 0;
 }
 
 EditBoxListener& TextOf(Control& control)

@@ -13,11 +13,6 @@ namespace vornix {
 
 namespace {
 
-NativeComboBox& Or(NativeComboBox* box, NativeComboBox& unseen)
-{
-    return box ? *box : unseen;
-}
-
 std::u16string DecimalText(i32 number)
 {
     const std::string digits = std::to_string(number);
@@ -36,7 +31,7 @@ ComboCellEditor::ComboCellEditor(EditedCell& edited, EditContext& context)
     , context_(context)
     , frame_(context.container.Child(ChildName::fraEdit))
     , window_(context.container.Child(ChildName::cboTmp))
-    , native_(Or(context.container.ComboEditor(), unseen_))
+    , native_(OrUnseen(context.container.ComboEditor(), unseen_))
 {
     native_.SetItems(&list_);
 }

@@ -122,7 +122,7 @@ void EditSession::OpenEditor(int row, int col)
     if (isDisposed_ || !context_.mover.IsReal(cell))
         return;
     context_.scrolling.EnsureCellVisible(row, col);
-    HideWindows();
+    HideEditor();
     context_.repainter.RefreshCellUnderGate(row, col);
     if (isDisposed_ || !context_.mover.IsReal(cell) || !HasEditorFor(ModeOf(cell)))
         return;
@@ -232,7 +232,7 @@ void EditSession::EnterEdit()
 }
 
 // The focus moves while they go, and whoever hears of it must find no editor any more.
-void EditSession::HideWindows()
+void EditSession::HideEditor()
 {
     isShown_ = false;
     text_.Hide();
@@ -241,15 +241,10 @@ void EditSession::HideWindows()
     context_.container.HideHostWindow(customWindow_);
 }
 
-void EditSession::HideEditor()
-{
-    HideWindows();
-}
-
 void EditSession::ForgetEditCell()
 {
     if (isShown_)
-        HideWindows();
+        HideEditor();
     cell_ = { NoIndex, NoIndex };
     ++session_;
 }
@@ -258,7 +253,7 @@ void EditSession::ExitEdit()
 {
     if (!context_.mover.HasCurrent())
         return;
-    HideWindows();
+    HideEditor();
     const std::uint32_t session = session_;
     RepaintCell();
     EndSession(session);
@@ -269,7 +264,7 @@ void EditSession::Close(bool repaint)
     if (!isShown_)
         return;
     const std::uint32_t session = session_;
-    HideWindows();
+    HideEditor();
     text_.SetEnabled(false);
     combo_.SetEnabled(false);
     if (repaint)
@@ -297,7 +292,7 @@ void EditSession::EndSession(std::uint32_t session)
 
 void EditSession::Reset()
 {
-    HideWindows();
+    HideEditor();
     ForgetEditCell();
 }
 

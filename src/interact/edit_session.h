@@ -99,7 +99,6 @@ private:
     void ShowCustom();
     void ShowCustomFrame();
     void PlaceAnew(bool withText);
-    void HideWindows();
     void Close(bool repaint);
     void EndSession(std::uint32_t session);
     void RepaintCell();

@@ -14,30 +14,9 @@ namespace {
 // Pixels that a box which grows leaves free at the far edges of the area.
 constexpr int FreeEdge = 20;
 
-NativeEditBox& Or(NativeEditBox* box, NativeEditBox& unseen)
-{
-    return box ? *box : unseen;
-}
-
 i16 InShort(int value)
 {
     return static_cast<i16>(std::clamp(value, -32768, 32767));
-}
-
-// With the line ends that boxes count on.
-std::u16string WithLineEnds(std::u16string_view text)
-{
-    std::u16string lines;
-    for (std::size_t place = 0; place < text.size(); ++place) {
-        if (text[place] != u'\r' && text[place] != u'\n') {
-            lines += text[place];
-            continue;
-        }
-        lines += u"\r\n";
-        if (text[place] == u'\r' && text.substr(place + 1).starts_with(u'\n'))
-            ++place;
-    }
-    return lines;
 }
 
 bool IsArrow(int key)
@@ -52,7 +31,7 @@ TextCellEditor::TextCellEditor(EditedCell& edited, EditContext& context)
     , context_(context)
     , frame_(context.container.Child(ChildName::fraEdit))
     , window_(context.container.Child(ChildName::txtTmp))
-    , native_(Or(context.container.TextEditor(), unseen_))
+    , native_(OrUnseen(context.container.TextEditor(), unseen_))
     , box_(window_, native_, *this, *this)
 {
 }
@@ -119,8 +98,7 @@ void TextCellEditor::PlaceBox()
     const EditPlace& place = edited_.Place();
     if (place.TextWidth() > 0) {
         const Rect target = place.TextFrame();
-        const Size size = box_.AutoResize() ? Size { frame_.Place().Width(), frame_.Place().Height() }
-                                            : Size { target.Width(), target.Height() };
+        const Size size = box_.AutoResize() ? frame_.Place().GetSize() : target.GetSize();
         frame_.Move({ target.left, target.top, target.left + size.width, target.top + size.height });
         window_.Move({ 0, 0, size.width, size.height });
         if (box_.AutoResize())

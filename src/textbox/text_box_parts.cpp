@@ -11,15 +11,6 @@
 
 namespace vornix {
 
-namespace {
-
-Size SizeOf(const Rect& rect)
-{
-    return { rect.Width(), rect.Height() };
-}
-
-} // namespace
-
 // What the engine has to say, to the host or to the box.
 class TextBox::Parts::EngineOwner final : public MaskEngineOwner {
 public:
@@ -176,7 +167,7 @@ void TextBox::Parts::SizeToText()
     } else {
         SetBorderStyle(1);
         TakeSize({ extent.width + BoxMargin, extent.height + BoxMargin });
-        grownSize_ = SizeOf(window.Place());
+        grownSize_ = window.Place().GetSize();
     }
     events_.Resize();
 }
@@ -184,7 +175,7 @@ void TextBox::Parts::SizeToText()
 // A text that was written took the border off; the size that the text before it had asked for is still there.
 bool TextBox::Parts::IsFlat() const
 {
-    return settings.BorderStyle == 0 && grownSize_ != SizeOf(window.Place());
+    return settings.BorderStyle == 0 && grownSize_ != window.Place().GetSize();
 }
 
 void TextBox::Parts::TakeSize(Size size)

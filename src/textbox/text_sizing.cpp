@@ -7,22 +7,17 @@ namespace vornix {
 
 namespace {
 
-Size SizeOf(const Rect& rect)
-{
-    return { rect.Width(), rect.Height() };
-}
-
 Size Unbroken(Device& device, std::u16string_view text)
 {
     Rect rect;
     device.DrawText(text, rect, DT_CALCRECT);
-    return SizeOf(rect);
+    return rect.GetSize();
 }
 
 Size BrokenWithin(Device& device, std::u16string_view text, Rect rect)
 {
     device.DrawText(text, rect, DT_CALCRECT | DT_WORDBREAK);
-    return SizeOf(rect);
+    return rect.GetSize();
 }
 
 } // namespace

@@ -83,4 +83,10 @@ private:
     int index_ = -1;
 };
 
+// The toolkit's box where it has one.
+template <typename Port, typename Unseen> Port& OrUnseen(Port* box, Unseen& unseen)
+{
+    return box ? *box : unseen;
+}
+
 } // namespace vornix

@@ -1,26 +1,16 @@
 // Handlers that do anything at all while a cell is edited: at every event of a session in any kind of editor. Whatever
 // comes out is a grid that still holds together, or an automation error.
-#include "live_deeds.h"
-
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <string>
+#include "support/handler_deeds.h"
 
 namespace vornix {
 namespace {
 
-class EditingHandlers : public testing::Test {
+class EditingHandlers : public HandlerDeeds {
 protected:
-    void MakeGrid()
+    EditingHandlers() { size = { 300, 140 }; }
+
+    void FillGrid() override
     {
-        events.Then = [](std::string_view) {};
-        host = nullptr;
-        HeadlessOptions options;
-        options.width = 300;
-        options.height = 140;
-        options.events = &events;
-        host = std::make_unique<HeadlessContainer>(options);
         Vornix& grid = Grid();
         grid.SetRedraw(false);
         grid.SetFixedRows(1);
@@ -46,10 +36,9 @@ protected:
         grid.SetRedraw(true);
     }
 
-    // Each step alone: an error ends that step only.
-    void LiveThroughIt()
+    Steps AllSteps() override
     {
-        const std::vector<std::function<void()>> steps {
+        return {
             [&] { host->ClickAt(50, 50); },
             [&] { host->Type(u"ab"); },
             [&] { host->Press("Down"); },
@@ -83,16 +72,10 @@ protected:
             [&] { host->Press("F2"); },
             [&] { host->Paint(); },
         };
-        for (const auto& step : steps) {
-            if (!Grid().IsTerminated())
-                Try(step);
-            if (!Grid().IsTerminated())
-                CheckWhole();
-        }
     }
 
     // What holds whatever was done.
-    void CheckWhole()
+    void CheckWhole() override
     {
         Vornix& grid = Grid();
         EXPECT_FALSE(grid.IsInCall());
@@ -108,11 +91,6 @@ protected:
         else if (grid.Redraw())
             Try([&] { grid.Refresh(); });
     }
-
-    Vornix& Grid() { return host->Grid(); }
-
-    EveryEvent events;
-    std::unique_ptr<HeadlessContainer> host;
 };
 
 // Without deeds all of them are raised at least once.
@@ -125,35 +103,16 @@ TEST_F(EditingHandlers, AreReachedByAllEventsOfASession)
         EXPECT_GT(host->Count(event), 0) << event;
 }
 
-class EditingHandlersOf : public EditingHandlers, public testing::WithParamInterface<const char*> {
-protected:
-    void TryAll(const std::vector<Deed>& deeds)
-    {
-        const std::string_view event = GetParam();
-        for (const int time : { 1, 2, 4 }) {
-            for (const Deed& deed : deeds) {
-                SCOPED_TRACE(std::string(deed.name) + " at time " + std::to_string(time));
-                MakeGrid();
-                int times = 0;
-                events.Then = [&](std::string_view name) {
-                    if (name == event && ++times == time)
-                        deed.act(*host);
-                };
-                LiveThroughIt();
-                EXPECT_GE(times, 1);
-            }
-        }
-    }
-};
+class EditingHandlersOf : public EditingHandlers, public testing::WithParamInterface<const char*> { };
 
 TEST_P(EditingHandlersOf, MayDoAnythingToTheGrid)
 {
-    TryAll(Deeds());
+    TryAll(Deeds(), GetParam(), { 1, 2, 4 });
 }
 
 TEST_P(EditingHandlersOf, MayDoAnythingToTheEditors)
 {
-    TryAll(EditingDeeds());
+    TryAll(EditingDeeds(), GetParam(), { 1, 2, 4 });
 }
 
 INSTANTIATE_TEST_SUITE_P(Session, EditingHandlersOf,

@@ -1,27 +1,15 @@
 // Handlers that do anything at all, at every event that a person's input raises: mouse, bars, wheel, keys, sizing and
 // split. Whatever comes out is a grid that still holds together, or an automation error.
-#include "live_deeds.h"
-
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <string>
+#include "support/handler_deeds.h"
 
 namespace vornix {
 namespace {
 
 // A deed at the first time that an event is raised, over all that a person can do.
-class LiveHandlers : public testing::Test {
+class LiveHandlers : public HandlerDeeds {
 protected:
-    void MakeGrid()
+    void FillGrid() override
     {
-        events.Then = [](std::string_view) {};
-        host = nullptr;
-        HeadlessOptions options;
-        options.width = 240;
-        options.height = 140;
-        options.events = &events;
-        host = std::make_unique<HeadlessContainer>(options);
         Vornix& grid = host->Grid();
         grid.SetRedraw(false);
         grid.SetFixedRows(1);
@@ -42,10 +30,9 @@ protected:
         grid.CurrentPos(3, 0);
     }
 
-    // Each step alone: an error ends that step only.
-    void LiveThroughIt()
+    Steps AllSteps() override
     {
-        const std::vector<std::function<void()>> steps {
+        return {
             [&] { host->ClickAt(50, 50); },
             [&] { host->DblClickAt(90, 70); },
             [&] { host->ClickAt(130, 50); },
@@ -86,12 +73,6 @@ protected:
             [&] { host->Tick(); },
             [&] { host->Paint(); },
         };
-        for (const auto& step : steps) {
-            if (!Grid().IsTerminated())
-                Try(step);
-            if (!Grid().IsTerminated())
-                CheckWhole();
-        }
     }
 
     void DragSplit()
@@ -122,7 +103,7 @@ protected:
     }
 
     // What holds whatever was done.
-    void CheckWhole()
+    void CheckWhole() override
     {
         Vornix& grid = Grid();
         EXPECT_FALSE(grid.IsInCall());
@@ -141,11 +122,6 @@ protected:
         if (grid.Redraw())
             Try([&] { grid.Refresh(); });
     }
-
-    Vornix& Grid() { return host->Grid(); }
-
-    EveryEvent events;
-    std::unique_ptr<HeadlessContainer> host;
 };
 
 // Without deeds all of them are raised at least once.
@@ -163,20 +139,7 @@ class LiveHandlersOf : public LiveHandlers, public testing::WithParamInterface<c
 
 TEST_P(LiveHandlersOf, MayDoAnything)
 {
-    const std::string_view event = GetParam();
-    for (const int time : { 1, 3 }) {
-        for (const Deed& deed : Deeds()) {
-            SCOPED_TRACE(deed.name);
-            MakeGrid();
-            int times = 0;
-            events.Then = [&](std::string_view name) {
-                if (name == event && ++times == time)
-                    deed.act(*host);
-            };
-            LiveThroughIt();
-            EXPECT_GE(times, 1);
-        }
-    }
+    TryAll(Deeds(), GetParam(), { 1, 3 });
 }
 
 INSTANTIATE_TEST_SUITE_P(Input, LiveHandlersOf,

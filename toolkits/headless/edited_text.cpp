@@ -41,23 +41,6 @@ bool ArePair(char16_t first, char16_t second)
     return (first == u'\r' && second == u'\n') || (IsFirstOfTwo(first) && IsSecondOfTwo(second));
 }
 
-std::u16string WithLineBreaks(std::u16string_view text)
-{
-    std::u16string lines;
-    lines.reserve(text.size());
-    for (std::size_t place = 0; place < text.size(); ++place) {
-        const char16_t unit = text[place];
-        if (unit != u'\r' && unit != u'\n') {
-            lines += unit;
-            continue;
-        }
-        lines += LineBreak;
-        if (unit == u'\r' && text.substr(place + 1).starts_with(u'\n'))
-            ++place;
-    }
-    return lines;
-}
-
 bool HoldsCtrlAlone(i16 shift)
 {
     return (shift & (CtrlDown | AltDown)) == CtrlDown;
@@ -295,7 +278,7 @@ bool EditedText::Insert(std::u16string_view text)
 bool EditedText::Paste(std::u16string_view text)
 {
     std::u16string lines
-        = isMultiLine_ ? WithLineBreaks(text) : std::u16string(text.substr(0, text.find_first_of(LineBreak)));
+        = isMultiLine_ ? WithLineEnds(text) : std::u16string(text.substr(0, text.find_first_of(LineBreak)));
     const std::size_t room = Offset(Room());
     if (lines.size() > room) {
         const bool cutsPair = room > 0 && ArePair(lines[room - 1], lines[room]);

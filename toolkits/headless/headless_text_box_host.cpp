@@ -65,17 +65,16 @@ void HeadlessTextBoxHost::Type(std::u16string_view text)
 
 void HeadlessTextBoxHost::Press(std::string_view key, i16 shift)
 {
-    CheckShift(shift);
-    const KeyChord chord = ChordOfKey(key);
-    Press(chord.code, static_cast<i16>(shift | chord.shift));
+    const KeyStroke stroke = CheckedStroke(key, shift);
+    TakeFocus();
+    Strike(stroke);
 }
 
 void HeadlessTextBoxHost::Press(i16 code, i16 shift)
 {
-    CheckKey(code);
-    CheckShift(shift);
+    const KeyStroke stroke = CheckedStroke(code, shift);
     TakeFocus();
-    Strike(StrokeOf(code, shift));
+    Strike(stroke);
 }
 
 void HeadlessTextBoxHost::Strike(const KeyStroke& stroke)

@@ -205,17 +205,16 @@ void Person::Type(std::u16string_view text)
 
 void Person::Press(std::string_view key, i16 shift)
 {
-    CheckShift(shift);
-    const KeyChord chord = ChordOfKey(key);
-    Press(chord.code, static_cast<i16>(shift | chord.shift));
+    const KeyStroke stroke = CheckedStroke(key, shift);
+    RequireFocus();
+    Strike(stroke);
 }
 
 void Person::Press(i16 code, i16 shift)
 {
-    CheckKey(code);
-    CheckShift(shift);
+    const KeyStroke stroke = CheckedStroke(code, shift);
     RequireFocus();
-    Strike(StrokeOf(code, shift));
+    Strike(stroke);
 }
 
 void Person::Strike(const KeyStroke& stroke)

@@ -288,4 +288,18 @@ i16 ShiftFlagOf(i16 code)
     }
 }
 
+KeyStroke CheckedStroke(i16 code, i16 shift)
+{
+    CheckKey(code);
+    CheckShift(shift);
+    return StrokeOf(code, shift);
+}
+
+KeyStroke CheckedStroke(std::string_view key, i16 shift)
+{
+    CheckShift(shift);
+    const KeyChord chord = ChordOfKey(key);
+    return CheckedStroke(chord.code, static_cast<i16>(shift | chord.shift));
+}
+
 } // namespace vornix

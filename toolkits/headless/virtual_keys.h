@@ -65,6 +65,10 @@ struct KeyChord {
 // are, for any other.
 KeyChord ChordOfKey(std::string_view name);
 
+// As a person strikes a key while others are held. Error 5 for a key and for a sum of keys held that there is not.
+KeyStroke CheckedStroke(i16 code, i16 shift);
+KeyStroke CheckedStroke(std::string_view key, i16 shift);
+
 // The code alone.
 i16 CodeOfKey(std::string_view name);
 

@@ -1,15 +1,16 @@
 """What the controls that come with the grid share: each lives in a container of its own."""
 
 import ctypes
-from typing import Any, Dict, List, Sequence, Tuple
+from typing import Any, Dict, List, Sequence, Tuple, TypeVar
 
 from . import _library
 from ._checks import to_name
+from ._identity import Unique
 from ._library import Value, library
 from ._session import Connection, callback_address
 from ._values import peek, put, take
 
-__all__ = ["CompanionSession"]
+__all__ = ["Companion", "CompanionSession"]
 
 
 class CompanionSession(Connection):
@@ -75,3 +76,24 @@ class CompanionSession(Connection):
         self._handlers.clear()
         if self.function("destroy")(self._pointer) == 0:
             self._end.detach()
+
+
+_C = TypeVar("_C", bound="Companion")
+
+
+class Companion(Unique):
+    """One of the controls as its host holds it."""
+
+    __slots__ = ()
+
+    _session: CompanionSession
+
+    def close(self) -> None:
+        """Ends the control: all of it raises error 5 from then on. A second time does nothing."""
+        self._session.end()
+
+    def __enter__(self: _C) -> _C:
+        return self
+
+    def __exit__(self, *exception: object) -> None:
+        self.close()

@@ -1,12 +1,12 @@
 """The scroll bar that comes with the grid, in a container without a screen of its own."""
 
 import ctypes
-from typing import Any, Callable, Dict, List, Mapping, Optional, Tuple, TypeVar, Union
+from typing import Any, Callable, Dict, List, Mapping, Optional, Tuple, Union
 
 from . import _library
 from ._bag import make_bag
 from ._checks import character_code, to_i16, to_i32, to_text
-from ._companion import CompanionSession
+from ._companion import Companion, CompanionSession
 from ._errors import INVALID_ARGUMENT, AutomationError
 from ._event import Event
 from ._identity import Unique
@@ -70,10 +70,7 @@ class _BarSession(CompanionSession):
     _prefix = "vornix_scroll_bar_"
 
 
-_B = TypeVar("_B", bound="ScrollBar")
-
-
-class ScrollBar(Unique):
+class ScrollBar(Companion):
     """A scroll bar in a container without a screen, which is its `host`.
 
     orientation: 1 for a standing bar, 0 for a lying one; a saved one has its own.
@@ -85,6 +82,8 @@ class ScrollBar(Unique):
     """
 
     __slots__ = ("_session", "__weakref__")
+
+    _session: _BarSession
 
     def __init__(
         self, orientation: int = 0, length: int = 100, *, bag: Optional[Mapping[str, Any]] = None
@@ -107,16 +106,6 @@ class ScrollBar(Unique):
     def host(self) -> "BarHost":
         """The container: what a form and a person do to the bar, and what it says."""
         return BarHost(self._session)
-
-    def close(self) -> None:
-        """Ends the bar: all of it raises error 5 from then on. A second time does nothing."""
-        self._session.end()
-
-    def __enter__(self: _B) -> _B:
-        return self
-
-    def __exit__(self, *exception: object) -> None:
-        self.close()
 
     # -- Members --
 

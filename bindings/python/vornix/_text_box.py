@@ -1,12 +1,12 @@
 """The text box that comes with the grid, in a container without a screen of its own."""
 
 import ctypes
-from typing import Any, Dict, List, Mapping, Optional, Sequence, Tuple, TypeVar, Union
+from typing import Any, Dict, List, Mapping, Optional, Sequence, Tuple, Union
 
 from . import _library
 from ._bag import make_bag
 from ._checks import character_code, to_i16, to_i32, to_name, to_text
-from ._companion import CompanionSession
+from ._companion import Companion, CompanionSession
 from ._errors import INVALID_ARGUMENT, AutomationError
 from ._identity import Unique
 from ._library import GET, make_text
@@ -39,10 +39,7 @@ class _BoxSession(CompanionSession):
         return saved
 
 
-_T = TypeVar("_T", bound="TextBox")
-
-
-class TextBox(TextBoxMembers, TextBoxEvents, Unique):
+class TextBox(TextBoxMembers, TextBoxEvents, Companion):
     """A text box with an input mask in a container without a screen, which is its `host`.
 
     width, height: in pixels.
@@ -77,16 +74,6 @@ class TextBox(TextBoxMembers, TextBoxEvents, Unique):
     def host(self) -> "BoxHost":
         """The container: what a form and a person do to the box, and what it says."""
         return BoxHost(self._session)
-
-    def close(self) -> None:
-        """Ends the box: all of it raises error 5 from then on. A second time does nothing."""
-        self._session.end()
-
-    def __enter__(self: _T) -> _T:
-        return self
-
-    def __exit__(self, *exception: object) -> None:
-        self.close()
 
     def __repr__(self) -> str:
         session = self._session

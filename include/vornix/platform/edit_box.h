@@ -13,6 +13,9 @@
 
 namespace vornix {
 
+// A text as boxes of several lines count it: each line end, whichever it is, as CR LF.
+std::u16string WithLineEnds(std::u16string_view text);
+
 // The text and its caret.
 class EditBox {
 public:

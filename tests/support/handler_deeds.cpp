@@ -1,4 +1,4 @@
-#include "live_deeds.h"
+#include "support/handler_deeds.h"
 
 namespace vornix {
 
@@ -154,6 +154,45 @@ void Try(const std::function<void()>& step)
     try {
         step();
     } catch (const AutomationError&) {
+    }
+}
+
+void HandlerDeeds::MakeGrid()
+{
+    events.Then = [](std::string_view) {};
+    host = nullptr;
+    HeadlessOptions options;
+    options.width = size.width;
+    options.height = size.height;
+    options.events = &events;
+    host = std::make_unique<HeadlessContainer>(options);
+    FillGrid();
+}
+
+void HandlerDeeds::LiveThroughIt()
+{
+    for (const auto& step : AllSteps()) {
+        if (!Grid().IsTerminated())
+            Try(step);
+        if (!Grid().IsTerminated())
+            CheckWhole();
+    }
+}
+
+void HandlerDeeds::TryAll(const std::vector<Deed>& deeds, std::string_view event, std::initializer_list<int> times)
+{
+    for (const int time : times) {
+        for (const Deed& deed : deeds) {
+            SCOPED_TRACE(std::string(deed.name) + " at time " + std::to_string(time));
+            MakeGrid();
+            int raised = 0;
+            events.Then = [&](std::string_view name) {
+                if (name == event && ++raised == time)
+                    deed.act(*host);
+            };
+            LiveThroughIt();
+            EXPECT_GE(raised, 1);
+        }
     }
 }
 

@@ -44,7 +44,7 @@ class TestAgreement(unittest.TestCase):
     def test_there_are_no_others(self) -> None:
         names = {member.name for member in CONTROL.members}
         own = {"host", "close", "on", "off"}
-        public = {name for name in vars(vornix.ScrollBar) if not name.startswith("_")}
+        public = {name for name in dir(vornix.ScrollBar) if not name.startswith("_")}
         self.assertEqual(public, names | own)
 
     def test_events_are_those_of_the_interface(self) -> None:

@@ -548,6 +548,25 @@ public:
     float GetScaleWidth() const;
     float GetScaleHeight() const;
 
+    // -- Fitting to the text --
+    // Sizes in pixels that follow from what the cells hold, in their fonts and formats. No row grows beyond the area that
+    // shows it, and no column but with smooth scrolling; the host has the last word in ResizeRow or ResizeCol. A hidden
+    // line takes the size for the time it is shown, a size below 0 counts as 0. Error 6 for a size beyond 16 bits, error
+    // 9 for a line that is not there. Lay out anew.
+
+    // The size that the text of one cell needs, with its padding, at the column's present width and the row's height.
+    // Words break only where the cell breaks them. Changes nothing.
+    void CalcRectText(i16 Row, i16 Col, i32& Width, i32& Height) const;
+    // The height for the cells of a row, or for the one in column `Col`. With `AlsoWidth` a column that is too narrow
+    // for a word is widened on the way, without an event. Raises ResizeRow.
+    void AdjustHeight(i16 Row, i16 Col = NoIndex, bool AlsoWidth = false);
+    // The width for the cells of a column, or for the one in row `Row`. The title is not measured: alone it changes
+    // nothing. Raises ResizeCol.
+    void AdjustWidth(i16 Col, i16 Row = NoIndex);
+    // The height of `Lines` lines in the control's Font, to all rows that are not fixed and to those that come later.
+    // Nothing for less than one line.
+    void AutoSizeRows(i16 Lines);
+
     // -- Scrolling --
 
     // First scrolling line. Negative values are ignored; large ones go as far as the bar does, and without a bar the

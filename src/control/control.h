@@ -16,6 +16,7 @@
 #include "interact/mouse.h"
 #include "interact/scrolling.h"
 #include "interact/split_drag.h"
+#include "layout/auto_size.h"
 #include "layout/layout_engine.h"
 #include "layout/scroll_model.h"
 #include "model/grid_store.h"
@@ -55,6 +56,7 @@ public:
     LayoutEngine layout;
     HiddenLines hidden;
     Spans spans;
+    AutoSize fitting;
     VisualCellStore visualCells;
     CurrentCell current;
     GridSelection selection;

@@ -167,29 +167,17 @@ void LineSizing::SizeRowTo(float y)
     PaintAtOnce();
 }
 
-// No column is wider than the area that scrolls, but for scrolling by pixels. A frozen one may take all of that
-// area.
 i16 LineSizing::WidthAt(float x, int col) const
 {
-    const LayoutEngine& layout = context_.layout;
     int width = WayFrom(originX_, x);
     if (col == context_.scroll.FirstCol())
-        width -= layout.SmoothOffset();
-    const int scrollingArea = layout.ScaleSize().width - layout.VBarWidth() - layout.FrozenColsWidth();
-    if (col < layout.FirstScrollCol())
-        width = std::min(width, scrollingArea + context_.store.WidthOf(col));
-    else if (layout.Settings.ScrollHBar != vxScrollSmooth)
-        width = std::min(width, scrollingArea);
-    return ToI16(std::max(width, 0));
+        width -= context_.layout.SmoothOffset();
+    return ToI16(std::max(std::min(width, context_.layout.WidthLimit(col)), 0));
 }
 
 i16 LineSizing::HeightAt(float y, int row) const
 {
-    const LayoutEngine& layout = context_.layout;
-    const int scrollingArea = layout.ScaleSize().height - layout.HBarHeight() - layout.FixedRowsHeight();
-    const bool isFixed = row < context_.store.FixedRows();
-    const int limit = isFixed ? scrollingArea + context_.store.HeightOf(row) : scrollingArea;
-    return ToI16(std::clamp(WayFrom(originY_, y), 0, std::max(limit, 0)));
+    return ToI16(std::max(std::min(WayFrom(originY_, y), context_.layout.HeightLimit(row)), 0));
 }
 
 void LineSizing::StoreWidth(int col, int width)
@@ -250,7 +238,12 @@ void LineSizing::PaintAtOnce()
     context_.repainter.RecalcLayout(false);
 }
 
-// Lines are not fitted to what they hold yet: until then a double click leaves them as they are.
-void LineSizing::FitLine() { }
+void LineSizing::FitLine()
+{
+    if (cursor_ == PointerShape::SizeWE && IsRealCol(col_))
+        context_.fitting.AdjustWidth(col_);
+    else if (cursor_ == PointerShape::SizeNS && IsRealRow(row_))
+        context_.fitting.AdjustHeight(row_);
+}
 
 } // namespace vornix

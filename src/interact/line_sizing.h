@@ -7,6 +7,7 @@
 #pragma once
 
 #include "interact/current_cell_ports.h"
+#include "layout/auto_size.h"
 #include "layout/resizers.h"
 
 namespace vornix {
@@ -17,6 +18,7 @@ struct LineSizingContext {
     ScrollModel& scroll;
     HiddenLines& hidden;
     const Spans& spans;
+    AutoSize& fitting;
     RedrawGate& gate;
     const Scrolling& scrolling;
     Repainter& repainter;
@@ -49,7 +51,8 @@ public:
     void SizeTo(float x, float y);
     // The size is in force since the latest move: there is nothing to commit.
     void End();
-    // A double click on the boundary: the line takes the size of what it holds.
+    // A double click on the boundary: the line that the press caught takes the size of what it holds. Raises ResizeCol or
+    // ResizeRow, and the events of painting.
     void FitLine();
 
 private:

@@ -109,6 +109,10 @@ public:
     // The line that must come first for `last` to be the last whole one in the client area.
     int FirstColForLast(int last) const;
     int FirstRowForLast(int last) const;
+    // The largest size that a line takes when it is sized or fitted: what the frozen lines leave of the area, and for a
+    // frozen one its present size as well. Columns that scroll by pixels know no limit.
+    int HeightLimit(int row) const;
+    int WidthLimit(int col) const;
     // Within the whole lines of the latest paint; fixed lines always. Hidden ones in between count.
     bool IsVisibleRow(int row) const;
     bool IsVisibleCol(int col) const;

@@ -4,6 +4,7 @@
 #include "automation/checked.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace vornix {
 
@@ -160,6 +161,20 @@ int LayoutEngine::FirstRowForLast(int last) const
 {
     return FirstForLast(
         last, store_.FixedRows(), fixedRowsHeight_, clientHeight_, [this](int row) { return store_.HeightOf(row); });
+}
+
+int LayoutEngine::HeightLimit(int row) const
+{
+    const int scrollingArea = scaleSize_.height - hBarHeight_ - fixedRowsHeight_;
+    return row < store_.FixedRows() ? scrollingArea + store_.HeightOf(row) : scrollingArea;
+}
+
+int LayoutEngine::WidthLimit(int col) const
+{
+    const int scrollingArea = scaleSize_.width - vBarWidth_ - frozenColsWidth_;
+    if (col < firstScrollCol_)
+        return scrollingArea + store_.WidthOf(col);
+    return Settings.ScrollHBar == vxScrollSmooth ? std::numeric_limits<int>::max() : scrollingArea;
 }
 
 bool LayoutEngine::IsVisibleRow(int row) const

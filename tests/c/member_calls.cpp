@@ -86,6 +86,7 @@ vornix_value RightArgument(const vornix_argument_info& argument)
         { "Col2", 2 }, //
         { "Rows", 1 },
         { "Cols", 1 },
+        { "Lines", 1 },
         { "index", 1 },
         { "Percent", -100 },
         { "AlphaPourcent", 50 }, //

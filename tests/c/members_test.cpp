@@ -267,6 +267,25 @@ std::map<std::string, Calling> PlaceCallings()
     };
 }
 
+std::map<std::string, Calling> FittingCallings()
+{
+    const auto narrowAndLow = [](vornix_grid* grid) {
+        LetOk(grid, "Text", { Integer(1), Integer(1), Text(u"a text") });
+        LetOk(grid, "ColWidth", { Integer(1), Integer(1) });
+        LetOk(grid, "RowHeight", { Integer(1), Integer(1) });
+    };
+    const auto isLarger = [](const char* name) {
+        return [=](vornix_grid* grid) { EXPECT_GT(Get(grid, name, { Integer(1) }).ToInteger(), 15) << name; };
+    };
+    // The height of a line in the font of the container without a screen is 14, of an empty text as of any other.
+    return {
+        { "CalcRectText", { "empty", { "i32 8", "i32 18" } } },
+        { "AdjustHeight", { "empty", {}, narrowAndLow, isLarger("RowHeight") } },
+        { "AdjustWidth", { "empty", {}, narrowAndLow, isLarger("ColWidth") } },
+        { "AutoSizeRows", { "empty", {}, narrowAndLow, isLarger("RowHeight") } },
+    };
+}
+
 std::map<std::string, Calling> PointerCallings()
 {
     const auto pressed = [](vornix_grid* grid) { EXPECT_EQ(vornix_host_mouse_down(grid, 5, 5, 2, 5), 0); };
@@ -336,8 +355,8 @@ std::map<std::string, Calling> EditingCallings()
 std::map<std::string, Calling> AllCallings()
 {
     std::map<std::string, Calling> all;
-    for (auto&& part : { SpanCallings(), LineCallings(), SelectionCallings(), PlaceCallings(), PointerCallings(),
-             LookCallings(), EditingCallings() })
+    for (auto&& part : { SpanCallings(), LineCallings(), SelectionCallings(), PlaceCallings(), FittingCallings(),
+             PointerCallings(), LookCallings(), EditingCallings() })
         all.insert(part.begin(), part.end());
     return all;
 }

@@ -270,7 +270,7 @@ TEST(PaintWalkTest, AFirstPaintBeforeAnyLayoutRunsWithTheMetricsAsTheyAre)
     RedrawGate gate;
     PaintInteraction interaction;
     PaintEvents events;
-    PaintContainer container(std::make_unique<FakeDevice>(screen, "window", Size { 50, 50 }), { 50, 50 });
+    PlainContainer container(std::make_unique<FakeDevice>(screen, "window", Size { 50, 50 }), { 50, 50 });
     PaintPipeline pipeline({ store, layout, scroll, gate, interaction, container, events });
     pipeline.PaintMessage();
     EXPECT_TRUE(pipeline.Repainted());

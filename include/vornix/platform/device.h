@@ -204,6 +204,12 @@ public:
     virtual void SetBkMode(BackgroundMode mode) = 0;
     // Draws within the rectangle, or with DT_CALCRECT sets its right and bottom edges instead. Gives the text height.
     virtual int DrawText(std::u16string_view text, Rect& rect, u32 format) = 0;
+    // DrawText with DT_CALCRECT, for texts of which many are measured that will not be drawn soon: a device that keeps
+    // what it has laid out need not keep these.
+    virtual int MeasureText(std::u16string_view text, Rect& rect, u32 format)
+    {
+        return DrawText(text, rect, format | DT_CALCRECT);
+    }
 
     // Everything drawn later stays inside; an empty pointer takes the clip away.
     virtual void SetClip(const Rect* clip) = 0;

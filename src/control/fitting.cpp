@@ -1,0 +1,34 @@
+// Sizes that follow from what the cells hold.
+#include "control/control.h"
+
+namespace vornix {
+
+void Vornix::CalcRectText(i16 Row, i16 Col, i32& Width, i32& Height) const
+{
+    const auto control = Enter();
+    const auto [row, col] = control->Internal(Row, Col);
+    const Size needed = control->fitting.CalcRectText(row, col);
+    Width = needed.width;
+    Height = needed.height;
+}
+
+void Vornix::AdjustHeight(i16 Row, i16 Col, bool AlsoWidth)
+{
+    const auto control = Enter();
+    const int col = Col == NoIndex ? NoIndex : control->InternalCol(Col);
+    control->fitting.AdjustHeight(control->InternalRow(Row), col, AlsoWidth);
+}
+
+void Vornix::AdjustWidth(i16 Col, i16 Row)
+{
+    const auto control = Enter();
+    const int row = Row == NoIndex ? NoIndex : control->InternalRow(Row);
+    control->fitting.AdjustWidth(control->InternalCol(Col), row);
+}
+
+void Vornix::AutoSizeRows(i16 Lines)
+{
+    Enter()->fitting.AutoSizeRows(Lines);
+}
+
+} // namespace vornix

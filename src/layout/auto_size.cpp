@@ -1,0 +1,218 @@
+#include "layout/auto_size.h"
+
+#include "automation/checked.h"
+
+#include <algorithm>
+
+namespace vornix {
+
+namespace {
+
+// Around a text: at both sides together, and in a height that is measured by.
+constexpr int SidePadding = 8;
+constexpr int VerticalPadding = 4;
+// What a measured height or width starts from, and what is added to a height.
+constexpr int SmallestExtent = 5;
+constexpr int MostWideningRounds = 100;
+
+// The last line of a walk that steps over what a span covers.
+int LastCovered(int line, i16 span)
+{
+    return span > 0 ? line + span - 1 : line;
+}
+
+} // namespace
+
+int AutoSize::SidesOf(const Cell& cell) const
+{
+    const CellFormat& format = context_.store.FormatOf(cell);
+    return SidePadding + format.TextMarginLeft + format.TextMarginRight;
+}
+
+Size AutoSize::CalcRectText(int row, int col) const
+{
+    const GridStore& store = context_.store;
+    const Cell& cell = store.CellAt(row, col);
+    const Column& column = store.ColumnAt(col);
+    Rect rect { 0, 0, column.Width - SidesOf(cell), store.HeightOf(row) - VerticalPadding };
+    TextMeasure(store, context_.container).MeasureCellText(row, col, column.Format, rect);
+    return { rect.right + SidesOf(cell), rect.bottom + VerticalPadding };
+}
+
+// -- Rows --
+
+void AutoSize::AdjustHeight(int row, int col, bool alsoWidth)
+{
+    const GridStore& store = context_.store;
+    LayoutEngine& layout = context_.layout;
+    TextMeasure measure(store, context_.container);
+    const bool oneCell = col != NoIndex;
+    const int last = oneCell ? col : store.LastColIndex();
+    int best = 0;
+    bool widened = false;
+    for (int at = oneCell ? col : 0; at <= last; ++at) {
+        const CellIndex parent = context_.spans.ParentOf(row, at);
+        best = std::max(best, HeightFor(measure, row, parent, alsoWidth, widened));
+        at = LastCovered(at, CellAt(parent).ColSpan());
+    }
+    layout.MeasureIfDirty();
+    best = std::min(best, layout.HeightLimit(row));
+    if (widened || row < store.FixedRows())
+        layout.MarkMetricsDirty();
+    if (best != 0)
+        OfferHeight(row, best);
+    else if (widened)
+        context_.repainter.RecalcLayout(false);
+}
+
+int AutoSize::HeightFor(TextMeasure& measure, int row, CellIndex parent, bool alsoWidth, bool& widened)
+{
+    const GridStore& store = context_.store;
+    const Cell& cell = CellAt(parent);
+    const int room = RoomForText(parent);
+    Rect rect { 0, 0, room, SmallestExtent };
+    measure.MeasureCellText(parent.row, parent.col, store.ColumnAt(parent.col).Format, rect);
+    // The span's other rows carry part of the text.
+    int height = rect.bottom;
+    for (int other = parent.row; other < parent.row + cell.RowSpan(); ++other) {
+        if (other != row)
+            height -= store.HeightOf(other);
+    }
+    if (alsoWidth && rect.right > room) {
+        StoreWidth(parent.col, ToI16(rect.right + SidesOf(cell)));
+        widened = true;
+    }
+    return height + SmallestExtent;
+}
+
+// Of the columns of a span the second one is left out, and the one behind it counts in its place.
+int AutoSize::RoomForText(CellIndex parent) const
+{
+    const GridStore& store = context_.store;
+    const Cell& cell = CellAt(parent);
+    int room = store.WidthOf(parent.col) - SidesOf(cell);
+    for (int place = 2; place <= cell.ColSpan(); ++place)
+        room += store.WidthOf(parent.col + place);
+    return room < 0 ? 1 : room;
+}
+
+void AutoSize::OfferHeight(int row, int height)
+{
+    i16 newHeight = ToI16(height);
+    {
+        const RedrawGate::Closed closed(context_.gate);
+        context_.events.ResizeRow(ToI16(row - context_.store.FixedRows()), newHeight);
+    }
+    if (context_.store.ContainsRow(row))
+        StoreHeight(row, std::max<i16>(newHeight, 0));
+    context_.layout.MarkMetricsDirty();
+    context_.repainter.RecalcLayout(false);
+}
+
+void AutoSize::StoreHeight(int row, i16 height)
+{
+    Row& line = context_.store.RowAt(row);
+    if (line.Hidden)
+        line.SavedHeight = height;
+    else
+        context_.layout.SetRowHeight(row, height);
+}
+
+// -- Columns --
+
+void AutoSize::AdjustWidth(int col, int row)
+{
+    const GridStore& store = context_.store;
+    LayoutEngine& layout = context_.layout;
+    const bool isTitled = layout.Settings.CaptionEnabled;
+    const bool oneCell = row != NoIndex;
+    if (oneCell && isTitled && row == 0)
+        return;
+    TextMeasure measure(store, context_.container);
+    const int first = isTitled ? 1 : 0;
+    const int last = oneCell ? row : store.LastRowIndex();
+    int best = 0;
+    for (int at = oneCell ? row : first; at <= last; ++at) {
+        const CellIndex parent = context_.spans.ParentOf(at, col);
+        best = std::max(best, WidthFor(measure, col, parent));
+        at = LastCovered(at, CellAt(parent).RowSpan());
+    }
+    if (best == 0)
+        return;
+    layout.MeasureIfDirty();
+    best = std::min(best, layout.WidthLimit(col));
+    if (col < layout.FirstScrollCol())
+        layout.MarkMetricsDirty();
+    OfferWidth(col, best);
+}
+
+int AutoSize::WidthFor(TextMeasure& measure, int col, CellIndex parent) const
+{
+    const GridStore& store = context_.store;
+    const Cell& cell = CellAt(parent);
+    const int height = store.HeightOf(parent.row);
+    const int lines = height - VerticalPadding;
+    Rect rect { 0, 0, SmallestExtent, lines < 0 ? 1 : lines };
+    measure.MeasureCellText(parent.row, parent.col, store.ColumnAt(parent.col).Format, rect);
+    // A text too tall for the row gets its excess as width; the second measuring takes no measure, so one round does.
+    int width = rect.right;
+    for (int round = 0; rect.bottom + VerticalPadding > height && round < MostWideningRounds; ++round) {
+        width += rect.bottom + VerticalPadding - height;
+        rect.right = width;
+        rect.bottom = lines;
+        measure.DrawAgain(rect);
+    }
+    width = rect.right + SidesOf(cell);
+    // The span's other columns carry part of the text.
+    for (int other = parent.col; other < parent.col + cell.ColSpan(); ++other) {
+        if (other != col)
+            width -= store.WidthOf(other);
+    }
+    return width;
+}
+
+void AutoSize::OfferWidth(int col, int width)
+{
+    i16 newWidth = ToI16(width);
+    {
+        const RedrawGate::Closed closed(context_.gate);
+        context_.events.ResizeCol(ToI16(col - context_.store.FixedCols()), newWidth);
+    }
+    if (context_.store.ContainsCol(col))
+        StoreWidth(col, std::max<i16>(newWidth, 0));
+    context_.repainter.RecalcLayout(false);
+}
+
+void AutoSize::StoreWidth(int col, i16 width)
+{
+    Column& column = context_.store.ColumnAt(col);
+    if (column.Hidden)
+        column.SavedWidth = width;
+    else
+        context_.layout.SetColWidth(col, width);
+}
+
+// -- All rows --
+
+void AutoSize::AutoSizeRows(int lines)
+{
+    if (lines < 1)
+        return;
+    GridStore& store = context_.store;
+    TextMeasure measure(store, context_.container);
+    const int needed = measure.HeightOfLines(store.Defaults.Font, lines) + SmallestExtent;
+    if (needed > 0)
+        store.Defaults.DefaultHeight = ToI16(needed);
+    const i16 height = store.Defaults.DefaultHeight;
+    bool reappears = false;
+    for (int row = store.FixedRows(); row <= store.LastRowIndex(); ++row) {
+        Row& line = store.RowAt(row);
+        reappears = reappears || (!line.Hidden && line.Height == 0);
+        (line.Hidden ? line.SavedHeight : line.Height) = height;
+    }
+    if (reappears)
+        context_.hidden.RebuildChain();
+    context_.repainter.RecalcLayout(context_.layout.PercentActive());
+}
+
+} // namespace vornix

@@ -604,11 +604,33 @@ public:
 
     // -- Tables in and out --
 
+    // The texts of a rectangle, corners in any order, as plain text on the clipboard: tabs between the cells of a row, CR
+    // LF between the rows and none behind the last. A text that holds a CR LF loses its CRs and stands between double
+    // quotes; other double quotes stay as they are. When all cells of the last row are empty in a single column, the
+    // clipboard stays as it is. Errors 6 and 9 for a corner outside the table.
+    void CopyToClipboard(i16 Row1, i16 Col1, i16 Row2, i16 Col2);
+    // The plain text on the clipboard as texts of a rectangle, corners in any order, from its first cell on. What does not
+    // fit is dropped, cells for which there is nothing keep their text, an empty line leaves its row alone. A field that
+    // begins with an odd number of double quotes goes on, over lines too, to one that ends with an odd number. Repaints
+    // once; no event, mask or validation, and no new rows. Error 6 for a corner beyond 16 bits, 9 for a cell outside the
+    // table, after the cells ahead of it.
+    void PasteFromClipboard(i16 Row1, i16 Col1, i16 Row2, i16 Col2);
     // Appends the records of an array as rows, and makes its columns the grid's: Cols becomes their number, Rows grows.
     // Every element becomes a text as conversions to text do in the container's locale. Null elements leave their cells
     // alone; with IsNullTest off they raise error 94, and the rows before stay. Repaints once. An array without columns
     // or without records does nothing.
     void LoadFromArray(const VariantArray& Arr, bool IsNullTest = true);
+
+    // -- Batch script: many properties set by one text, see docs/script.md --
+
+    // Adds a text to the script, which keeps it until it is cleared. Always -1.
+    i32 VXScriptAdd(std::u16string_view vxScript);
+    void VXScriptClear();
+    // Runs the script: -1 when all of it was applied up to its very end, else 0, and what stands ahead of the fault stays
+    // applied. The row and column that the script sets for what follows hold over runs. Does what the properties it sets
+    // do: their errors come out and end the run, as error 6 for a number or place beyond 16 bits. Ends with 0 when the
+    // control is closed meanwhile.
+    i32 VXScriptExecute();
 
     // -- Current cell --
 

@@ -24,6 +24,7 @@
 #include "model/redraw_gate.h"
 #include "model/spans.h"
 #include "model/visual_cell_store.h"
+#include "persist/batch_script.h"
 #include "render/paint_pipeline.h"
 #include "vornix/vornix.h"
 
@@ -81,6 +82,7 @@ public:
     Mouse mouse;
     Keyboard keyboard;
     Broadcast broadcast;
+    BatchScript script;
 
     // Twips a pixel, as the screen had them when the control was made.
     Size twipsPerPixel;

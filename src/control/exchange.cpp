@@ -1,9 +1,30 @@
-// Tables that come in as arrays.
+// Tables in and out: the clipboard, and arrays.
 #include "automation/checked.h"
 #include "control/control.h"
 #include "data/array_import.h"
+#include "data/clipboard_text.h"
 
 namespace vornix {
+
+void Vornix::CopyToClipboard(i16 Row1, i16 Col1, i16 Row2, i16 Col2)
+{
+    const auto control = Enter();
+    const auto cells = CellRectangle::Between(control->Internal(Row1, Col1), control->Internal(Row2, Col2));
+    const std::u16string text = CopiedText(control->store, cells);
+    if (!text.empty())
+        control->container.SetClipboardText(text);
+}
+
+void Vornix::PasteFromClipboard(i16 Row1, i16 Col1, i16 Row2, i16 Col2)
+{
+    const auto control = Enter();
+    const auto cells = CellRectangle::Between(control->Internal(Row1, Col1), control->Internal(Row2, Col2));
+    const std::u16string text = control->container.ClipboardText();
+    if (text.empty() || control->IsClosed())
+        return;
+    PasteText(control->store, cells, text);
+    control->funnel.RepaintUnderGate();
+}
 
 void Vornix::LoadFromArray(const VariantArray& Arr, bool IsNullTest)
 {

@@ -1,6 +1,8 @@
 // Sizes that follow from what the cells hold.
 #include "control/control.h"
 
+#include <optional>
+
 namespace vornix {
 
 void Vornix::CalcRectText(i16 Row, i16 Col, i32& Width, i32& Height) const
@@ -15,14 +17,14 @@ void Vornix::CalcRectText(i16 Row, i16 Col, i32& Width, i32& Height) const
 void Vornix::AdjustHeight(i16 Row, i16 Col, bool AlsoWidth)
 {
     const auto control = Enter();
-    const int col = Col == NoIndex ? NoIndex : control->InternalCol(Col);
+    const auto col = Col == NoIndex ? std::nullopt : std::optional(control->InternalCol(Col));
     control->fitting.AdjustHeight(control->InternalRow(Row), col, AlsoWidth);
 }
 
 void Vornix::AdjustWidth(i16 Col, i16 Row)
 {
     const auto control = Enter();
-    const int row = Row == NoIndex ? NoIndex : control->InternalRow(Row);
+    const auto row = Row == NoIndex ? std::nullopt : std::optional(control->InternalRow(Row));
     control->fitting.AdjustWidth(control->InternalCol(Col), row);
 }
 

@@ -41,16 +41,15 @@ Size AutoSize::CalcRectText(int row, int col) const
 
 // -- Rows --
 
-void AutoSize::AdjustHeight(int row, int col, bool alsoWidth)
+void AutoSize::AdjustHeight(int row, std::optional<int> col, bool alsoWidth)
 {
     const GridStore& store = context_.store;
     LayoutEngine& layout = context_.layout;
     TextMeasure measure(store, context_.container);
-    const bool oneCell = col != NoIndex;
-    const int last = oneCell ? col : store.LastColIndex();
+    const int last = col.value_or(store.LastColIndex());
     int best = 0;
     bool widened = false;
-    for (int at = oneCell ? col : 0; at <= last; ++at) {
+    for (int at = col.value_or(0); at <= last; ++at) {
         const CellIndex parent = context_.spans.ParentOf(row, at);
         best = std::max(best, HeightFor(measure, row, parent, alsoWidth, widened));
         at = LastCovered(at, CellAt(parent).ColSpan());
@@ -120,19 +119,17 @@ void AutoSize::StoreHeight(int row, i16 height)
 
 // -- Columns --
 
-void AutoSize::AdjustWidth(int col, int row)
+void AutoSize::AdjustWidth(int col, std::optional<int> row)
 {
     const GridStore& store = context_.store;
     LayoutEngine& layout = context_.layout;
     const bool isTitled = layout.Settings.CaptionEnabled;
-    const bool oneCell = row != NoIndex;
-    if (oneCell && isTitled && row == 0)
+    if (isTitled && row == 0)
         return;
     TextMeasure measure(store, context_.container);
-    const int first = isTitled ? 1 : 0;
-    const int last = oneCell ? row : store.LastRowIndex();
+    const int last = row.value_or(store.LastRowIndex());
     int best = 0;
-    for (int at = oneCell ? row : first; at <= last; ++at) {
+    for (int at = row.value_or(isTitled ? 1 : 0); at <= last; ++at) {
         const CellIndex parent = context_.spans.ParentOf(at, col);
         best = std::max(best, WidthFor(measure, col, parent));
         at = LastCovered(at, CellAt(parent).RowSpan());

@@ -11,6 +11,8 @@
 #include "model/repainter.h"
 #include "vornix/events.h"
 
+#include <optional>
+
 namespace vornix {
 
 struct AutoSizeContext {
@@ -33,10 +35,10 @@ public:
 
     // What a cell's text needs, with its padding, at the present width of the column and height of the row.
     Size CalcRectText(int row, int col) const;
-    // The height for one cell of a row, or for all with NoIndex. May widen the columns of words that do not fit.
-    void AdjustHeight(int row, int col = NoIndex, bool alsoWidth = false);
-    // The width for one cell of a column, or for all but the title with NoIndex.
-    void AdjustWidth(int col, int row = NoIndex);
+    // The height for one cell of a row, or for all. May widen the columns of words that do not fit.
+    void AdjustHeight(int row, std::optional<int> col = {}, bool alsoWidth = false);
+    // The width for one cell of a column, or for all but the title.
+    void AdjustWidth(int col, std::optional<int> row = {});
     // The height of so many lines in the control's font, to all rows that are not fixed and as the default.
     void AutoSizeRows(int lines);
 

@@ -279,7 +279,7 @@ std::map<std::string, Calling> FittingCallings()
     };
     // The height of a line in the font of the container without a screen is 14, of an empty text as of any other.
     return {
-        { "CalcRectText", { "empty", { "i32 8", "i32 18" } } },
+        { "CalcRectText", { "empty", { "i32 8", "i32 18" }, Writes("Text", { Integer(1), Integer(1), Text(u"") }) } },
         { "AdjustHeight", { "empty", {}, narrowAndLow, isLarger("RowHeight") } },
         { "AdjustWidth", { "empty", {}, narrowAndLow, isLarger("ColWidth") } },
         { "AutoSizeRows", { "empty", {}, narrowAndLow, isLarger("RowHeight") } },

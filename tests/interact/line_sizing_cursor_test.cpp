@@ -223,8 +223,12 @@ TEST_F(LineSizingCursorTest, OtherPressesAreIgnoredDuringTheDrag)
     EXPECT_EQ(host->Pointer(), None);
 }
 
-TEST_F(LineSizingCursorTest, ADoubleClickOnTheBoundaryLeavesTheSizeAndEndsTheDrag)
+TEST_F(LineSizingCursorTest, ADoubleClickOnTheBoundaryFitsTheColumnAndEndsTheDrag)
 {
+    Grid().SetText(2, 0, u"what the column holds");
+    i32 width = 0;
+    i32 height = 0;
+    Grid().CalcRectText(2, 0, width, height);
     CatchCol(0);
     LetGo(ColEnd(0) - 1, Header);
     host->Click();
@@ -233,7 +237,7 @@ TEST_F(LineSizingCursorTest, ADoubleClickOnTheBoundaryLeavesTheSizeAndEndsTheDra
     host->DblClick();
     EXPECT_FALSE(Grid().IsSizingMode());
     Drag(ColEnd(0) + 30, Header);
-    EXPECT_EQ(Grid().ColWidth(0), 120);
+    EXPECT_EQ(Grid().ColWidth(0), width);
 }
 
 } // namespace

@@ -519,8 +519,8 @@ protected:
     };
 
     PageEvents pageEvents { control.gate };
-    LineSizing sizing { { control.store, control.layout, control.scroll, control.hidden, control.spans, control.gate,
-        control.scrolling, control.funnel, page, host, pageEvents } };
+    LineSizing sizing { { control.store, control.layout, control.scroll, control.hidden, control.spans, control.fitting,
+        control.gate, control.scrolling, control.funnel, page, host, pageEvents } };
 
     LineSizingPageTest()
     {

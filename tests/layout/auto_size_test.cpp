@@ -236,7 +236,7 @@ TEST_F(RowHeightTest, WithTheWidthAColumnGrowsToItsWords)
 {
     table.Text(2, 1, u"a long text");
     table.Margins(2, 1, 2, 3);
-    fitting.AdjustHeight(2, NoIndex, true);
+    fitting.AdjustHeight(2, {}, true);
     EXPECT_EQ(table.Width(1), 11 * Letter + 13);
     EXPECT_EQ(table.Width(2), 50) << "what fits stays";
     EXPECT_THAT(table.events.said, ElementsAre("ResizeRow 1 18")) << "the width is not offered";
@@ -281,7 +281,7 @@ TEST_F(RowHeightTest, AWidenedColumnIsLaidOutWithoutAHeight)
     FittingTable one(0, 4, 0, 1);
     one.Text(0, 0, u"a long text");
     one.Span(0, 0, 2, 1);
-    one.fitting.AdjustHeight(1, NoIndex, true);
+    one.fitting.AdjustHeight(1, {}, true);
     EXPECT_EQ(one.Width(0), 11 * Letter + 8);
     EXPECT_THAT(one.events.said, IsEmpty());
     EXPECT_THAT(one.repainter.calls, ElementsAre("RecalcLayout"));
@@ -292,7 +292,7 @@ TEST_F(RowHeightTest, AHiddenColumnIsWidenedForLater)
 {
     table.hidden.HideCol(1);
     table.Text(2, 1, u"text");
-    fitting.AdjustHeight(2, NoIndex, true);
+    fitting.AdjustHeight(2, {}, true);
     EXPECT_EQ(table.Width(1), 0);
     EXPECT_EQ(table.store.ColumnAt(1).SavedWidth, 4 * Letter + 8);
 }

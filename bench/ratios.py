@@ -40,6 +40,11 @@ FIGURES = {
     "hit_test_us": lambda time, _: time["Vornix/hit_test"] / TO_MILLISECONDS["us"],
     "cell_origin_us": lambda time, _: time["Vornix/cell_origin"] / TO_MILLISECONDS["us"],
     "frame_copy_ratio": lambda time, _: time["Vornix/repaint"] / time["frame_copy"],
+    "copy_1m_cells_ms": lambda time, _: time["Vornix/copy_1m_cells"],
+    # 1 where the time is in proportion to the cells.
+    "copy_growth": lambda time, _: time["Vornix/copy_1m_cells"] / time["Vornix/copy_quarter_of_1m_cells"] / 4,
+    "paste_1m_cells_ms": lambda time, _: time["Vornix/paste_1m_cells"],
+    "script_100k_s": lambda time, _: time["Vornix/script_100k"] / TO_MILLISECONDS["s"],
     "late_bound_get_per_s": lambda _, counter: counter["C/late_bound_get"]["items_per_second"],
     "late_bound_get_by_name_per_s": lambda _, counter: counter["C/late_bound_get_by_name"]["items_per_second"],
     "python_load_1m_s": lambda time, _: time["Python/load_1m"] / TO_MILLISECONDS["s"],

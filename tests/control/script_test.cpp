@@ -260,6 +260,21 @@ TEST_F(Script, SetsWhatEveryElementNames)
     EXPECT_EQ(Grid().FixedRows(), 1);
 }
 
+TEST_F(Script, AutoSizeRowsCallsTheMethod)
+{
+    HeadlessContainer other;
+    for (Vornix* grid : { &Grid(), &other.Grid() }) {
+        grid->SetRows(2);
+        grid->SetRowHeight(1, 77);
+    }
+    other.Grid().AutoSizeRows(2);
+    EXPECT_EQ(Run(u"<AutoSizeRows>2</AutoSizeRows>"), -1);
+    EXPECT_EQ(Grid().RowHeight(1), other.Grid().RowHeight(1));
+    EXPECT_NE(Grid().RowHeight(1), 77);
+    EXPECT_EQ(Run(u"<AutoSizeRows>x</AutoSizeRows>"), 0);
+    EXPECT_EQ(ErrorOfRun(u"<AutoSizeRows>32768</AutoSizeRows>"), 6);
+}
+
 TEST_F(Script, ReportsWhatItsPropertiesReport)
 {
     host->ClearLog();

@@ -70,6 +70,13 @@ class ExamplesOfPages(unittest.TestCase):
             finally:
                 os.chdir(here)
 
+    def test_the_pages_about_scripts_and_the_clipboard_answer_as_they_say(self) -> None:
+        for page in ["script.md", "clipboard.md"]:
+            with self.subTest(page=page):
+                text = (ROOT / "docs" / page).read_text(encoding="utf-8").replace("```", "")
+                self.assertIn(">>> import vornix", text)
+                self.assertEqual(failures(text, page, {}), "")
+
     def test_the_program_of_the_page_about_c_builds_and_runs(self) -> None:
         text = (ROOT / "docs" / "c.md").read_text(encoding="utf-8")
         program = text.split("```c\n")[1].split("```")[0]

@@ -2,6 +2,7 @@
 
 #include "qt_ambient.h"
 #include "qt_canvas_window.h"
+#include "qt_clipboard.h"
 #include "qt_combo_box.h"
 #include "qt_edit_box.h"
 #include "qt_editor_window.h"
@@ -9,7 +10,6 @@
 #include "qt_scroll_bar.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QCursor>
 #include <QMessageBox>
 #include <QPointer>
@@ -387,12 +387,12 @@ bool QtContainer::FocusHostWindow(std::intptr_t window)
 
 std::u16string QtContainer::ClipboardText() const
 {
-    return FromQString(QGuiApplication::clipboard()->text());
+    return ClipboardPlainText();
 }
 
 void QtContainer::SetClipboardText(std::u16string_view text)
 {
-    QGuiApplication::clipboard()->setText(ToQString(text));
+    SetClipboardPlainText(text);
 }
 
 void QtContainer::ShowMessage(std::u16string_view title, std::u16string_view text, MessageIcon icon)

@@ -156,6 +156,8 @@ public:
     virtual void PropertyChanged(std::string_view name) = 0;
 
     virtual SettingsStore& Settings() = 0;
+    // The plain text on the clipboard, CR LF between its lines; empty when there is none. Where the platform's texts end
+    // lines in another way, those of other programs are brought to this one; a text set here comes back as it was.
     virtual std::u16string ClipboardText() const = 0;
     virtual void SetClipboardText(std::u16string_view text) = 0;
     virtual void ShowMessage(std::u16string_view title, std::u16string_view text, MessageIcon icon) = 0;

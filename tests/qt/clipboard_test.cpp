@@ -19,7 +19,7 @@ constexpr int Patience = 10'000;
 // What a spreadsheet program wrote of a table; tests/exchange holds that it still does.
 QString TextOfSpreadsheet()
 {
-    QFile file(QStringLiteral(VORNIX_TESTS "/exchange/written_by_spreadsheet.txt"));
+    QFile file(QString::fromUtf8(VORNIX_TESTS "/exchange/written_by_spreadsheet.txt"));
     if (!file.open(QIODevice::ReadOnly))
         ADD_FAILURE() << "the text is not there";
     return QString::fromUtf8(file.readAll());

@@ -21,7 +21,7 @@ int CallWithCorners(vornix_grid* grid, const char* name, int row1, int col1, int
     return Call(grid, name, { Integer(row1), Integer(col1), Integer(row2), Integer(col2) });
 }
 
-std::int64_t Run(vornix_grid* grid)
+std::int64_t RunScript(vornix_grid* grid)
 {
     Result result;
     EXPECT_EQ(Invoke(grid, "VXScriptExecute", VORNIX_CALL, {}, &result), 0) << vornix_last_error();
@@ -54,18 +54,18 @@ TEST(CExchange, CornersOutsideAreErrors)
 TEST(CExchange, RunsScripts)
 {
     const GridPtr grid = MakeSmallGrid();
-    EXPECT_EQ(Run(grid.get()), 0) << "an empty one";
+    EXPECT_EQ(RunScript(grid.get()), 0) << "an empty one";
     Result added;
     Values script { Text(u"<Cols>4</Cols><ColWidth Col=\"3\">80</ColWidth>") };
     ASSERT_EQ(Invoke(grid.get(), "VXScriptAdd", VORNIX_CALL, script, &added), 0);
     EXPECT_EQ(added.ToInteger(), -1);
-    EXPECT_EQ(Run(grid.get()), -1);
+    EXPECT_EQ(RunScript(grid.get()), -1);
     EXPECT_EQ(Get(grid.get(), "Cols").ToInteger(), 4);
     EXPECT_EQ(Get(grid.get(), "ColWidth", { Integer(3) }).ToInteger(), 80);
     ASSERT_EQ(Call(grid.get(), "VXScriptAdd", { Text(u"<CellMode Row=\"99\" Col=\"0\">1</CellMode>") }), 0);
     EXPECT_EQ(Call(grid.get(), "VXScriptExecute"), 9);
     ASSERT_EQ(Call(grid.get(), "VXScriptClear"), 0);
-    EXPECT_EQ(Run(grid.get()), 0);
+    EXPECT_EQ(RunScript(grid.get()), 0);
 }
 
 } // namespace vornix::test

@@ -188,6 +188,8 @@ const std::set<std::string> TakeAnyIndex {
     "IsCurrent",
     // The sum of the lines before the cell, as far as there are any.
     "GetPositionCell",
+    // Writes as far as there is something to paste.
+    "PasteFromClipboard",
     // Does nothing.
     "getWidthHeightCell",
 };

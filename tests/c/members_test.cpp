@@ -208,7 +208,26 @@ std::map<std::string, Calling> LineCallings()
         { "VirtualPageSize", { "i16 0" } },
         { "LastRow", { "i16 3" } },
         { "LastCol", { "i16 2" } },
+    };
+}
+
+std::map<std::string, Calling> ExchangeCallings()
+{
+    const auto setClipboard = [](vornix_grid* grid) { EXPECT_EQ(vornix_host_set_clipboard(grid, View(u"pasted")), 0); };
+    const auto hasCopied = [](vornix_grid* grid) {
+        vornix_text text {};
+        EXPECT_EQ(vornix_host_get_clipboard(grid, &text), 0);
+        EXPECT_EQ(ToString(text), u"copied\t12\r\n21\t22");
+    };
+    const auto add = Calls("VXScriptAdd", { Text(u"<Rows>7</Rows>") });
+    return {
         { "LoadFromArray", { "empty", {}, {}, Reads("Text", { Integer(4), Integer(1) }, "text 71") } },
+        { "CopyToClipboard", { "empty", {}, Writes("Text", { Integer(1), Integer(1), Text(u"copied") }), hasCopied } },
+        { "PasteFromClipboard",
+            { "empty", {}, setClipboard, Reads("Text", { Integer(1), Integer(1) }, "text pasted") } },
+        { "VXScriptAdd", { "i32 -1" } },
+        { "VXScriptClear", { "empty", {}, add, Reads("VXScriptExecute", {}, "i32 0") } },
+        { "VXScriptExecute", { "i32 -1", {}, add, Reads("Rows", {}, "i16 7") } },
     };
 }
 
@@ -355,8 +374,8 @@ std::map<std::string, Calling> EditingCallings()
 std::map<std::string, Calling> AllCallings()
 {
     std::map<std::string, Calling> all;
-    for (auto&& part : { SpanCallings(), LineCallings(), SelectionCallings(), PlaceCallings(), FittingCallings(),
-             PointerCallings(), LookCallings(), EditingCallings() })
+    for (auto&& part : { SpanCallings(), LineCallings(), ExchangeCallings(), SelectionCallings(), PlaceCallings(),
+             FittingCallings(), PointerCallings(), LookCallings(), EditingCallings() })
         all.insert(part.begin(), part.end());
     return all;
 }

@@ -438,6 +438,46 @@ public:
     void RestoreVisualToCell(i16 index, i16 Row, i16 Col);
     void ClearVisualCell();
 
+    // -- Structure --
+    // All that refers to a place follows: spans, selection, current cell, first visible lines, and the title, which keeps
+    // its cell. Selected cells are not selected any more where lines come, go or move.
+
+    // New rows in front of a row, or with Row = Rows at the end; a span around them grows over them, and they are not
+    // selected. A negative row, one behind the end and a count of 0 do nothing; a negative count is error 9. Lays out
+    // anew.
+    void InsertRows(i16 Row, i16 Rows = 1);
+    // A new column holds in its record what stood at its place, size and look excepted: its Order is that of the column
+    // it pushed aside.
+    void InsertCols(i16 Col, i16 Cols = 1);
+    // Spans shrink; what a span has left below the rows gets its first cell as a parent. A negative row, one that there is
+    // not and a count of 0 do nothing; a count beyond the last row is error 9, and nothing has changed. Lays out anew.
+    void DeleteRows(i16 Row, i16 Rows = 1);
+    // Without columns there is no title: CaptionEnabled is off then.
+    void DeleteCols(i16 Col, i16 Cols = 1);
+    // At the end the row has the index ToRow, and those between have closed up. Height, colour and record go along, marks
+    // of hidden rows stay at their places, columns take all along. Negative indices do nothing, lines that there are not
+    // are error 9. Lay out anew.
+    void MoveRow(i16 Row, i16 ToRow);
+    void MoveCol(i16 Col, i16 ToCol);
+    // Fixed lines too. The links of merged cells go along as they are: a line leaves a span across it. The selection
+    // follows the lines, the current cell stays. Lines before the fixed ones do nothing, those behind the last are error
+    // 9. SwapRows repaints, SwapCols lays out anew.
+    void SwapRows(i16 Row1, i16 Row2);
+    void SwapCols(i16 Col1, i16 Col2);
+    // Text, key, picture and look; then the spans, which remove older ones in the way. Repaints.
+    void CopyCell(i16 Row, i16 Col, i16 ToRow, i16 ToCol);
+    // The same for the cells of a line, spans where the source has them; sizes and line colours stay. The title is left
+    // out where its column is written. Lay out anew.
+    void CopyRow(i16 Row, i16 ToRow);
+    void CopyCol(i16 Col, i16 ToCol);
+    // Texts and keys, those of fixed cells only when asked for. An open editor is emptied too, wherever it is, and writes
+    // that to its cell: raises TextChange. Refreshes the line.
+    void ClearRow(i16 Row, bool AlsoFixedCells = false);
+    void ClearCol(i16 Col, bool AlsoFixedCells = false);
+    // Looks and sizes of the rectangle go back to the defaults, and all that its columns say of themselves (names, masks,
+    // formats, sorting, hidden marks); contents and spans stay. Corners in any order. Lays out anew.
+    void ResetCells(i16 Row1, i16 Col1, i16 Row2, i16 Col2);
+
     // -- Selection --
     // Rectangles of cells, ranges of columns or ranges of rows: one kind at a time. Selecting another kind drops what was
     // selected. Ranges are not joined: a line in two of them counts twice, and is unselected only once. Lines that the

@@ -26,6 +26,7 @@ Control::Control(Container& windowContainer, VornixEvents& host)
     , spans(store)
     , fitting({ store, layout, spans, hidden, gate, funnel, container, events })
     , selection(store, current)
+    , tableEdit({ store, spans, hidden, scroll, layout, current, selection })
     , editor({ store, layout, gate, current, mover, selection, scrolling, funnel, sizing, mouse, keyboard, recordSource,
           container, events })
     , textRelay(*this)

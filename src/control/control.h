@@ -16,6 +16,7 @@
 #include "interact/mouse.h"
 #include "interact/scrolling.h"
 #include "interact/split_drag.h"
+#include "interact/table_edit.h"
 #include "layout/auto_size.h"
 #include "layout/layout_engine.h"
 #include "layout/scroll_model.h"
@@ -61,6 +62,7 @@ public:
     VisualCellStore visualCells;
     CurrentCell current;
     GridSelection selection;
+    TableEdit tableEdit;
     ShellSettings settings;
 
     VirtualModeControl virtualMode;
@@ -123,9 +125,8 @@ public:
     // The title into its cell, when there is one.
     void CopyCaption();
     void DropSplitBehindLastCol();
-    // Brings every column that is not fixed to the place it was made at.
-    void RestoreColumnOrder();
-    void MoveColumnLeft(int from, int to);
+    // Brings every column that is not fixed to the place it was made at. False when all stood there.
+    bool RestoreColumnOrder();
     // At design time the fixed row of the title comes with its first text and goes with its last.
     void FollowCaption(bool wasEmpty);
     void RelayoutForBars();

@@ -1,7 +1,6 @@
 // Hidden lines, the order of columns, and looks that a host parks.
 #include "automation/checked.h"
 #include "automation/text_conversions.h"
-#include "control/column_move.h"
 #include "control/control.h"
 
 namespace vornix {
@@ -113,15 +112,15 @@ i16 Vornix::ColOrder(std::u16string_view index) const
 void Vornix::ReOrderCols()
 {
     const auto control = Enter();
-    {
-        RedrawGate::Closed closed(control->gate);
-        control->RestoreColumnOrder();
-    }
-    control->funnel.RepaintUnderGate();
+    if (control->RestoreColumnOrder())
+        control->funnel.RecalcLayout();
+    else
+        control->funnel.RepaintUnderGate();
 }
 
-void Control::RestoreColumnOrder()
+bool Control::RestoreColumnOrder()
 {
+    bool hasMoved = false;
     // Fixed columns stay: a move concerns the others only.
     for (int col = store.FixedCols(); col <= store.LastColIndex(); ++col) {
         const int order = col - store.FixedCols();
@@ -130,26 +129,13 @@ void Control::RestoreColumnOrder()
         int found = col + 1;
         while (found <= store.LastColIndex() && store.ColumnAt(found).Order != order)
             ++found;
-        if (found <= store.LastColIndex())
-            MoveColumnLeft(found, col);
+        if (found > store.LastColIndex())
+            continue;
+        tableEdit.MoveCol(found, col);
+        hasMoved = true;
     }
-}
-
-void Control::MoveColumnLeft(int from, int to)
-{
-    selection.MoveColLeft(from, to);
-    ColumnMove(store, spans).MoveLeft(from, to);
-    const bool movesCaption = to == store.FixedCols() && layout.Settings.CaptionEnabled && store.FixedRows() >= 1;
-    if (movesCaption) {
-        // The title keeps its cell; the text that came with the column goes to where the title went.
-        const std::u16string text = store.CellAt(0, to).Text();
-        store.EditCell(0, to).SetText(store.CellAt(0, to + 1).Text());
-        store.EditCell(0, to + 1).SetText(text);
-    }
-    if (current.IsValid() && current.Col() >= to && current.Col() < from)
-        current.Set(current.Row(), current.Col() + 1);
-    if (to < layout.FirstScrollCol())
-        layout.MarkMetricsDirty();
+    CopyCaption();
+    return hasMoved;
 }
 
 void Vornix::StoreVisualCell(i16 index, i16 Row, i16 Col)

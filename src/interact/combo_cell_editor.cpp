@@ -134,6 +134,17 @@ void ComboCellEditor::PlaceAnew(bool withText)
     SetStartText();
 }
 
+void ComboCellEditor::Empty()
+{
+    native_.SetText({});
+    lastText_.clear();
+    const bool hadText = EditCell().HasText();
+    EditCell().SetText({});
+    EditCell().SetKey({});
+    if (hadText)
+        edited_.RaiseForCell(&VornixEvents::TextChange);
+}
+
 // -- The list, as hosts reach it --
 
 void ComboCellEditor::AddItem(int index, std::u16string_view text)

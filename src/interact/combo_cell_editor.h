@@ -28,6 +28,8 @@ public:
     bool SetFocus() { return window_.SetFocus(); }
     // Place and look of the cell, and its text where that may be another one.
     void PlaceAnew(bool withText);
+    // Its text goes, and with it text and key of the cell. Raises TextChange where the cell had one.
+    void Empty();
     void ForgetSearch() { search_.clear(); }
 
     // -- The list, as hosts reach it --

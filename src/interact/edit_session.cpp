@@ -98,6 +98,16 @@ void EditSession::TakePendingSelection(EditBox& box)
     box.SetSelLength(pendingSelLength_);
 }
 
+void EditSession::EmptyContent()
+{
+    if (!IsOpen())
+        return;
+    if (text_.IsVisible())
+        text_.Box().SetText({});
+    else if (combo_.IsVisible())
+        combo_.Empty();
+}
+
 // -- Opening --
 
 bool EditSession::HasEditorFor(i32 mode) const

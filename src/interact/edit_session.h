@@ -54,6 +54,8 @@ public:
     // Columns were added in front of the cell, or taken away there.
     void AdjustForCols(int delta);
     void SetAutoResize(bool autoResize);
+    // Of the editor that shows: its text goes, and with it that of the cell.
+    void EmptyContent();
     // Gives the focus to the editor that the mode of the cell asks for, or to the one that shows.
     void TakeFocus();
     void TakeFocusShown();

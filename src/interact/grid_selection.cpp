@@ -35,20 +35,6 @@ void GridSelection::Collapse()
     End = Anchor;
 }
 
-// A column is inserted, takes over what the moved one was, and the place left behind is deleted.
-void GridSelection::MoveColLeft(int from, int to)
-{
-    if (ranges_.Mode() == SelectionKind::Cells)
-        ranges_.RemoveAll();
-    if (ranges_.Mode() != SelectionKind::Cols)
-        return;
-    const bool wasSelected = ranges_.IsColSelected(from);
-    ranges_.InsertItems(to, 1);
-    if (wasSelected)
-        ranges_.AddCols(false, to, to);
-    ranges_.DeleteItems(from + 1, 1);
-}
-
 bool GridSelection::Invert()
 {
     switch (ranges_.Mode()) {

@@ -46,8 +46,6 @@ public:
 
     // Nothing is selected any more, and selecting goes on from the current cell if that is not fixed.
     void Collapse();
-    // A column went to a place further left, and its mark with it.
-    void MoveColLeft(int from, int to);
     // The lines that are not selected, in place of those that are. False when no lines are.
     bool Invert();
 

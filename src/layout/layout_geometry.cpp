@@ -23,12 +23,6 @@ int BorderTwips(i32 borderStyle)
     }
 }
 
-// Cells of a span; 0 means one.
-int SpanLength(i16 span)
-{
-    return std::max<int>(span, 1);
-}
-
 // No narrowing: the walk ends as soon as the lines pass the client area.
 template <class SizeOf> int FirstForLast(int last, int firstScrolling, int frozen, int client, SizeOf sizeOf)
 {
@@ -83,12 +77,8 @@ Point LayoutEngine::CellOriginInTwips(int row, int col, Size twipsPerPixel, i32 
 
 Size LayoutEngine::CellSpanSize(int row, int col) const
 {
-    const Cell& cell = store_.CellAt(row, col);
-    const int parentRow = ToI16(row + cell.ParentRow());
-    const int parentCol = ToI16(col + cell.ParentCol());
-    const Cell& parent = store_.CellAt(parentRow, parentCol);
-    const int lastRow = ToI16(parentRow + SpanLength(parent.RowSpan()) - 1);
-    const int lastCol = ToI16(parentCol + SpanLength(parent.ColSpan()) - 1);
+    const auto [parentRow, parentCol] = ParentCell(store_, row, col);
+    const auto [lastRow, lastCol] = LastCoveredCell(store_, parentRow, parentCol);
     return { sums_.AddWidths(0, parentCol, lastCol), sums_.AddHeights(0, parentRow, lastRow) };
 }
 

@@ -59,6 +59,16 @@ void Cell::ClearSpan()
     ReleasePlainExtras();
 }
 
+void Cell::CopyContents(const Cell& other)
+{
+    if (this == &other)
+        return;
+    OrOutOfMemory([&] { text_ = other.text_; });
+    format_ = other.format_;
+    SetKey(other.Key());
+    SetPicture(other.Picture());
+}
+
 void Cell::ClearContents()
 {
     text_.Clear();

@@ -62,6 +62,9 @@ public:
     // Whether anything but text and format is set.
     bool HasExtras() const { return extras_ != nullptr; }
 
+    // Takes text, key, picture and format number; span and pressed state stay.
+    void CopyContents(const Cell& other);
+
     // Empties text and picture, as a line that is made anew does; key and span stay.
     void ClearContents();
 

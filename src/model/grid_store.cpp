@@ -92,6 +92,11 @@ void GridStore::EditColCells(int col, int firstRow, int lastRow, const CellEdit&
     RewriteBlocks(rows_, firstRow, lastRow, col, [&](CellBlock& block) { edit(block.Edit(col)); });
 }
 
+void GridStore::EditRowBlocks(int firstRow, int lastRow, const CellBlockEdit& edit)
+{
+    RewriteBlocks(rows_, firstRow, lastRow, NoPrefetch, [&](CellBlock& block) { edit(block.EditAll()); });
+}
+
 void GridStore::EditColDefaults(int col, const FormatEdit& edit)
 {
     SweepFormats();

@@ -13,6 +13,7 @@
 #include "vornix/types.h"
 
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -53,6 +54,7 @@ struct Column {
 };
 
 using CellEdit = std::function<void(Cell&)>;
+using CellBlockEdit = std::function<void(std::span<Cell>)>;
 
 // References to rows, columns and cells hold until the next operation that changes the arrays or writes cells; those to
 // formats until the next write of a format. A Row or Column taken out as a copy must be back before the next write of a
@@ -106,6 +108,8 @@ public:
     void EditRectFormats(int firstRow, int firstCol, int lastRow, int lastCol, const FormatEdit& edit);
     // The same for what is not a format. Rows that share their cells go on sharing them: the edit runs once for all.
     void EditColCells(int col, int firstRow, int lastRow, const CellEdit& edit);
+    // All cells of a row together, the filler's included.
+    void EditRowBlocks(int firstRow, int lastRow, const CellBlockEdit& edit);
     const CellFormat& ColDefaults(int col) const { return formats_[ColumnAt(col).CellDefaults]; }
     void EditColDefaults(int col, const FormatEdit& edit);
     void SetColDefaults(int col, const CellFormat& format);

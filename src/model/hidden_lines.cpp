@@ -62,14 +62,29 @@ void HiddenLines::UpdateChain(int row, int heightBefore, int heightAfter)
 
 void HiddenLines::RebuildChain()
 {
-    const int first = store_.FixedRows();
-    const int last = store_.LastRowIndex();
-    if (last < first)
+    RelinkRows(store_.FixedRows(), store_.LastRowIndex());
+}
+
+void HiddenLines::RelinkRows(int first, int last)
+{
+    const int firstOfChain = store_.FixedRows();
+    const int lastOfChain = store_.LastRowIndex();
+    if (lastOfChain < firstOfChain)
         return;
-    int previous = first;
-    store_.RowAt(first).PrevSkip = 0;
-    for (int row = first + 1; row <= last; ++row) {
-        if (row < last && store_.HeightOf(row) == 0) {
+    int previous = std::min(first, lastOfChain) - 1;
+    while (previous > firstOfChain && store_.HeightOf(previous) == 0)
+        --previous;
+    previous = std::max(previous, firstOfChain);
+    LinkFrom(previous, std::max(last, previous));
+    store_.RowAt(firstOfChain).PrevSkip = 0;
+    store_.RowAt(lastOfChain).NextSkip = 0;
+}
+
+void HiddenLines::LinkFrom(int previous, int last)
+{
+    const int lastOfChain = store_.LastRowIndex();
+    for (int row = previous + 1; row <= lastOfChain && previous <= last; ++row) {
+        if (row < lastOfChain && store_.HeightOf(row) == 0) {
             store_.RowAt(row).NextSkip = 0;
             store_.RowAt(row).PrevSkip = 0;
             continue;
@@ -77,7 +92,6 @@ void HiddenLines::RebuildChain()
         Link(previous, row);
         previous = row;
     }
-    store_.RowAt(last).NextSkip = 0;
 }
 
 void HiddenLines::EndChain()

@@ -27,6 +27,8 @@ public:
 
     // After heights of many rows were stored: the chain anew, in one pass.
     void RebuildChain();
+    // After rows first..last came, went (a last one before the first) or were exchanged: they and their neighbours.
+    void RelinkRows(int first, int last);
 
     // The neighbours of a row by its links, always ahead of it and behind it, however stale the links are. Not bounded
     // by the ends of the chain.
@@ -41,6 +43,8 @@ private:
     bool IsLinked(int row) const;
     void TakeOut(int row);
     void PutIn(int row);
+    // Rows behind `previous` by their heights, up to the first in the chain that lies behind `last`.
+    void LinkFrom(int previous, int last);
     // Makes two rows neighbours in the chain.
     void Link(int row, int next);
 

@@ -1,28 +1,12 @@
 #include "model/spans.h"
 
 #include "automation/checked.h"
+#include "model/span_direction.h"
 
 #include <algorithm>
 #include <string>
 
 namespace vornix {
-
-// A span grows along columns or along rows; the other direction is across.
-struct Spans::Direction {
-    bool isColumns;
-
-    int Place(CellIndex cell) const { return isColumns ? cell.col : cell.row; }
-    int PlaceAcross(CellIndex cell) const { return isColumns ? cell.row : cell.col; }
-    CellIndex At(int across, int place) const
-    {
-        return isColumns ? CellIndex { across, place } : CellIndex { place, across };
-    }
-    int Bound(const GridStore& store) const { return isColumns ? store.MaxCol() : store.MaxRow(); }
-    int BoundAcross(const GridStore& store) const { return isColumns ? store.MaxRow() : store.MaxCol(); }
-    i16 Stored(const Cell& cell) const { return isColumns ? cell.ColSpan() : cell.RowSpan(); }
-    i16 StoredAcross(const Cell& cell) const { return isColumns ? cell.RowSpan() : cell.ColSpan(); }
-    void Store(Cell& cell, i16 span) const { isColumns ? cell.SetColSpan(span) : cell.SetRowSpan(span); }
-};
 
 namespace {
 
@@ -34,17 +18,44 @@ int SizeOf(i16 stored)
 
 } // namespace
 
+CellIndex ParentCell(const GridStore& store, int row, int col)
+{
+    const Cell& cell = store.CellAt(row, col);
+    const CellIndex parent { row + cell.ParentRow(), col + cell.ParentCol() };
+    return parent.row >= 0 && parent.col >= 0 ? parent : CellIndex { row, col };
+}
+
+CellIndex LastCoveredCell(const GridStore& store, int row, int col)
+{
+    const Cell& cell = store.CellAt(row, col);
+    return { std::min(row + SizeOf(cell.RowSpan()) - 1, std::max<int>(store.LastRowIndex(), row)),
+        std::min(col + SizeOf(cell.ColSpan()) - 1, std::max<int>(store.LastColIndex(), col)) };
+}
+
+void LinkToParent(GridStore& store, CellIndex child, CellIndex parent)
+{
+    // A cell that stands as it is keeps its row's cells shared.
+    const Cell& before = store.CellAt(child.row, child.col);
+    const i16 parentRow = ToI16(parent.row - child.row);
+    const i16 parentCol = ToI16(parent.col - child.col);
+    if (before.ParentRow() == parentRow && before.ParentCol() == parentCol)
+        return;
+    Cell& cell = store.EditCell(child.row, child.col);
+    cell.SetParentCol(parentCol);
+    cell.SetParentRow(parentRow);
+}
+
 i16 Spans::SetColSpan(int row, int col, i16 span, bool force)
 {
-    return SetSpan({ .isColumns = true }, { row, col }, span, force);
+    return SetSpan(SpanDirection::Cols(), { row, col }, span, force);
 }
 
 i16 Spans::SetRowSpan(int row, int col, i16 span, bool force)
 {
-    return SetSpan({ .isColumns = false }, { row, col }, span, force);
+    return SetSpan(SpanDirection::Rows(), { row, col }, span, force);
 }
 
-i16 Spans::SetSpan(const Direction& along, CellIndex cell, i16 span, bool force)
+i16 Spans::SetSpan(const SpanDirection& along, CellIndex cell, i16 span, bool force)
 {
     const Cell& parent = store_.CellAt(cell.row, cell.col);
     if (span == 0)
@@ -54,8 +65,10 @@ i16 Spans::SetSpan(const Direction& along, CellIndex cell, i16 span, bool force)
     const int end = ToI16(place + span);
     if (end > along.Bound(store_) || placeAcross >= along.BoundAcross(store_))
         return along.Stored(parent);
-    if (!force && parent.IsChild())
+    if (!force && parent.IsChild()) {
         RemoveSpanAt(ParentOf(cell.row, cell.col));
+        ClearLinks(cell);
+    }
 
     const Cell& alone = store_.CellAt(cell.row, cell.col);
     const int endAcross = std::min(placeAcross + SizeOf(along.StoredAcross(alone)), along.BoundAcross(store_));
@@ -66,7 +79,7 @@ i16 Spans::SetSpan(const Direction& along, CellIndex cell, i16 span, bool force)
             const CellIndex child = along.At(across, target);
             if (!force)
                 Free(child);
-            LinkToParent(child, cell);
+            LinkToParent(store_, child, cell);
         }
         if (force)
             continue;
@@ -87,22 +100,9 @@ void Spans::Free(CellIndex cell)
         RemoveSpanAt(ParentOf(cell.row, cell.col));
 }
 
-void Spans::LinkToParent(CellIndex child, CellIndex parent)
-{
-    // A cell that stands as it is keeps its row's cells shared.
-    const Cell& before = store_.CellAt(child.row, child.col);
-    const i16 parentRow = ToI16(parent.row - child.row);
-    const i16 parentCol = ToI16(parent.col - child.col);
-    if (before.ParentRow() == parentRow && before.ParentCol() == parentCol)
-        return;
-    Cell& cell = store_.EditCell(child.row, child.col);
-    cell.SetParentCol(parentCol);
-    cell.SetParentRow(parentRow);
-}
-
 void Spans::ClearLinks(CellIndex cell)
 {
-    LinkToParent(cell, cell);
+    LinkToParent(store_, cell, cell);
 }
 
 void Spans::RemoveSpan(int row, int col)
@@ -136,20 +136,14 @@ void Spans::RemoveSpansAcrossCol(int col)
             RemoveSpanAt(ParentOf(row, col));
 }
 
-CellIndex Spans::ParentOf(int row, int col) const
-{
-    const Cell& cell = store_.CellAt(row, col);
-    return { row + cell.ParentRow(), col + cell.ParentCol() };
-}
-
 int Spans::RowsCovered(int row, int col) const
 {
-    return SizeOf(store_.CellAt(row, col).RowSpan());
+    return LastCoveredCell(store_, row, col).row - row + 1;
 }
 
 int Spans::ColsCovered(int row, int col) const
 {
-    return SizeOf(store_.CellAt(row, col).ColSpan());
+    return LastCoveredCell(store_, row, col).col - col + 1;
 }
 
 bool Spans::MergeEqualRows(int col, bool useKey, const TextsEqual& equal)

@@ -20,6 +20,16 @@ struct CellIndex {
 // Whether two texts count as equal.
 using TextsEqual = std::function<bool(std::u16string_view, std::u16string_view)>;
 
+// The parent of a cell, or the cell itself; so also for one whose link leads nowhere, as rows that were exchanged leave
+// them behind.
+CellIndex ParentCell(const GridStore& store, int row, int col);
+// The last cell that a parent covers, as far as the store goes.
+CellIndex LastCoveredCell(const GridStore& store, int row, int col);
+// A cell is a child of the parent of its rectangle, and of no other.
+void LinkToParent(GridStore& store, CellIndex child, CellIndex parent);
+
+struct SpanDirection;
+
 class Spans {
 public:
     explicit Spans(GridStore& store)
@@ -39,8 +49,7 @@ public:
     void RemoveSpansAcrossRow(int row);
     void RemoveSpansAcrossCol(int col);
 
-    // The parent of a cell, or the cell itself.
-    CellIndex ParentOf(int row, int col) const;
+    CellIndex ParentOf(int row, int col) const { return ParentCell(store_, row, col); }
     // The cells a parent covers in each direction, 1 and more.
     int RowsCovered(int row, int col) const;
     int ColsCovered(int row, int col) const;
@@ -52,13 +61,10 @@ public:
     void RemoveMergedRows(int col);
 
 private:
-    struct Direction;
-
-    i16 SetSpan(const Direction& along, CellIndex cell, i16 span, bool force);
+    i16 SetSpan(const SpanDirection& along, CellIndex cell, i16 span, bool force);
     void RemoveSpanAt(CellIndex cell);
     // Makes way at a cell that a growing span takes.
     void Free(CellIndex cell);
-    void LinkToParent(CellIndex child, CellIndex parent);
     void ClearLinks(CellIndex cell);
 
     GridStore& store_;

@@ -172,8 +172,9 @@ bool PaintWalk::ResolveSpan(int& row, int& col, int firstRow, int firstCol) cons
     const Cell& cell = context_.store.CellAt(row, col);
     if (!cell.IsChild())
         return true;
-    const int parentRow = row + cell.ParentRow();
-    const int parentCol = col + cell.ParentCol();
+    const auto [parentRow, parentCol] = ParentCell(context_.store, row, col);
+    if (parentRow == row && parentCol == col)
+        return true;
     const bool scrolledOut = parentRow < firstRow || parentCol < firstCol;
     if (scrolledOut) {
         // The clipped span is drawn from the first visible row or column of it.
@@ -239,9 +240,7 @@ CellPlacement PaintWalk::PlacementOf(int row, int col, int firstRow, int firstCo
         if (col != firstCol)
             place.source.x += SumWidths(col, firstCol - 1);
     }
-    const Cell& cell = context_.store.CellAt(row, col);
-    const int lastRow = row + std::max<int>(cell.RowSpan(), 1) - 1;
-    const int lastCol = col + std::max<int>(cell.ColSpan(), 1) - 1;
+    const auto [lastRow, lastCol] = LastCoveredCell(context_.store, row, col);
     place.size = { SumWidths(col, lastCol), SumHeights(row, lastRow) };
     return place;
 }

@@ -1,4 +1,3 @@
-#include "control/column_move.h"
 #include "control/control.h"
 #include "control/grid_fixture.h"
 
@@ -171,65 +170,6 @@ TEST_F(ShuffledColumns, SelectedCellsAreNotAnyMoreWhenAColumnMoves)
     Shuffle({ 1, 0, 2, 3 });
     control.RestoreColumnOrder();
     EXPECT_EQ(control.selection.Ranges().CountCells(), 0);
-}
-
-class MovedSpans : public ShuffledColumns {
-protected:
-    void Span(int row, int col, i16 rows, i16 cols)
-    {
-        control.spans.SetColSpan(row, col, cols);
-        control.spans.SetRowSpan(row, col, rows);
-    }
-    void Move(int from, int to) { ColumnMove(control.store, control.spans).MoveLeft(from, to); }
-    CellIndex Parent(int row, int col) { return control.spans.ParentOf(row, col); }
-};
-
-TEST_F(MovedSpans, ASpanInBetweenMovesAlong)
-{
-    Span(0, 1, 2, 2);
-    Move(4, 1);
-    EXPECT_EQ(Parent(1, 3), (CellIndex { 0, 2 }));
-    EXPECT_EQ(control.store.CellAt(0, 2).ColSpan(), 2);
-    EXPECT_EQ(control.store.CellAt(0, 2).RowSpan(), 2);
-    EXPECT_EQ(Parent(0, 1), (CellIndex { 0, 1 }));
-}
-
-TEST_F(MovedSpans, ASpanTakesInTheColumnThatEntersIt)
-{
-    Span(0, 1, 1, 2);
-    Move(4, 2);
-    EXPECT_EQ(control.store.CellAt(0, 1).ColSpan(), 3);
-    EXPECT_EQ(Parent(0, 3), (CellIndex { 0, 1 }));
-    EXPECT_EQ(Parent(0, 4), (CellIndex { 0, 4 }));
-}
-
-TEST_F(MovedSpans, ASpanLosesTheColumnThatLeavesIt)
-{
-    Span(0, 2, 1, 3);
-    Move(4, 1);
-    EXPECT_EQ(Parent(0, 1), (CellIndex { 0, 1 }));
-    EXPECT_EQ(control.store.CellAt(0, 3).ColSpan(), 2);
-    EXPECT_EQ(Parent(0, 4), (CellIndex { 0, 3 }));
-    EXPECT_EQ(Parent(0, 2), (CellIndex { 0, 2 }));
-}
-
-TEST_F(MovedSpans, AParentTakesItsSizeAlong)
-{
-    Span(0, 3, 1, 2);
-    Move(3, 1);
-    EXPECT_EQ(control.store.CellAt(0, 1).ColSpan(), 2);
-    EXPECT_EQ(Parent(0, 2), (CellIndex { 0, 1 }));
-    EXPECT_LE(control.store.CellAt(0, 4).ColSpan(), 1);
-    EXPECT_EQ(Parent(0, 4), (CellIndex { 0, 4 }));
-}
-
-TEST_F(MovedSpans, VerticalSpansAndSpansOutsideStayWhole)
-{
-    Span(0, 4, 2, 1);
-    Span(0, 0, 1, 2);
-    Move(4, 2);
-    EXPECT_EQ(Parent(1, 2), (CellIndex { 0, 2 }));
-    EXPECT_EQ(Parent(0, 1), (CellIndex { 0, 0 }));
 }
 
 } // namespace

@@ -243,38 +243,6 @@ TEST_F(GridSelectionTest, ADragFollowsThePaintedEndWhileItIsTold)
     EXPECT_EQ(selection.DragRows().last, 6);
 }
 
-TEST_F(GridSelectionTest, AColumnThatMovesTakesItsMarkAlong)
-{
-    const auto selected = [&] {
-        std::vector<int> cols;
-        for (int col = 0; col < 9; ++col) {
-            if (selection.Ranges().IsColSelected(col))
-                cols.push_back(col);
-        }
-        return cols;
-    };
-    selection.Ranges().AddCols(true, 6, 6);
-    selection.MoveColLeft(6, 3);
-    EXPECT_THAT(selected(), ElementsAre(3));
-    selection.MoveColLeft(5, 2);
-    EXPECT_THAT(selected(), ElementsAre(4)) << "one that stands behind the target is pushed";
-    selection.MoveColLeft(3, 2);
-    EXPECT_THAT(selected(), ElementsAre(4));
-    selection.Ranges().AddCols(true, 2, 6);
-    selection.MoveColLeft(7, 4);
-    EXPECT_THAT(selected(), ElementsAre(2, 3, 5, 6, 7)) << "it is not selected by going into a range";
-}
-
-TEST_F(GridSelectionTest, AColumnThatMovesEmptiesASelectionOfCellsAndLeavesRows)
-{
-    selection.Ranges().AddRows(true, 2, 3);
-    selection.MoveColLeft(5, 2);
-    EXPECT_EQ(selection.Ranges().CountRows(), 2);
-    selection.Ranges().AddCells(true, 2, 2, 3, 3);
-    selection.MoveColLeft(5, 2);
-    EXPECT_EQ(selection.Ranges().Count(), 0);
-}
-
 // A control whose parts are within reach, painting into the window of the container.
 class PaintedDrag : public GridTest {
 protected:

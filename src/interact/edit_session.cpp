@@ -103,7 +103,7 @@ void EditSession::EmptyContent()
     if (!IsOpen())
         return;
     if (text_.IsVisible())
-        text_.Box().SetText({});
+        text_.Empty();
     else if (combo_.IsVisible())
         combo_.Empty();
 }

@@ -158,6 +158,14 @@ void TextCellEditor::SetAutoResize(bool autoResize)
 // -- What the user does --
 
 // The engine may have gone on behind a handler that has closed this editor and opened one of another kind.
+void TextCellEditor::Empty()
+{
+    box_.SetText({});
+    const CellIndex cell = edited_.Cell();
+    if (context_.store.CellAt(cell.row, cell.col).HasText())
+        edited_.WriteText({});
+}
+
 void TextCellEditor::Change()
 {
     if (IsVisible() && edited_.IsOpen())

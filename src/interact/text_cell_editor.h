@@ -24,6 +24,8 @@ public:
     bool SetFocus() { return window_.SetFocus(); }
     // Place and look of the cell, and its text where that may be another one.
     void PlaceAnew(bool withText);
+    // Its text goes, and with it that of the cell. Raises TextChange where the cell had one.
+    void Empty();
     void SetAutoResize(bool autoResize);
 
 private:

@@ -64,7 +64,28 @@ const std::vector<Deed>& Deeds()
                 host.Grid().SetRowSpan(0, 0, 6);
                 host.Grid().SetColSpan(0, 0, 4);
             } },
-        { "moves a column", [](HeadlessContainer& host) { host.Grid().ReOrderCols(); } },
+        { "inserts lines",
+            [](HeadlessContainer& host) {
+                host.Grid().InsertRows(0, 3);
+                host.Grid().InsertCols(0, 2);
+            } },
+        { "deletes lines",
+            [](HeadlessContainer& host) {
+                host.Grid().DeleteRows(0, host.Grid().Rows());
+                host.Grid().DeleteCols(1, 2);
+            } },
+        { "moves lines",
+            [](HeadlessContainer& host) {
+                host.Grid().MoveRow(1, 5);
+                host.Grid().MoveCol(2, 0);
+                host.Grid().ReOrderCols();
+            } },
+        { "exchanges lines",
+            [](HeadlessContainer& host) {
+                host.Grid().SetRowSpan(0, 0, 4);
+                host.Grid().SwapRows(1, 7);
+                host.Grid().SwapCols(0, 2);
+            } },
         { "scrolls",
             [](HeadlessContainer& host) {
                 host.Grid().SetFirstRow(20);

@@ -36,6 +36,8 @@ FIGURES = {
     "type_masked_ratio": lambda time, _: beside(time, "type_masked", "QLineEdit"),
     "fill_list_ratio": lambda time, _: beside(time, "fill_list", "QComboBox"),
     "search_list_ratio": lambda time, _: beside(time, "search_list", "QComboBox"),
+    "autosize_ratio": lambda time, _: beside(time, "fit_column"),
+    "autosize_row_ratio": lambda time, _: beside(time, "fit_row"),
     "insert_top_ratio": lambda time, _: beside(time, "insert_top"),
     "insert_top_shown_ratio": lambda time, _: beside(time, "insert_top_shown"),
     "select_all_ratio": lambda time, _: time["Vornix/select_all_rows"] / time["Vornix/select_one_row"],

@@ -57,6 +57,38 @@ TEST_F(QtSizingTest, TheEdgeOfARowIsDragged)
     EXPECT_EQ(Grid().RowHeight(2), 33);
 }
 
+TEST_F(QtSizingTest, ADoubleClickOnTheEdgeFitsTheColumn)
+{
+    Grid().SetText(3, 1, u"wider than sixty pixels");
+    const QPoint edge(60 + 2 * 60 - 2, 10);
+    MoveTo(edge);
+    Click(edge);
+    DoubleClick(edge);
+    i32 width = 0;
+    i32 height = 0;
+    Grid().CalcRectText(3, 1, width, height);
+    EXPECT_GT(width, 60);
+    EXPECT_EQ(Grid().ColWidth(1), width);
+    EXPECT_EQ(Grid().ColWidth(0), 60);
+    EXPECT_FALSE(Grid().IsSizingMode());
+    EXPECT_THAT(SaidNames(), Contains("ResizeCol"));
+}
+
+TEST_F(QtSizingTest, ADoubleClickOnTheEdgeFitsTheRow)
+{
+    Grid().SetText(2, 3, u"one\rtwo\rthree");
+    const QPoint edge(30, 20 + 3 * 20 - 2);
+    MoveTo(edge);
+    Click(edge);
+    DoubleClick(edge);
+    i32 width = 0;
+    i32 height = 0;
+    Grid().CalcRectText(2, 3, width, height);
+    EXPECT_EQ(Grid().RowHeight(2), height + 1);
+    EXPECT_GT(Grid().RowHeight(2), 40);
+    EXPECT_THAT(SaidNames(), Contains("ResizeRow"));
+}
+
 TEST_F(QtSizingTest, TheHostHasTheLastWord)
 {
     handlers.OnResizeCol = [](i16, i16& NewWidth) { NewWidth = 100; };

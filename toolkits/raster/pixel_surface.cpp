@@ -304,6 +304,13 @@ int PixelSurface::DrawText(std::u16string_view text, Rect& rect, u32 format)
     return height;
 }
 
+int PixelSurface::MeasureText(std::u16string_view text, Rect& rect, u32 format)
+{
+    if (format & DT_TABSTOP)
+        return DrawText(text, rect, format | DT_CALCRECT);
+    return MeasureTextAside(text, rect, format, font_);
+}
+
 void PixelSurface::SetClip(const Rect* clip)
 {
     view_.clip = clip ? Intersect(DeviceRect(*clip), stored_) : stored_;

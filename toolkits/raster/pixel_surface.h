@@ -65,6 +65,7 @@ public:
     ColorRef GetBkColor() const override { return backColor_; }
     void SetBkMode(BackgroundMode mode) override { backMode_ = mode; }
     int DrawText(std::u16string_view text, Rect& rect, u32 format) override;
+    int MeasureText(std::u16string_view text, Rect& rect, u32 format) override;
 
     void SetClip(const Rect* clip) override;
 

@@ -24,6 +24,21 @@ public:
     void Take(const PlacedLine&) override { }
 };
 
+// With DT_TABSTOP these bits are a number.
+bool Measures(u32 format)
+{
+    return (format & DT_CALCRECT) && !(format & DT_TABSTOP);
+}
+
+int TakeExtent(LineLayout& layout, std::u16string_view text, Rect& rect)
+{
+    NoLines none;
+    const LineLayout::Extent extent = layout.LayOut(text, none);
+    rect.right = rect.left + extent.widest;
+    rect.bottom = extent.bottom;
+    return extent.bottom - rect.top;
+}
+
 Rect ClipFor(const PixelView& view, const Rect& rect, u32 format)
 {
     // With DT_TABSTOP these bits are a number.
@@ -44,13 +59,8 @@ int DrawTextOnPixels(const PixelView& view, std::u16string_view text, Rect& rect
     Font& resolved = engine.Resolve(font);
     rect = Near(rect);
     LineLayout layout(engine, resolved, rect, format);
-    if ((format & DT_CALCRECT) && !(format & DT_TABSTOP)) {
-        NoLines none;
-        const LineLayout::Extent extent = layout.LayOut(text, none);
-        rect.right = rect.left + extent.widest;
-        rect.bottom = extent.bottom;
-        return extent.bottom - rect.top;
-    }
+    if (Measures(format))
+        return TakeExtent(layout, text, rect);
     const Rect clip = ClipFor(view, rect, format);
     if (clip.IsEmpty() || !view.pixels) {
         NoLines none;
@@ -59,6 +69,15 @@ int DrawTextOnPixels(const PixelView& view, std::u16string_view text, Rect& rect
     LinePainter painter(engine, resolved, view, clip, colors);
     painter.Decorate(layout, rect, format, font);
     return layout.LayOut(text, painter).bottom - rect.top;
+}
+
+int MeasureTextAside(std::u16string_view text, Rect& rect, u32 format, const FontDescription& font)
+{
+    TextEngine& engine = TextEngine::OfThread();
+    engine.BeginCall();
+    rect = Near(rect);
+    LineLayout layout(engine, engine.Resolve(font), rect, format | DT_CALCRECT, TextEngine::Keep::No);
+    return TakeExtent(layout, text, rect);
 }
 
 FontMetrics MeasureFont(const FontDescription& font)

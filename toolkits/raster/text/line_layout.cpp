@@ -78,11 +78,12 @@ char32_t CharacterBefore(std::u16string_view text, std::size_t unit)
 
 } // namespace
 
-LineLayout::LineLayout(TextEngine& engine, Font& font, const Rect& rect, u32 format)
+LineLayout::LineLayout(TextEngine& engine, Font& font, const Rect& rect, u32 format, TextEngine::Keep keep)
     : engine_(engine)
     , font_(font)
     , rect_(rect)
     , format_(format)
+    , keep_(keep)
     , lineHeight_(font.Metrics().lineHeight)
     , scratch_(Scratch::OfThread())
 {
@@ -253,7 +254,7 @@ bool LineLayout::CanBreakBefore(std::u16string_view text, std::size_t unit) cons
 
 void LineLayout::MeasureWindow(std::u16string_view text, std::size_t start, std::size_t end)
 {
-    scratch_.window.Read(engine_.Line(font_, text.substr(start, end - start), rightToLeft_));
+    scratch_.window.Read(Shaped(text.substr(start, end - start)));
     scratch_.windowStart = start;
 }
 
@@ -320,7 +321,7 @@ std::u16string_view LineLayout::VisiblePart(std::u16string_view text)
         = !measures_ && clips_ && !rightToLeft_ && !(format_ & (DT_CENTER | DT_RIGHT | DT_PATH_ELLIPSIS));
     for (std::size_t units = WindowUnits; fromLeft && units < std::min(LongestLine, text.size()); units *= 2) {
         const std::u16string_view part = CutUtf16(text, units);
-        const ShapedLine& line = engine_.Line(font_, part, false);
+        const ShapedLine& line = Shaped(part);
         if (line.bidirectional)
             break;
         if (ExtentOf(line.width) > rect_.Width())
@@ -335,7 +336,12 @@ float LineLayout::Measure(std::u16string_view text, ShapedLine*& shaped)
         shaped = nullptr;
         return ForEachSegment(text, [](const ShapedLine&, float) {});
     }
-    shaped = &engine_.Line(font_, text, rightToLeft_);
+    if (keep_ == TextEngine::Keep::No && !rightToLeft_) {
+        shaped = nullptr;
+        if (const std::optional<float> width = Shaper::PlainWidth(font_, text))
+            return *width;
+    }
+    shaped = &Shaped(text);
     return shaped->width;
 }
 
@@ -345,7 +351,7 @@ float LineLayout::Measure(std::u16string_view text, ShapedLine*& shaped)
 std::size_t LineLayout::UnitsThatFit(std::u16string_view text, float room)
 {
     Advances& advances = scratch_.line;
-    advances.Read(engine_.Line(font_, text, rightToLeft_));
+    advances.Read(Shaped(text));
     float x = 0;
     std::size_t fitting = 0;
     for (std::size_t unit = 0; unit < text.size(); ++unit) {

@@ -42,7 +42,9 @@ public:
         int bottom = 0;
     };
 
-    LineLayout(TextEngine& engine, Font& font, const Rect& rect, u32 format);
+    // `keep` is for the lines that are shaped on the way; what is not kept is only to be measured.
+    LineLayout(
+        TextEngine& engine, Font& font, const Rect& rect, u32 format, TextEngine::Keep keep = TextEngine::Keep::Yes);
 
     // Hands the lines over from top to bottom, those the rectangle shows or, with DT_NOCLIP and DT_CALCRECT, all.
     Extent LayOut(std::u16string_view text, LineSink& sink);
@@ -56,7 +58,7 @@ public:
         float x = 0;
         while (true) {
             const std::size_t tab = text.find(u'\t');
-            ShapedLine& segment = engine_.Line(font_, text.substr(0, tab), rightToLeft_);
+            ShapedLine& segment = Shaped(text.substr(0, tab));
             const float width = segment.width;
             take(segment, x);
             x += width;
@@ -77,6 +79,7 @@ private:
         std::size_t next = 0;
     };
 
+    ShapedLine& Shaped(std::u16string_view text) { return engine_.Line(font_, text, rightToLeft_, keep_); }
     void LayOutHardLine(std::u16string_view raw, bool isLastOfText);
     void BreakIntoLines(std::u16string_view text, int mark, bool isLastOfText);
     Break FindBreak(std::u16string_view text, std::size_t start);
@@ -105,6 +108,7 @@ private:
     Font& font_;
     Rect rect_;
     u32 format_;
+    TextEngine::Keep keep_;
     bool isSingle_;
     bool breaksWords_;
     bool measures_;

@@ -29,6 +29,35 @@ bool IsIdeographic(hb_script_t script)
     return script == HB_SCRIPT_HAN;
 }
 
+// Over the glyphs of a plain line from left to right: how far a unit moves by its kerning, and where its glyph stands.
+// Gives the width; nothing when the line is not plain. Every caller gets the same sums.
+template <typename Move, typename Take>
+std::optional<float> WalkPlain(Font& font, std::u16string_view text, const Move& move, const Take& take)
+{
+    FontFace& face = font.Face();
+    const float scale = font.UnitsToPixels();
+    float x = 0;
+    char16_t before = u' ';
+    for (std::size_t unit = 0; unit < text.size(); ++unit) {
+        const char16_t character = text[unit];
+        const int index = SimpleIndex(character);
+        if (index < 0)
+            return std::nullopt;
+        const Font::SimpleGlyph& simple = font.Simple(index, character);
+        if (simple.glyph == 0)
+            return std::nullopt;
+        if (const int kerning = face.Kerning(before, character)) {
+            const float distance = static_cast<float>(kerning) * scale;
+            move(unit, distance);
+            x += distance;
+        }
+        take(unit, x, simple);
+        x += simple.advance;
+        before = character;
+    }
+    return x;
+}
+
 } // namespace
 
 Shaper::Shaper(FontLibrary& library)
@@ -68,30 +97,21 @@ const Shaper::Result& Shaper::Shape(Font& font, std::u16string_view text, bool r
 bool Shaper::ShapeSimple(Font& font, std::u16string_view text)
 {
     result_.glyphs.resize(text.size());
-    FontFace& face = font.Face();
-    const float scale = font.UnitsToPixels();
     ShapedGlyph* glyphs = result_.glyphs.data();
-    float x = 0;
-    char16_t before = u' ';
-    for (std::size_t unit = 0; unit < text.size(); ++unit) {
-        const char16_t character = text[unit];
-        const int index = SimpleIndex(character);
-        if (index < 0)
-            return false;
-        const Font::SimpleGlyph& simple = font.Simple(index, character);
-        if (simple.glyph == 0)
-            return false;
-        if (const int kerning = face.Kerning(before, character)) {
-            const float move = static_cast<float>(kerning) * scale;
-            glyphs[unit - 1].advance += move;
-            x += move;
-        }
-        glyphs[unit] = { x, 0, simple.advance, simple.glyph, static_cast<u32>(unit), face.Id(), 100 };
-        x += simple.advance;
-        before = character;
-    }
-    result_.width = x;
-    return true;
+    const u16 face = font.Face().Id();
+    const std::optional<float> width = WalkPlain(
+        font, text, [glyphs](std::size_t unit, float move) { glyphs[unit - 1].advance += move; },
+        [glyphs, face](std::size_t unit, float x, const Font::SimpleGlyph& simple) {
+            glyphs[unit] = { x, 0, simple.advance, simple.glyph, static_cast<u32>(unit), face, 100 };
+        });
+    result_.width = width.value_or(0);
+    return width.has_value();
+}
+
+std::optional<float> Shaper::PlainWidth(Font& font, std::u16string_view text)
+{
+    return WalkPlain(
+        font, text, [](std::size_t, float) {}, [](std::size_t, float, const Font::SimpleGlyph&) {});
 }
 
 void Shaper::Decode(std::u16string_view text)

@@ -6,6 +6,7 @@
 #include "shaped_line.h"
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -31,6 +32,9 @@ public:
     // One line, without line breaks: a line feed and a tab show as spaces, other controls not at all. The result is
     // valid until the next call.
     const Result& Shape(Font& font, std::u16string_view text, bool rightToLeft);
+
+    // The width that Shape gives a plain line, without its glyphs; nothing for any other line.
+    static std::optional<float> PlainWidth(Font& font, std::u16string_view text);
 
     const Result& Last() const { return result_; }
     FallbackFinder& Fallback() { return fallback_; }

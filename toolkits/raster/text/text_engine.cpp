@@ -54,22 +54,28 @@ void TextEngine::BeginCall()
     lines_.Clear();
 }
 
-ShapedLine& TextEngine::Line(Font& font, std::u16string_view text, bool rightToLeft)
+ShapedLine& TextEngine::Line(Font& font, std::u16string_view text, bool rightToLeft, Keep keep)
 {
-    if (text.size() > LongestCachedLine) {
-        const Shaper::Result& shaped = shaper_.Shape(font, text, rightToLeft);
-        longLine_.resize(ShapedLine::BytesFor(text.size(), shaped.glyphs.size()));
-        return Fill(*new (longLine_.data()) ShapedLine, font, text, rightToLeft);
-    }
+    if (text.size() > LongestCachedLine)
+        return ShapeAside(font, text, rightToLeft);
     const std::uint64_t hash = HashLine(font.Id(), text, rightToLeft);
     ShapedLine* known = lines_.Find(hash, [&](const ShapedLine& line) {
         return line.font == font.Id() && line.rightToLeft == rightToLeft && line.Text() == text;
     });
     if (known)
         return *known;
+    if (keep == Keep::No)
+        return ShapeAside(font, text, rightToLeft);
     const Shaper::Result& shaped = shaper_.Shape(font, text, rightToLeft);
     ShapedLine* line = lines_.Add(hash, ShapedLine::BytesFor(text.size(), shaped.glyphs.size()));
     return Fill(*line, font, text, rightToLeft);
+}
+
+ShapedLine& TextEngine::ShapeAside(Font& font, std::u16string_view text, bool rightToLeft)
+{
+    const Shaper::Result& shaped = shaper_.Shape(font, text, rightToLeft);
+    aside_.resize(ShapedLine::BytesFor(text.size(), shaped.glyphs.size()));
+    return Fill(*new (aside_.data()) ShapedLine, font, text, rightToLeft);
 }
 
 ShapedLine& TextEngine::Fill(ShapedLine& line, const Font& font, std::u16string_view text, bool rightToLeft)

@@ -24,8 +24,12 @@ public:
 
     Font& Resolve(const FontDescription& description) { return library_.Resolve(description); }
 
+    // Whether a line that was not in the cache enters it. Lines that are only measured, by the thousands, would push out
+    // those that are painted again.
+    enum class Keep { No, Yes };
+
     // The line shaped, from the cache where it is short enough. Valid until the next call.
-    ShapedLine& Line(Font& font, std::u16string_view text, bool rightToLeft);
+    ShapedLine& Line(Font& font, std::u16string_view text, bool rightToLeft, Keep keep = Keep::Yes);
 
     FontLibrary& Library() { return library_; }
     Shaper& Shaping() { return shaper_; }
@@ -39,6 +43,7 @@ public:
 private:
     TextEngine();
 
+    ShapedLine& ShapeAside(Font& font, std::u16string_view text, bool rightToLeft);
     ShapedLine& Fill(ShapedLine& line, const Font& font, std::u16string_view text, bool rightToLeft);
 
     FontLibrary library_;
@@ -46,8 +51,8 @@ private:
     GlyphCache glyphs_;
     StripStore strips_ { library_, glyphs_ };
     GenerationCache<ShapedLine> lines_;
-    // A line too long for the cache.
-    std::vector<std::byte> longLine_;
+    // A line that is not in the cache.
+    std::vector<std::byte> aside_;
 };
 
 } // namespace vornix

@@ -24,6 +24,10 @@ struct TextColors {
 int DrawTextOnPixels(const PixelView& view, std::u16string_view text, Rect& rect, u32 format,
     const FontDescription& font, const TextColors& colors);
 
+// What DrawTextOnPixels does with DT_CALCRECT, for texts that will not be drawn soon: their lines are not cached. Not for
+// DT_TABSTOP, with which that flag is part of a number.
+int MeasureTextAside(std::u16string_view text, Rect& rect, u32 format, const FontDescription& font);
+
 // Logical pixels.
 struct FontMetrics {
     int ascent = 0;

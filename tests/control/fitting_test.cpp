@@ -192,9 +192,11 @@ TEST_F(FittingTest, TheTitleIsLeftOut)
 
 TEST_F(FittingTest, SplitColumnsAreCutAtTheWholeArea)
 {
+    Table(20, 12, 1, 1); // with a bar, as a split needs it
     Grid().SetScrollHBar(vxNormalScroll);
     Grid().SetShowSplit(true);
     Grid().SetSplitCols(1);
+    ASSERT_EQ(Grid().SplitCols(), 1);
     Widen(1, 0, std::u16string(200, u'm'));
     EXPECT_EQ(Grid().ColWidth(0), 640 - 30);
     Grid().SetColWidth(0, 120);

@@ -140,3 +140,21 @@ TEST(Surface, DrawsTextWithinItsClip)
     EXPECT_EQ(left, 0);
     EXPECT_GT(right, 20);
 }
+
+TEST(Surface, MeasuresTextsAsDrawTextDoes)
+{
+    const std::unique_ptr<RasterSurface> surface = WhiteSurface(60, 40);
+    surface->SelectFont({ .face = u"DejaVu Sans", .height = -12 });
+    const std::vector<u32> before = PixelsOf(*surface);
+    const std::u16string_view text = u"words\tthat & break\r\u05E9\u05DC\u05D5\u05DD";
+    // With DT_TABSTOP the flag that measures is a part of the number of a tab's characters.
+    for (const u32 format : { 0U, DT_WORDBREAK, DT_SINGLELINE | DT_END_ELLIPSIS, DT_EXPANDTABS, DT_RTLREADING,
+             DT_NOPREFIX | DT_WORDBREAK | DT_EXTERNALLEADING, DT_EXPANDTABS | DT_TABSTOP }) {
+        Rect measured { 2, 3, 42, 13 };
+        Rect drawn = measured;
+        const int height = surface->MeasureText(text, measured, format);
+        EXPECT_TRUE(PixelsOf(*surface) == before || (format & DT_TABSTOP)) << format;
+        EXPECT_EQ(surface->DrawText(text, drawn, format | DT_CALCRECT), height) << format;
+        EXPECT_EQ(measured, drawn) << format;
+    }
+}

@@ -755,6 +755,48 @@ public:
     // The row that was added last; -1 when it is gone.
     i16 ComboNewIndex() const;
 
+    // -- Sort --
+
+    // Sorts the rows that are not fixed by the columns of SortOrder; hidden rows too. A row moves as a whole, with its
+    // height; the current cell and the first row stay where they are. Takes back SpanRows everywhere, and spans over rows
+    // that part; a selection of rows or cells ends. Closes the editor and raises AfterEdit. Repaints. The sort is not
+    // stable: the order of rows with equal keys is the method's own, always the same. Without SortOrder a message box says
+    // so, and nothing else happens. Error 9 for a key whose column is no more, 6 for 29524 rows and more: no row has moved.
+    void Sort();
+    // The place of a column among the keys, from 1, the most significant; 0 for none. Writing it makes the column the last
+    // key, at that place: keys behind are dropped, so that 1 begins anew; places that open before it are taken by the
+    // outermost column. Each writing turns the column's SortCriteria around: first vxAsc, then vxDesc, vxAsc, ... Values
+    // below 1 or above the number of columns, fixed ones counted twice, and columns that are not there are ignored. The keys
+    // stay for good and do not follow columns that move.
+    i16 SortOrder(i16 Col) const;
+    void SetSortOrder(i16 Col, i16 Value);
+    // How a column is sorted, whatever its place; they sort nothing themselves. vxOrderEnum: all but vxDesc is ascending.
+    i32 SortCriteria(i16 Col) const;
+    void SetSortCriteria(i16 Col, i32 Value);
+    // vxTypeColEnum. vxAlphaNum compares without regard to case, the first three characters before the whole; vxNumeric
+    // and vxDate read the values in the container's locale, 0 for what is no number and ahead of all dates what is none.
+    // Other values take no part in the order.
+    i32 SortType(i16 Col) const;
+    void SetSortType(i16 Col, i32 Value);
+    // By keys instead of texts.
+    bool SortUseKey(i16 Col) const;
+    void SetSortUseKey(i16 Col, bool Value);
+
+    // -- Search --
+
+    // Walks a column down the rows that are not fixed, or a row across the columns that are not, hidden ones too, and
+    // raises SearchResult for each text (eType vxText) or key (vxKey) that is the one looked for, with its row or column
+    // in Pos; the walk goes on behind Pos, wherever the host moves it. Gives the number of hits. Nothing is selected or scrolled.
+    //
+    // Case does not count. A Wildcard at the front of SearchString, at its end or at both finds texts that end with the
+    // rest, begin with it or contain it; one that stands only inside finds nothing. SearchRow alone compares the ends of keys to
+    // the letter. Error 5 for a SearchString that begins and ends with the same Wildcard, 6 for more than 32767 hits and for a Pos that
+    // leaves 16 bits, 9 for a Pos outside the table.
+    i16 SearchRow(
+        i32 eType, i16 Col, std::u16string_view SearchString, i16 IdSearch, std::u16string_view Wildcard = u"");
+    i16 SearchCol(
+        i32 eType, i16 Row, std::u16string_view SearchString, i16 IdSearch, std::u16string_view Wildcard = u"");
+
     // -- Virtual mode, as far as it is read --
 
     // Rows of the page, 0 without virtual mode; place of the page in the list.

@@ -47,25 +47,23 @@ bool IsTiny(const std::string& digits)
     return point - static_cast<std::int64_t>(firstDigit) + ExponentOf(digits) <= 0;
 }
 
-double MagnitudeOf(const ParsedNumber& number)
+// Nothing for a number that is too large.
+std::optional<double> MagnitudeOf(const ParsedNumber& number)
 {
     if (number.kind == ParsedNumber::Kind::Bits)
         return static_cast<double>(number.bits);
     double value = 0;
     const char* end = number.digits.data() + number.digits.size();
     const auto [rest, error] = std::from_chars(number.digits.data(), end, value);
-    if (error == std::errc::result_out_of_range) {
-        if (!IsTiny(number.digits))
-            RaiseError(ErrorNumber::Overflow);
-        value = 0;
-    }
-    return value;
+    if (error != std::errc::result_out_of_range)
+        return value;
+    return IsTiny(number.digits) ? std::optional(0.0) : std::nullopt;
 }
 
-double ValueOf(const ParsedNumber& number)
+std::optional<double> ValueOf(const ParsedNumber& number)
 {
-    const double magnitude = MagnitudeOf(number);
-    return number.isNegative ? -magnitude : magnitude;
+    const std::optional<double> magnitude = MagnitudeOf(number);
+    return magnitude && number.isNegative ? -*magnitude : magnitude;
 }
 
 DecimalDigits DigitsOf(const ParsedNumber& number)
@@ -102,15 +100,13 @@ template <typename Signed, typename Unsigned> Signed PatternOf(const ParsedNumbe
 
 bool IsNumeric(std::u16string_view text, const Locale& locale)
 {
+    return NumberIn(text, locale).has_value();
+}
+
+std::optional<double> NumberIn(std::u16string_view text, const Locale& locale)
+{
     const std::optional<ParsedNumber> number = ParseNumber(text, locale);
-    if (!number)
-        return false;
-    try {
-        MagnitudeOf(*number);
-        return true;
-    } catch (const AutomationError&) {
-        return false;
-    }
+    return number ? ValueOf(*number) : std::nullopt;
 }
 
 bool IsDate(std::u16string_view text, const Locale& locale)
@@ -154,7 +150,10 @@ DecimalValue TextToDecimal(std::u16string_view text, const Locale& locale)
 
 double TextToR8(std::u16string_view text, const Locale& locale)
 {
-    return ValueOf(ParseNumberOrRaise(text, locale));
+    const std::optional<double> value = ValueOf(ParseNumberOrRaise(text, locale));
+    if (!value)
+        RaiseError(ErrorNumber::Overflow);
+    return *value;
 }
 
 bool TextToBool(std::u16string_view text, const Locale& locale)

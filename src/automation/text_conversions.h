@@ -7,12 +7,15 @@
 #include "vornix/types.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace vornix {
 
 bool IsNumeric(std::u16string_view text, const Locale& locale = BuiltinLocale());
+// The value of a text that is numeric; nothing for another one.
+std::optional<double> NumberIn(std::u16string_view text, const Locale& locale = BuiltinLocale());
 bool IsDate(std::u16string_view text, const Locale& locale = BuiltinLocale());
 
 // Fractions go to the nearest integer, ties to the even one. Hexadecimal and octal texts fill the bits of the type:

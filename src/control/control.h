@@ -7,6 +7,7 @@
 #include "control/event_relay.h"
 #include "control/grid_interaction.h"
 #include "control/repaint_funnel.h"
+#include "data/sort_keys.h"
 #include "interact/check_toggle.h"
 #include "interact/current_cell.h"
 #include "interact/current_cell_mover.h"
@@ -63,6 +64,7 @@ public:
     CurrentCell current;
     GridSelection selection;
     TableEdit tableEdit;
+    SortKeyList sortKeys;
     ShellSettings settings;
 
     VirtualModeControl virtualMode;

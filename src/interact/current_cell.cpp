@@ -30,6 +30,12 @@ void CurrentCell::AdjustForCols(const GridStore& store, int position, int delta)
     ClearIfOutside(store);
 }
 
+void CurrentCell::AdjustForSort(const GridStore& store)
+{
+    if (row_ == None && store.Rows() > 0)
+        row_ = store.FixedRows();
+}
+
 void CurrentCell::ClearIfOutside(const GridStore& store)
 {
     if (row_ < 0 || row_ >= store.MaxRow() || col_ < 0 || col_ >= store.MaxCol())

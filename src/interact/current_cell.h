@@ -68,6 +68,9 @@ public:
     // lines then is forgotten.
     void AdjustForRows(const GridStore& store, int position, int delta);
     void AdjustForCols(const GridStore& store, int position, int delta);
+    // The cell stays where it is when rows are sorted. Where there is none, the first row takes the place of the current
+    // row, and still no cell is current.
+    void AdjustForSort(const GridStore& store);
 
 private:
     void ClearIfOutside(const GridStore& store);

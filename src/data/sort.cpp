@@ -1,0 +1,91 @@
+#include "data/sort.h"
+
+#include "automation/checked.h"
+
+#include <utility>
+
+namespace vornix {
+
+namespace {
+
+using RowOrder = std::vector<RowSortKey>;
+
+// The first of the gaps 1, 4, 13, ... above the number of rows. The gaps are 16 bits wide: error 6 behind 29524.
+i16 GapAbove(int rows)
+{
+    i16 gap = 1;
+    do
+        gap = ToI16(3 * gap + 1);
+    while (gap <= rows);
+    return gap;
+}
+
+// One pass: every row walks forward over those, a gap apart, that belong behind it.
+void InsertByGap(RowOrder& rows, const SortKeys& keys, int gap)
+{
+    const auto at = [&](int place) -> RowSortKey& { return rows[static_cast<std::size_t>(place)]; };
+    const int count = static_cast<int>(rows.size());
+    for (int i = gap; i < count; ++i) {
+        const RowSortKey pivot = at(i);
+        int j = i - gap;
+        for (; j >= 0 && keys.IsBehind(at(j), pivot); j -= gap)
+            at(j + gap) = at(j);
+        at(j + gap) = pivot;
+    }
+}
+
+void ShellSort(RowOrder& rows, const SortKeys& keys, int firstRow)
+{
+    i16 gap = GapAbove(static_cast<int>(rows.size()));
+    do {
+        gap /= 3;
+        ToI16(firstRow + gap); // where the pass begins
+        InsertByGap(rows, keys, gap);
+    } while (gap != 1);
+}
+
+// A child of a span counts the rows to its parent, which holds only while they are neighbours.
+void RemoveTornSpans(Spans& spans, const RowOrder& rows, int firstRow)
+{
+    int above = firstRow - 1;
+    for (const RowSortKey& row : rows) {
+        if (row.SourceRow > 0 && row.SourceRow != above + 1)
+            spans.RemoveSpansAcrossRow(row.SourceRow);
+        above = row.SourceRow;
+    }
+}
+
+// Moves each row once, along the circles in which they take each other's places.
+void MoveRows(GridStore& store, RowOrder& rows, int firstRow)
+{
+    constexpr i16 Moved = -1;
+    const auto sourceOf = [&](int row) -> i16& { return rows[static_cast<std::size_t>(row - firstRow)].SourceRow; };
+    for (int row = firstRow; row < firstRow + static_cast<int>(rows.size()); ++row) {
+        if (sourceOf(row) == Moved || sourceOf(row) == row)
+            continue;
+        Row first = std::move(store.RowAt(row));
+        int place = row;
+        for (int source = sourceOf(place); source != row; source = sourceOf(place)) {
+            store.RowAt(place) = std::move(store.RowAt(source));
+            sourceOf(place) = Moved;
+            place = source;
+        }
+        store.RowAt(place) = std::move(first);
+        sourceOf(place) = Moved;
+    }
+}
+
+} // namespace
+
+void SortRows(GridStore& store, Spans& spans, HiddenLines& hidden, std::span<const i16> cols, const Locale& locale)
+{
+    const int firstRow = store.FixedRows();
+    const SortKeys keys(store, cols, locale);
+    RowOrder rows = keys.Rows();
+    ShellSort(rows, keys, firstRow);
+    RemoveTornSpans(spans, rows, firstRow);
+    MoveRows(store, rows, firstRow);
+    hidden.RebuildChain();
+}
+
+} // namespace vornix

@@ -40,6 +40,7 @@ FIGURES = {
     "autosize_row_ratio": lambda time, _: beside(time, "fit_row"),
     "insert_top_ratio": lambda time, _: beside(time, "insert_top"),
     "insert_top_shown_ratio": lambda time, _: beside(time, "insert_top_shown"),
+    "sort_ratio": lambda time, _: beside(time, "sort", "QSortFilterProxyModel"),
     "select_all_ratio": lambda time, _: time["Vornix/select_all_rows"] / time["Vornix/select_one_row"],
     "hit_test_us": lambda time, _: time["Vornix/hit_test"] / TO_MILLISECONDS["us"],
     "cell_origin_us": lambda time, _: time["Vornix/cell_origin"] / TO_MILLISECONDS["us"],

@@ -3,6 +3,7 @@
 #include "automation/case_mapping.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <iterator>
 #include <utility>
@@ -203,7 +204,7 @@ constexpr std::uint32_t FurtherSymbolWeight = 0x10000;
 constexpr std::uint32_t DigitWeight = 0x20000;
 constexpr std::uint32_t LetterWeight = 0x30000;
 
-std::uint32_t PrimaryWeight(char16_t unit)
+std::uint32_t ReckonPrimaryWeight(char16_t unit)
 {
     if (unit >= u'0' && unit <= u'9')
         return DigitWeight + unit;
@@ -213,6 +214,17 @@ std::uint32_t PrimaryWeight(char16_t unit)
     if (symbol != std::u16string_view::npos)
         return SymbolWeight + static_cast<std::uint32_t>(symbol);
     return (IsFurtherSymbol(unit) ? FurtherSymbolWeight : LetterWeight) + unit;
+}
+
+std::uint32_t PrimaryWeight(char16_t unit)
+{
+    static const auto ascii = [] {
+        std::array<std::uint32_t, 0x80> weights {};
+        for (char16_t each = 0; each < weights.size(); ++each)
+            weights[each] = ReckonPrimaryWeight(each);
+        return weights;
+    }();
+    return unit < ascii.size() ? ascii[unit] : ReckonPrimaryWeight(unit);
 }
 
 struct Element {
@@ -264,6 +276,19 @@ private:
     char16_t pending_ = 0;
 };
 
+// The units that both begin with, as far as they make the same elements whatever follows: marks belong to the unit that
+// they stand behind.
+std::size_t CommonLength(std::u16string_view a, std::u16string_view b)
+{
+    const auto differing = std::mismatch(a.begin(), a.end(), b.begin(), b.end());
+    auto length = static_cast<std::size_t>(differing.first - a.begin());
+    const auto isMarkAt
+        = [&](std::u16string_view text) { return length < text.size() && IsCombiningMark(text[length]); };
+    while (length > 0 && (isMarkAt(a) || isMarkAt(b)))
+        --length;
+    return length;
+}
+
 int Sign(std::uint32_t a, std::uint32_t b)
 {
     return a < b ? -1 : a > b;
@@ -310,8 +335,9 @@ int CompareWordMarks(std::u16string_view a, std::u16string_view b)
 
 int CompareWordSort(std::u16string_view a, std::u16string_view b)
 {
-    ElementReader readerA(a);
-    ElementReader readerB(b);
+    const std::size_t same = CommonLength(a, b);
+    ElementReader readerA(a.substr(same));
+    ElementReader readerB(b.substr(same));
     int accentOrder = 0;
     while (true) {
         const Element elementA = readerA.Next();

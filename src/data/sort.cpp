@@ -2,6 +2,7 @@
 
 #include "automation/checked.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vornix {
@@ -44,14 +45,27 @@ void ShellSort(RowOrder& rows, const SortKeys& keys, int firstRow)
     } while (gap != 1);
 }
 
-// A child of a span counts the rows to its parent, which holds only while they are neighbours.
-void RemoveTornSpans(Spans& spans, const RowOrder& rows, int firstRow)
+// For each row in its old place, whether the one above it will be another.
+std::vector<bool> PartingRows(const RowOrder& rows, int firstRow)
 {
+    std::vector<bool> isParting(rows.size());
     int above = firstRow - 1;
     for (const RowSortKey& row : rows) {
-        if (row.SourceRow > 0 && row.SourceRow != above + 1)
-            spans.RemoveSpansAcrossRow(row.SourceRow);
+        isParting[static_cast<std::size_t>(row.SourceRow - firstRow)] = row.SourceRow != above + 1;
         above = row.SourceRow;
+    }
+    return isParting;
+}
+
+// A child of a span counts the rows to its parent, which holds only while they are neighbours.
+void RemoveTornSpans(const GridStore& store, Spans& spans, const RowOrder& rows, int firstRow)
+{
+    const auto isBelowItsParent = [](const Cell& cell) { return cell.ParentRow() < 0; };
+    const std::vector<bool> isParting = OrOutOfMemory([&] { return PartingRows(rows, firstRow); });
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const int row = firstRow + static_cast<int>(i);
+        if (isParting[i] && std::ranges::any_of(store.RowAt(row).Cells.All(), isBelowItsParent))
+            spans.RemoveSpansAcrossRow(row);
     }
 }
 
@@ -83,7 +97,7 @@ void SortRows(GridStore& store, Spans& spans, HiddenLines& hidden, std::span<con
     const SortKeys keys(store, cols, locale);
     RowOrder rows = keys.Rows();
     ShellSort(rows, keys, firstRow);
-    RemoveTornSpans(spans, rows, firstRow);
+    RemoveTornSpans(store, spans, rows, firstRow);
     MoveRows(store, rows, firstRow);
     hidden.RebuildChain();
 }

@@ -86,6 +86,13 @@ const std::vector<Deed>& Deeds()
                 host.Grid().SwapRows(1, 7);
                 host.Grid().SwapCols(0, 2);
             } },
+        { "sorts",
+            [](HeadlessContainer& host) {
+                host.Grid().SetText(0, 0, u"z");
+                host.Grid().SetSortOrder(0, 1);
+                host.Grid().Sort();
+            } },
+        { "searches", [](HeadlessContainer& host) { host.Grid().SearchCol(vxText, 0, u"", 1); } },
         { "scrolls",
             [](HeadlessContainer& host) {
                 host.Grid().SetFirstRow(20);

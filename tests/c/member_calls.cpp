@@ -97,7 +97,8 @@ vornix_value RightArgument(const vornix_argument_info& argument)
     case VORNIX_TYPE_COLOR:
         return Integer(0xFFFFFF);
     case VORNIX_TYPE_TEXT:
-        return Text(u"1");
+        // A text that is nothing but the wildcard is an error.
+        return Text(argument.name == std::string("Wildcard") ? u"*" : u"1");
     case VORNIX_TYPE_BOOLEAN:
         return Boolean(true);
     case VORNIX_TYPE_ARRAY:

@@ -192,6 +192,8 @@ const std::set<std::string> TakeAnyIndex {
     "PasteFromClipboard",
     // Does nothing.
     "getWidthHeightCell",
+    // A column that is not there is no key.
+    "SortOrder",
 };
 
 bool IsLine(const std::string& name)

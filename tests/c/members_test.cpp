@@ -371,11 +371,25 @@ std::map<std::string, Calling> EditingCallings()
     };
 }
 
+std::map<std::string, Calling> SortSearchCallings()
+{
+    const auto descending = [](vornix_grid* grid) {
+        LetOk(grid, "SortOrder", { Integer(1), Integer(1) });
+        LetOk(grid, "SortOrder", { Integer(1), Integer(1) });
+    };
+    const auto oneToFind = Writes("Text", { Integer(1), Integer(2), Integer(1) });
+    return {
+        { "Sort", { "empty", {}, descending, Reads("Text", { Integer(0), Integer(1) }, "text 31") } },
+        { "SearchRow", { "i16 1" } },
+        { "SearchCol", { "i16 1", {}, oneToFind } },
+    };
+}
+
 std::map<std::string, Calling> AllCallings()
 {
     std::map<std::string, Calling> all;
     for (auto&& part : { SpanCallings(), LineCallings(), ExchangeCallings(), SelectionCallings(), PlaceCallings(),
-             FittingCallings(), PointerCallings(), LookCallings(), EditingCallings() })
+             FittingCallings(), PointerCallings(), LookCallings(), EditingCallings(), SortSearchCallings() })
         all.insert(part.begin(), part.end());
     return all;
 }

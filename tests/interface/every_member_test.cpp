@@ -159,6 +159,11 @@ protected:
         Arguments arguments;
         for (const ValueType type : TypesOf(GetParam()))
             arguments.push_back(Right(type));
+        // A text that is nothing but the wildcard is an error.
+        const std::span<const ArgumentInfo> infos = GetParam().member->arguments;
+        for (std::size_t place = 0; place < infos.size(); ++place)
+            if (infos[place].name == "Wildcard")
+                arguments[place] = u"*";
         return arguments;
     }
     std::optional<int> ErrorWith(Arguments arguments)

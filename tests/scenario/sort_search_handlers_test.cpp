@@ -61,6 +61,8 @@ protected:
             host->Paint();
         else if (grid.Redraw())
             Try([&] { grid.Refresh(); });
+        if (grid.IsTerminated())
+            return;
         for (i16 Row = static_cast<i16>(-grid.FixedRows()); Row < grid.Rows(); ++Row) {
             for (i16 Col = static_cast<i16>(-grid.FixedCols()); Col < grid.Cols(); ++Col) {
                 const i16 parentRow = grid.ParentRow(Row, Col);

@@ -57,6 +57,19 @@ std::vector<bool> PartingRows(const RowOrder& rows, int firstRow)
     return isParting;
 }
 
+// The spans whose children lie in this row and whose parents above it. Rows that were exchanged may hold links that lead
+// nowhere: these stay as they are.
+void RemoveSpansFromAbove(const GridStore& store, Spans& spans, int row)
+{
+    for (int col = 0; col < store.MaxCol(); ++col) {
+        if (store.CellAt(row, col).ParentRow() >= 0)
+            continue;
+        const CellIndex parent = spans.ParentOf(row, col);
+        if (store.ContainsRow(parent.row) && store.ContainsCol(parent.col))
+            spans.RemoveSpan(parent.row, parent.col);
+    }
+}
+
 // A child of a span counts the rows to its parent, which holds only while they are neighbours.
 void RemoveTornSpans(const GridStore& store, Spans& spans, const RowOrder& rows, int firstRow)
 {
@@ -65,7 +78,7 @@ void RemoveTornSpans(const GridStore& store, Spans& spans, const RowOrder& rows,
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const int row = firstRow + static_cast<int>(i);
         if (isParting[i] && std::ranges::any_of(store.RowAt(row).Cells.All(), isBelowItsParent))
-            spans.RemoveSpansAcrossRow(row);
+            RemoveSpansFromAbove(store, spans, row);
     }
 }
 

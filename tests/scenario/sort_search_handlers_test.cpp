@@ -61,16 +61,6 @@ protected:
             host->Paint();
         else if (grid.Redraw())
             Try([&] { grid.Refresh(); });
-        if (grid.IsTerminated())
-            return;
-        for (i16 Row = static_cast<i16>(-grid.FixedRows()); Row < grid.Rows(); ++Row) {
-            for (i16 Col = static_cast<i16>(-grid.FixedCols()); Col < grid.Cols(); ++Col) {
-                const i16 parentRow = grid.ParentRow(Row, Col);
-                const i16 parentCol = grid.ParentCol(Row, Col);
-                ASSERT_GT(parentRow + std::max<int>(grid.RowSpan(parentRow, parentCol), 1), Row);
-                ASSERT_GT(parentCol + std::max<int>(grid.ColSpan(parentRow, parentCol), 1), Col);
-            }
-        }
     }
 };
 

@@ -252,5 +252,16 @@ TEST_F(SortTest, ASpanAcrossRowsThatPartIsTakenBack)
     }
 }
 
+// As rows that were exchanged leave them behind.
+TEST_F(SortTest, LinksThatLeadNowhereAreNoError)
+{
+    Fill({ u"c", u"a", u"b" });
+    store->EditCell(1, 2).SetParentRow(-5);
+    store->EditCell(2, 2).SetParentRow(-1);
+    store->EditCell(3, 2).SetRowSpan(9);
+    EXPECT_EQ(ErrorOf([&] { Sort(); }), 0);
+    EXPECT_THAT(Column(), ElementsAre(u"a", u"b", u"c"));
+}
+
 } // namespace
 } // namespace vornix

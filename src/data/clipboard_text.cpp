@@ -36,6 +36,18 @@ void AppendField(std::u16string& line, std::u16string_view text)
     line += Quote;
 }
 
+// Of all texts with what stands between them; a quote more or less at texts of several lines is not counted.
+std::size_t LengthOf(const GridStore& store, CellRectangle cells)
+{
+    std::size_t length = 0;
+    for (int row = cells.first.row; row <= cells.last.row; ++row) {
+        length += LineEnd.size();
+        for (int col = cells.first.col; col <= cells.last.col; ++col)
+            length += store.CellAt(row, col).TextLength() + 1;
+    }
+    return length;
+}
+
 bool IsQuote(char16_t unit)
 {
     return unit == Quote;
@@ -64,6 +76,7 @@ std::u16string CopiedText(const GridStore& store, CellRectangle cells)
 {
     return OrOutOfMemory([&] {
         std::u16string text;
+        text.reserve(LengthOf(store, cells));
         std::u16string scratch;
         std::size_t lineStart = 0;
         for (int row = cells.first.row; row <= cells.last.row; ++row) {
@@ -76,7 +89,9 @@ std::u16string CopiedText(const GridStore& store, CellRectangle cells)
                 AppendField(text, store.CellAt(row, col).TextView(scratch));
             }
         }
-        return text.size() == lineStart ? std::u16string() : text;
+        if (text.size() == lineStart)
+            text.clear();
+        return text;
     });
 }
 

@@ -35,6 +35,7 @@ public:
     std::u16string Text() const { return text_.ToString(); }
     std::u16string_view TextView(std::u16string& scratch) const { return text_.View(scratch); }
     bool HasText() const { return !text_.IsEmpty(); }
+    std::size_t TextLength() const { return text_.Length(); }
     bool TextEquals(std::u16string_view text) const { return text_.Equals(text); }
     void SetText(std::u16string_view text) { text_.Assign(text); }
 

@@ -13,28 +13,6 @@ namespace {
 
 constexpr std::size_t LongestValue = 48;
 
-// Upper case ASCII with one kind of blank; anything else stays as it is.
-std::u16string Normalized(std::u16string_view text)
-{
-    const auto isBlank = [](char16_t unit) { return unit == ' ' || unit == 0xA0 || unit == 0x202F || unit == 0x2009; };
-    while (!text.empty() && isBlank(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && isBlank(text.back()))
-        text.remove_suffix(1);
-    if (text.size() > LongestValue)
-        return {};
-    std::u16string normalized(text);
-    for (char16_t& unit : normalized) {
-        if (isBlank(unit))
-            unit = u' ';
-        else if (unit >= u'a' && unit <= u'z')
-            unit = static_cast<char16_t>(unit - u'a' + u'A');
-        else if (unit == 0x2212) // the minus sign of typesetters
-            unit = u'-';
-    }
-    return normalized;
-}
-
 struct Word {
     std::u16string_view text;
     bool value;
@@ -63,9 +41,30 @@ const Word* FindWord(std::u16string_view normalized)
 
 } // namespace
 
+std::u16string NormalizedValue(std::u16string_view text)
+{
+    const auto isBlank = [](char16_t unit) { return unit == ' ' || unit == 0xA0 || unit == 0x202F || unit == 0x2009; };
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back()))
+        text.remove_suffix(1);
+    if (text.size() > LongestValue)
+        return {};
+    std::u16string normalized(text);
+    for (char16_t& unit : normalized) {
+        if (isBlank(unit))
+            unit = u' ';
+        else if (unit >= u'a' && unit <= u'z')
+            unit = static_cast<char16_t>(unit - u'a' + u'A');
+        else if (unit == 0x2212) // the minus sign of typesetters
+            unit = u'-';
+    }
+    return normalized;
+}
+
 Content ContentOf(std::u16string_view text)
 {
-    const std::u16string value = Normalized(text);
+    const std::u16string value = NormalizedValue(text);
     if (value.empty())
         return 0;
     const Word* word = FindWord(value);
@@ -75,13 +74,13 @@ Content ContentOf(std::u16string_view text)
 
 std::optional<bool> TruthValueOf(std::u16string_view text)
 {
-    const Word* word = FindWord(Normalized(text));
+    const Word* word = FindWord(NormalizedValue(text));
     return word ? std::optional(word->value) : std::nullopt;
 }
 
 std::u16string OppositeTruthText(std::u16string_view text)
 {
-    const Word& word = *FindWord(Normalized(text));
+    const Word& word = *FindWord(NormalizedValue(text));
     std::u16string opposite(Words[static_cast<std::size_t>(&word - Words.data()) ^ 1].text);
     const std::u16string_view written = text.substr(text.find_first_not_of(u" \u00A0\u202F\u2009"));
     const auto isSmall = [](char16_t unit) { return unit >= u'a' && unit <= u'z'; };

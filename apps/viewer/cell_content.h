@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace vornix::viewer {
@@ -33,6 +34,9 @@ inline constexpr Content AnyMoney = MoneyWithPoint | MoneyWithComma;
 inline constexpr Content AnyNumber = AnyInteger | AnyReal | AnyMoney;
 inline constexpr Content AnyDate = DateOnly | DateAndTime;
 inline constexpr Content AnyTruthValue = WordTrueFalse | WordYesNo | LetterYesNo | LetterTrueFalse;
+
+// Upper case ASCII with one kind of blank, and none of them outside; empty where it is too long for a value.
+std::u16string NormalizedValue(std::u16string_view text);
 
 // Blanks around the text do not count. A number with leading zeros is none (it is a code), neither is one of more
 // than 18 digits. Days are tested against the month; where day and month could be either, both orders are tried.

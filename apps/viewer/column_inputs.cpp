@@ -52,7 +52,7 @@ std::set<std::u16string> ColumnInputs::RepeatedTexts(int column) const
 {
     std::set<std::u16string> different;
     int count = 0;
-    for (int row = 0; row < document_.Saved().RowCount(); ++row) {
+    for (const int row : document_.Rows()) {
         const std::u16string_view text = document_.Text(row, column);
         if (IsBlank(text) || !document_.CanChange(row, column))
             continue;
@@ -69,7 +69,7 @@ std::set<std::u16string> ColumnInputs::RepeatedTexts(int column) const
 
 bool ColumnInputs::HasOnlyWholeDates(int column) const
 {
-    for (int row = 0; row < document_.Saved().RowCount(); ++row) {
+    for (const int row : document_.Rows()) {
         const std::u16string_view text = document_.Text(row, column);
         if (!text.empty() && !IsWholeDate(text))
             return false;
@@ -84,7 +84,7 @@ std::vector<std::u16string> ColumnInputs::List(int column) const
     if (Kind(column) != InputKind::Choice)
         return {};
     std::set<std::u16string> texts = inputs_[static_cast<std::size_t>(column)].choices;
-    for (int row = 0; row < document_.Saved().RowCount(); ++row) {
+    for (const int row : document_.Rows()) {
         const std::u16string_view text = document_.Text(row, column);
         if (!IsBlank(text) && FitsList(text) && document_.CanChange(row, column))
             texts.emplace(text);

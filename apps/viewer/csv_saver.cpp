@@ -1,251 +1,28 @@
 #include "csv_saver.h"
 
-#include "csv_parser.h"
 #include "csv_reader.h"
+#include "csv_splicer.h"
 #include "file_replacement.h"
 #include "input_file.h"
 #include "text_encoder.h"
 #include "text_file.h"
 #include "unicode.h"
 
-#include <algorithm>
+#include <numeric>
+#include <set>
 
 namespace vornix::viewer {
 
 namespace {
 
-constexpr char16_t Quote = u'"';
-
-// Rows of columns and texts, as they are to stand in the file.
-using Rows = std::map<int, Edits::RowEdits>;
-
-// What takes the place of one field, by its place in all of the file's text.
-struct Replacement {
-    std::uint64_t begin = 0;
-    std::uint64_t end = 0;
-    std::u16string text;
-};
-
-bool NeedsQuotes(std::u16string_view text, char16_t separator, CsvQuoting quoting)
-{
-    constexpr std::u16string_view special = u"\"\r\n";
-    constexpr std::u16string_view anySeparator = u"\t;|,";
-    // A file of one column must not look like one of several.
-    if (separator == 0 || quoting == CsvQuoting::AllSeparators) {
-        if (text.find_first_of(anySeparator) != std::u16string_view::npos)
-            return true;
-    }
-    // The last two would be taken for something else at the beginning of a file.
-    return text.find_first_of(special) != std::u16string_view::npos
-        || (separator != 0 && text.find(separator) != std::u16string_view::npos) || text.starts_with(u'\uFEFF')
-        || text.starts_with(u"sep=");
-}
-
-std::u16string Quoted(std::u16string_view text)
-{
-    std::u16string quoted(1, Quote);
-    for (const char16_t unit : text) {
-        quoted += unit;
-        if (unit == Quote)
-            quoted += Quote;
-    }
-    return quoted + Quote;
-}
-
-// Reads texts as records and hands those of data rows on, by their number.
-class RowParser {
-public:
-    using RowFunction = std::function<void(int row, const CsvParser::Record& record)>;
-
-    RowParser(const CsvLayout& layout, const LoadLimits& limits, RowFunction onRow)
-        : onRow_(std::move(onRow))
-        , markerLength_(layout.markerLength)
-        , row_(layout.hasHeader ? -1 : 0)
-        , parser_(layout.separator, limits, [this](const CsvParser::Record& record) { Take(record); })
-    {
-    }
-
-    // The pieces of a whole file, the marker of its first line with them.
-    void Feed(std::u16string_view text)
-    {
-        const std::size_t passed = static_cast<std::size_t>(std::min<std::uint64_t>(markerLength_, text.size()));
-        markerLength_ -= passed;
-        parser_.Feed(text.substr(passed));
-    }
-    // Gives the number of rows.
-    std::uint64_t Finish()
-    {
-        parser_.Finish();
-        return static_cast<std::uint64_t>(row_);
-    }
-
-private:
-    void Take(const CsvParser::Record& record)
-    {
-        if (row_ >= 0 && row_ < MaxGridLines)
-            onRow_(static_cast<int>(row_), record);
-        ++row_;
-    }
-
-    RowFunction onRow_;
-    std::uint64_t markerLength_;
-    std::int64_t row_;
-    CsvParser parser_;
-};
-
-// Finds the fields that are to change.
-class FieldFinder {
-public:
-    FieldFinder(const CsvLayout& layout, const LoadLimits& limits, const Rows& rows, CsvQuoting quoting)
-        : layout_(layout)
-        , rows_(rows)
-        , quoting_(quoting)
-        , parser_(layout, limits, [this](int row, const CsvParser::Record& record) { Take(row, record); })
-    {
-    }
-
-    std::vector<Replacement> Find(InputFile& file)
-    {
-        TextFile text(file);
-        Parse(text);
-        if (text.Print() != layout_.print || text.HasFailed())
-            throw SaveError(ChangedMeanwhile);
-        rowCount_ = parser_.Finish();
-        return std::move(found_);
-    }
-    // Of data, once found.
-    std::uint64_t RowCount() const { return rowCount_; }
-
-private:
-    // What could be read once has other faults only when it is not the same any more.
-    void Parse(TextFile& text)
-    {
-        try {
-            while (text.Next())
-                parser_.Feed(text.Text());
-        } catch (const LoadError&) {
-            throw SaveError(ChangedMeanwhile);
-        }
-    }
-
-    void Take(int row, const CsvParser::Record& record)
-    {
-        const auto edits = rows_.find(row);
-        if (edits == rows_.end())
-            return;
-        for (const auto& [column, text] : edits->second) {
-            if (static_cast<std::size_t>(column) >= record.places.size())
-                throw SaveError(ChangedMeanwhile);
-            const CsvParser::Place& place = record.places[static_cast<std::size_t>(column)];
-            const bool isBlankLine = record.fields.size() == 1 && text.find_first_not_of(u' ') == std::u16string::npos;
-            const bool needsQuotes = place.isQuoted || isBlankLine || NeedsQuotes(text, layout_.separator, quoting_);
-            found_.push_back({ layout_.markerLength + place.begin, layout_.markerLength + place.end,
-                needsQuotes ? Quoted(text) : text });
-        }
-    }
-
-    const CsvLayout& layout_;
-    const Rows& rows_;
-    const CsvQuoting quoting_;
-    RowParser parser_;
-    std::vector<Replacement> found_;
-    std::uint64_t rowCount_ = 0;
-};
-
-// Reads what is written, to see that it says what it should.
-class ReadBack {
-public:
-    ReadBack(const CsvLayout& layout, const LoadLimits& limits, const Rows& rows)
-        : rows_(rows)
-        , parser_(layout, limits, [this](int row, const CsvParser::Record& record) { Take(row, record); })
-    {
-    }
-
-    void Feed(std::u16string_view text) { parser_.Feed(text); }
-    void Finish(std::uint64_t wantedRows)
-    {
-        if (parser_.Finish() != wantedRows || !isRight_ || rightRows_ != rows_.size())
-            throw SaveError("a changed text would not read as it was meant");
-    }
-
-private:
-    void Take(int row, const CsvParser::Record& record)
-    {
-        const auto edits = rows_.find(row);
-        if (edits == rows_.end())
-            return;
-        ++rightRows_;
-        for (const auto& [column, text] : edits->second) {
-            const auto index = static_cast<std::size_t>(column);
-            isRight_ = isRight_ && index < record.fields.size() && record.fields[index].text == text;
-        }
-    }
-
-    const Rows& rows_;
-    RowParser parser_;
-    bool isRight_ = true;
-    std::size_t rightRows_ = 0;
-};
-
-// Copies a text, piece by piece, with some of its fields replaced.
-class Splicer {
-public:
-    using TextFunction = std::function<void(std::u16string_view)>;
-
-    Splicer(const std::vector<Replacement>& replacements, TextFunction onText)
-        : next_(replacements.begin())
-        , end_(replacements.end())
-        , onText_(std::move(onText))
-    {
-    }
-
-    void Feed(std::u16string_view text)
-    {
-        const std::uint64_t pieceEnd = place_ + text.size();
-        for (; next_ != end_ && next_->begin < pieceEnd; ++next_) {
-            if (place_ < next_->begin)
-                Copy(next_->begin, text);
-            Skip(std::min(pieceEnd, next_->end), text);
-            if (next_->end > pieceEnd)
-                return; // the field goes on in the next piece
-            onText_(next_->text);
-        }
-        Copy(pieceEnd, text);
-    }
-    // An empty field at the end of the file begins where the last piece ended.
-    void Finish()
-    {
-        for (; next_ != end_; ++next_)
-            onText_(next_->text);
-    }
-
-private:
-    // Both go on to that place, which is not before the present one.
-    void Copy(std::uint64_t place, std::u16string_view& text)
-    {
-        onText_(text.substr(0, static_cast<std::size_t>(place - place_)));
-        Skip(place, text);
-    }
-    void Skip(std::uint64_t place, std::u16string_view& text)
-    {
-        text.remove_prefix(static_cast<std::size_t>(place - place_));
-        place_ = place;
-    }
-
-    std::vector<Replacement>::const_iterator next_;
-    const std::vector<Replacement>::const_iterator end_;
-    const TextFunction onText_;
-    std::uint64_t place_ = 0; // in all of the text
-};
-
 // Reads the old file again and writes the new one; gives the new one's fingerprint.
-std::uint64_t WriteSpliced(InputFile& file, std::uint64_t oldPrint, const std::vector<Replacement>& replacements,
-    ReadBack& readBack, FileReplacement& target)
+std::uint64_t WriteSpliced(InputFile& file, std::uint64_t oldPrint, const std::vector<Splice>& splices,
+    CsvReadBack& readBack, FileReplacement& target)
 {
     Fingerprint print;
     std::string bytes;
     TextFile source(file);
-    Splicer splicer(replacements, [&](std::u16string_view text) {
+    CsvSplicer splicer(splices, [&](std::u16string_view text) {
         readBack.Feed(text);
         AppendEncoded(text, source.Encoding().encoding, bytes);
     });
@@ -283,7 +60,9 @@ CsvSaver::CsvSaver(std::string path, const Table& table, const CsvLayout& layout
     , table_(table)
     , layout_(layout)
     , limits_(limits)
+    , order_(static_cast<std::size_t>(table.RowCount()))
 {
+    std::iota(order_.begin(), order_.end(), 0);
 }
 
 std::optional<std::string> CsvSaver::WhyReadOnly() const
@@ -297,31 +76,39 @@ bool CsvSaver::CanChange(int, int) const
     return true;
 }
 
-std::vector<CellText> CsvSaver::Save(const Edits& edits)
+SaveOutcome CsvSaver::Save(const Changes& changes)
 {
-    const Rows rows = StoredRows(edits);
-    std::vector<CellText> mended = Mended(edits); // whatever can fail comes before the file is there
+    const CsvPlan plan = PlanFor(changes);
+    // Whatever can fail comes before the file is there.
+    SaveOutcome outcome { Mended(changes) };
+    std::vector<int> order = OrderWith(changes);
     try {
-        if (!Write(rows, CsvQuoting::WhereNeeded) && !Write(rows, CsvQuoting::AllSeparators))
+        if (!Write(plan, CsvQuoting::WhereNeeded) && !Write(plan, CsvQuoting::AllSeparators))
             throw SaveError("the changed file would be taken for one with another separator");
     } catch (const LoadError& error) {
         throw SaveError(error.what());
     }
-    return mended;
+    order_ = std::move(order);
+    return outcome;
 }
 
 // False, and nothing done, when the new file would be read with another layout.
-bool CsvSaver::Write(const Rows& rows, CsvQuoting quoting)
+bool CsvSaver::Write(const CsvPlan& plan, CsvQuoting quoting)
 {
     InputFile file(path_);
     const FileIdentity identity = file.Identity();
-    FieldFinder finder(layout_, limits_, rows, quoting);
-    const std::vector<Replacement> replacements = finder.Find(file);
+    CsvFinder finder(layout_, limits_, plan, quoting);
+    TextFile text(file);
+    const std::vector<Splice> splices = finder.Find(text);
+    const bool isEmptied
+        = plan.AddedCount() == 0 && finder.RowCount() == static_cast<std::int64_t>(plan.removed.size());
+    if (isEmptied && !layout_.hasHeader)
+        throw SaveError("a file without column names needs a row, or nothing is left of it");
     file.Rewind();
-    ReadBack readBack(layout_, limits_, rows);
+    CsvReadBack readBack(layout_, limits_, plan);
     FileReplacement target(path_);
-    const std::uint64_t print = WriteSpliced(file, layout_.print, replacements, readBack, target);
-    readBack.Finish(finder.RowCount());
+    const std::uint64_t print = WriteSpliced(file, layout_.print, splices, readBack, target);
+    readBack.Finish(finder.RowCount(), finder.KeptPrint());
     if (!ReadsWith(layout_, target.TemporaryPath()))
         return false;
     target.Commit(identity);
@@ -339,26 +126,67 @@ std::u16string CsvSaver::Stored(int row, int column, std::u16string_view text) c
     return WellFormed(text);
 }
 
-std::map<int, Edits::RowEdits> CsvSaver::StoredRows(const Edits& edits) const
+CsvPlan::Fields CsvSaver::StoredFields(int row, const Edits::RowEdits& cells) const
 {
-    Rows rows;
-    for (const auto& [row, cells] : edits.Rows()) {
-        for (const auto& [column, text] : cells)
-            rows[row].emplace(column, Stored(row, column, text));
+    CsvPlan::Fields fields;
+    for (const auto& [column, text] : cells)
+        fields.emplace(column, Stored(row, column, text));
+    return fields;
+}
+
+CsvPlan CsvSaver::PlanFor(const Changes& changes) const
+{
+    std::map<int, std::int64_t> rows; // of records in the file
+    for (std::size_t row = 0; row < order_.size(); ++row)
+        rows.emplace(order_[row], static_cast<std::int64_t>(row));
+    CsvPlan plan;
+    for (const auto& [record, cells] : changes.Changed())
+        plan.changed.emplace(rows.at(record), StoredFields(record, cells));
+    for (const int record : changes.Removed())
+        plan.removed.insert(rows.at(record));
+    for (const Records::Addition& addition : changes.Added()) {
+        CsvPlan::NewRecord fields(table_.Columns().size());
+        for (auto& [column, text] : StoredFields(addition.record, changes.CellsOf(addition)))
+            fields[static_cast<std::size_t>(column)] = text;
+        plan.added[addition.behind < 0 ? CsvPlan::Top : rows.at(addition.behind)].push_back(std::move(fields));
     }
-    return rows;
+    return plan;
+}
+
+// Of the records in the file, once it is saved.
+std::vector<int> CsvSaver::OrderWith(const Changes& changes) const
+{
+    const std::set<int> removed(changes.Removed().begin(), changes.Removed().end());
+    auto next = changes.Added().begin();
+    std::vector<int> order;
+    const auto addBehind = [&](int record) {
+        for (; next != changes.Added().end() && next->behind == record; ++next)
+            order.push_back(next->record);
+    };
+    addBehind(-1);
+    for (const int record : order_) {
+        if (removed.contains(record))
+            continue;
+        order.push_back(record);
+        addBehind(record);
+    }
+    return order;
 }
 
 // The texts that no encoding can write as they are.
-std::vector<CellText> CsvSaver::Mended(const Edits& edits)
+std::vector<CellText> CsvSaver::Mended(const Changes& changes)
 {
     std::vector<CellText> mended;
-    for (const auto& [row, cells] : edits.Rows()) {
+    const auto mend = [&mended](int row, const Edits::RowEdits& cells) {
         for (const auto& [column, text] : cells) {
             if (std::u16string formed = WellFormed(text); formed != text)
                 mended.push_back({ row, column, std::move(formed) });
         }
-    }
+    };
+    for (const auto& [row, cells] : changes.Changed())
+        mend(row, cells);
+    for (const Records::Addition& addition : changes.Added())
+        mend(addition.record, changes.CellsOf(addition));
     return mended;
 }
 

@@ -81,6 +81,23 @@ std::string DatabaseRows::Update(const std::vector<int>& columns) const
         + List(layout_.key);
 }
 
+std::string DatabaseRows::Insert(const std::vector<int>& columns) const
+{
+    std::vector<std::string> names;
+    std::string places;
+    for (const int column : columns) {
+        names.push_back(layout_.columns[static_cast<std::size_t>(column)].name);
+        places += places.empty() ? "?" : ", ?";
+    }
+    const std::string values = columns.empty() ? " DEFAULT VALUES" : " (" + List(names) + ") VALUES (" + places + ")";
+    return "INSERT OR ABORT INTO " + sqlite::QuotedName(layout_.name) + values + " RETURNING " + List(layout_.key);
+}
+
+std::string DatabaseRows::Delete() const
+{
+    return "DELETE FROM " + sqlite::QuotedName(layout_.name) + WhereKey();
+}
+
 DatabaseRow DatabaseRows::Read(const sqlite::Statement& statement) const
 {
     DatabaseRow row;
@@ -96,8 +113,16 @@ DatabaseRow DatabaseRows::Read(const sqlite::Statement& statement) const
 bool DatabaseRows::HasKey(int row) const
 {
     const std::vector<sqlite::Value>& key = Row(row).key;
-    return std::none_of(key.begin(), key.end(),
-        [](const sqlite::Value& value) { return std::holds_alternative<std::monostate>(value); });
+    return !key.empty() && std::none_of(key.begin(), key.end(), [](const sqlite::Value& value) {
+        return std::holds_alternative<std::monostate>(value);
+    });
+}
+
+void DatabaseRows::Replace(int row, DatabaseRow read)
+{
+    if (row >= Count())
+        rows_.resize(static_cast<std::size_t>(row) + 1);
+    rows_[static_cast<std::size_t>(row)] = std::move(read);
 }
 
 void DatabaseRows::SetLocked(int row, int column, bool isLocked)

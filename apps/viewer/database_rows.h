@@ -36,17 +36,25 @@ public:
     // The parameters are the columns' new values, then those of the key; gives the key as it is then. Whatever the table
     // says, no other row is removed for it.
     std::string Update(const std::vector<int>& columns) const;
+    // The parameters are the columns' values; the others get what the table gives them. Gives the new row's key. No other
+    // row is removed for it.
+    std::string Insert(const std::vector<int>& columns) const;
+    // The parameters are the key's values.
+    std::string Delete() const;
 
     // The row that the statement stands on, before any of its values was read as UTF-16.
     DatabaseRow Read(const sqlite::Statement& statement) const;
 
-    // The rows count as the table's do.
+    // The rows count as the table's do; some are not in the database.
     int Count() const { return static_cast<int>(rows_.size()); }
-    // False where a part of the key is null, by which a row cannot be found again.
+    // False where a part of the key is null, by which a row cannot be found again, and of rows that are not there.
     bool HasKey(int row) const;
     const DatabaseRow& Row(int row) const { return rows_[static_cast<std::size_t>(row)]; }
     void Append(DatabaseRow row) { rows_.push_back(std::move(row)); }
-    void Replace(int row, DatabaseRow read) { rows_[static_cast<std::size_t>(row)] = std::move(read); }
+    // Makes room for it where it is a new one.
+    void Replace(int row, DatabaseRow read);
+    bool IsThere(int row) const { return !Row(row).key.empty(); }
+    void Remove(int row) { Replace(row, {}); }
 
     // A cell shows something other than its value: a blob, or bytes that are no text.
     bool IsLocked(int row, int column) const { return locked_.contains({ row, column }); }

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <optional>
+#include <utility>
 
 namespace vornix::viewer {
 
@@ -19,6 +20,7 @@ public:
     }
 
     bool IsAtEnd() const { return rest_.empty(); }
+    std::size_t Length() const { return rest_.size(); }
     bool Take(char16_t unit)
     {
         if (!rest_.starts_with(unit))
@@ -77,25 +79,50 @@ bool IsDate(int year, int month, int day)
     return day <= lengths[static_cast<std::size_t>(month - 1)] + (month == 2 && isLeap ? 1 : 0);
 }
 
+// What was read, piece by piece.
+struct Parts {
+    int year = 0;
+    int month = 0;
+    int day = 0;
+    bool isIso = false;
+    bool isSwappable = false; // day and month may each be the other
+    std::optional<DayOrder> order; // of those that can be in two, the only one that gives a date
+    std::int64_t seconds = 0; // of the time
+    int nanoseconds = 0;
+};
+
+int WholeYear(int lastDigits)
+{
+    return lastDigits < 70 ? 2000 + lastDigits : 1900 + lastDigits;
+}
+
+bool SetDate(Parts& parts, int year, int month, int day)
+{
+    parts.year = year;
+    parts.month = month;
+    parts.day = day;
+    return IsDate(year, month, day);
+}
+
 // 2024-03-05, 2024/3/5, 2024.3.5
-bool TakeYearFirst(Scanner& scanner, bool& isIso)
+bool TakeYearFirst(Scanner& scanner, Parts& parts)
 {
     const auto year = scanner.Number(4, 4);
     if (!year)
         return false;
-    isIso = scanner.Take(u'-');
-    const char16_t mark = isIso ? u'-' : scanner.Take(u'/') ? u'/' : u'.';
-    if (!isIso && mark == u'.' && !scanner.Take(u'.'))
+    parts.isIso = scanner.Take(u'-');
+    const char16_t mark = parts.isIso ? u'-' : scanner.Take(u'/') ? u'/' : u'.';
+    if (!parts.isIso && mark == u'.' && !scanner.Take(u'.'))
         return false;
     const auto month = scanner.Number(1, 2);
     if (!month || !scanner.Take(mark))
         return false;
     const auto day = scanner.Number(1, 2);
-    return day && IsDate(*year, *month, *day);
+    return day && SetDate(parts, *year, *month, *day);
 }
 
 // 5.3.2024, 3/5/2024, 5-3-2024, 5/3/24
-bool TakeYearLast(Scanner& scanner)
+bool TakeYearLast(Scanner& scanner, Parts& parts)
 {
     const auto first = scanner.Number(1, 2);
     if (!first)
@@ -107,12 +134,19 @@ bool TakeYearLast(Scanner& scanner)
     if (!second || !scanner.Take(mark))
         return false;
     auto year = scanner.Number(4, 4);
-    if (!year && mark != u'-')
+    if (!year && mark != u'-') {
         year = scanner.Number(2, 2);
+        year = year ? std::optional(WholeYear(*year)) : year;
+    }
     if (!year)
         return false;
     const bool monthCanBeFirst = mark != u'.' && IsDate(*year, *first, *second);
-    return IsDate(*year, *second, *first) || monthCanBeFirst;
+    const bool dayCanBeFirst = IsDate(*year, *second, *first);
+    parts.isSwappable = dayCanBeFirst && monthCanBeFirst;
+    if (mark != u'.' && dayCanBeFirst != monthCanBeFirst)
+        parts.order = dayCanBeFirst ? DayOrder::DayFirst : DayOrder::MonthFirst;
+    SetDate(parts, *year, dayCanBeFirst ? *second : *first, dayCanBeFirst ? *first : *second);
+    return dayCanBeFirst || monthCanBeFirst;
 }
 
 bool TakeGap(Scanner& scanner)
@@ -122,7 +156,7 @@ bool TakeGap(Scanner& scanner)
 }
 
 // 5 Mar 2024, 5-MAR-2024
-bool TakeDayThenName(Scanner& scanner)
+bool TakeDayThenName(Scanner& scanner, Parts& parts)
 {
     const auto day = scanner.Number(1, 2);
     scanner.Take(u'.');
@@ -132,11 +166,11 @@ bool TakeDayThenName(Scanner& scanner)
     if (!month || !TakeGap(scanner))
         return false;
     const auto year = scanner.Number(4, 4);
-    return year && IsDate(*year, *month, *day);
+    return year && SetDate(parts, *year, *month, *day);
 }
 
 // Mar 5, 2024
-bool TakeNameThenDay(Scanner& scanner)
+bool TakeNameThenDay(Scanner& scanner, Parts& parts)
 {
     const auto month = scanner.MonthName();
     if (!month || !TakeGap(scanner))
@@ -145,43 +179,60 @@ bool TakeNameThenDay(Scanner& scanner)
     if (!day || !TakeGap(scanner))
         return false;
     const auto year = scanner.Number(4, 4);
-    return year && IsDate(*year, *month, *day);
+    return year && SetDate(parts, *year, *month, *day);
 }
 
-bool TakeDate(Scanner& scanner, bool& isIso)
+bool TakeDate(Scanner& scanner, Parts& parts)
 {
     const Scanner start = scanner;
-    if (TakeYearFirst(scanner, isIso))
-        return true;
-    isIso = false;
-    for (const auto take : { TakeYearLast, TakeDayThenName, TakeNameThenDay }) {
+    for (const auto take : { TakeYearFirst, TakeYearLast, TakeDayThenName, TakeNameThenDay }) {
         scanner = start;
-        if (take(scanner))
+        parts = {};
+        if (take(scanner, parts))
             return true;
     }
     return false;
 }
 
 // Z, +01:00, -0330
-bool TakeZone(Scanner& scanner)
+bool TakeZone(Scanner& scanner, Parts& parts)
 {
     if (scanner.Take(u'Z'))
         return true;
-    if (!scanner.Take(u'+') && !scanner.Take(u'-'))
+    const bool isAhead = scanner.Take(u'+');
+    if (!isAhead && !scanner.Take(u'-'))
         return true;
+    const auto set = [&](int hours, int minutes) {
+        parts.seconds -= (hours * 60 + minutes) * 60 * (isAhead ? 1 : -1);
+        return hours <= 14 && minutes < 60;
+    };
     const auto joined = scanner.Number(4, 4);
     if (joined)
-        return *joined / 100 <= 14 && *joined % 100 < 60;
+        return set(*joined / 100, *joined % 100);
     const auto hours = scanner.Number(2, 2);
-    if (!hours || *hours > 14)
+    if (!hours)
         return false;
     if (!scanner.Take(u':'))
-        return true;
+        return set(*hours, 0);
     const auto minutes = scanner.Number(2, 2);
-    return minutes && *minutes < 60;
+    return minutes && set(*hours, *minutes);
 }
 
-bool TakeTime(Scanner& scanner)
+// Of a second, behind the point.
+bool TakeFraction(Scanner& scanner, Parts& parts)
+{
+    constexpr int digits = 9;
+    const std::size_t before = scanner.Length();
+    const auto fraction = scanner.Number(1, digits);
+    if (!fraction)
+        return false;
+    parts.nanoseconds = *fraction;
+    for (std::size_t taken = before - scanner.Length(); taken < digits; ++taken)
+        parts.nanoseconds *= 10;
+    return true;
+}
+
+bool TakeTime(Scanner& scanner, Parts& parts)
 {
     const auto hour = scanner.Number(1, 2);
     if (!hour || *hour > 24 || !scanner.Take(u':'))
@@ -189,36 +240,72 @@ bool TakeTime(Scanner& scanner)
     const auto minute = scanner.Number(2, 2);
     if (!minute || *minute > 59)
         return false;
+    parts.seconds = (*hour * 60 + *minute) * 60;
     if (scanner.Take(u':')) {
         const auto second = scanner.Number(2, 2);
         if (!second || *second > 60)
             return false;
-        if (scanner.Take(u'.') && !scanner.Number(1, 9))
+        parts.seconds += *second;
+        if (scanner.Take(u'.') && !TakeFraction(scanner, parts))
             return false;
     }
     scanner.Take(u' ');
-    if (scanner.TakeWord(u"AM") || scanner.TakeWord(u"PM"))
-        return *hour >= 1 && *hour <= 12;
-    return TakeZone(scanner);
+    const bool isMorning = scanner.TakeWord(u"AM");
+    if (!isMorning && !scanner.TakeWord(u"PM"))
+        return TakeZone(scanner, parts);
+    parts.seconds += (isMorning ? 0 : 12 * 3600) - (*hour == 12 ? 12 * 3600 : 0);
+    return *hour >= 1 && *hour <= 12;
+}
+
+enum class Writing { None, Date, DateAndTime };
+
+Writing Read(std::u16string_view text, Parts& parts)
+{
+    Scanner scanner(text);
+    if (!TakeDate(scanner, parts))
+        return Writing::None;
+    if (scanner.IsAtEnd())
+        return Writing::Date;
+    if (!scanner.Take(u'T')) {
+        scanner.Take(u',');
+        if (!scanner.Take(u' '))
+            return Writing::None;
+    }
+    return TakeTime(scanner, parts) && scanner.IsAtEnd() ? Writing::DateAndTime : Writing::None;
+}
+
+// From the first day of the year 1 on.
+std::int64_t DaysUpTo(int year, int month, int day)
+{
+    constexpr std::array<int, 12> before { 0, 31, 59, 90, 120, 151, 181, 212, 243, 273, 304, 334 };
+    const std::int64_t years = year - 1;
+    const bool isLeap = year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
+    return years * 365 + years / 4 - years / 100 + years / 400 + before[static_cast<std::size_t>(month - 1)]
+        + (month > 2 && isLeap ? 1 : 0) + day - 1;
 }
 
 } // namespace
 
 Content DateContentOf(std::u16string_view text)
 {
-    Scanner scanner(text);
-    bool isIso = false;
-    if (!TakeDate(scanner, isIso))
+    Parts parts;
+    const Writing writing = Read(text, parts);
+    if (writing == Writing::None)
         return 0;
-    const Content iso = isIso ? Content(IsoDate) : 0;
-    if (scanner.IsAtEnd())
-        return DateOnly | DateAndTime | iso;
-    if (!scanner.Take(u'T')) {
-        scanner.Take(u',');
-        if (!scanner.Take(u' '))
-            return 0;
-    }
-    return TakeTime(scanner) && scanner.IsAtEnd() ? DateAndTime | iso : 0;
+    const Content iso = parts.isIso ? Content(IsoDate) : 0;
+    return DateAndTime | iso | (writing == Writing::Date ? Content(DateOnly) : 0);
+}
+
+std::optional<Moment> MomentIn(std::u16string_view text, DayOrder order)
+{
+    Parts parts;
+    if (Read(text, parts) == Writing::None)
+        return {};
+    if (parts.isSwappable && order == DayOrder::MonthFirst)
+        std::swap(parts.month, parts.day);
+    constexpr std::int64_t secondsOfDay = 24 * 3600;
+    return Moment { DaysUpTo(parts.year, parts.month, parts.day) * secondsOfDay + parts.seconds, parts.nanoseconds,
+        parts.order };
 }
 
 } // namespace vornix::viewer

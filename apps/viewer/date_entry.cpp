@@ -6,12 +6,13 @@
 
 namespace vornix::viewer {
 
-void DateEntry::Begin(i16 Row, i16 Col)
+void DateEntry::Begin(i16 Row, i16 Col, int row)
 {
     End();
-    before_ = document_.Text(Row, Col);
+    before_ = document_.Text(row, Col);
     isOpen_ = before_.empty() || IsWholeDate(before_);
-    row_ = Row;
+    shownRow_ = Row;
+    row_ = row;
     col_ = Col;
     grid_.SetColMask(Col, isOpen_ ? DateMask : std::u16string_view());
     if (!isOpen_)
@@ -25,7 +26,7 @@ void DateEntry::Begin(i16 Row, i16 Col)
 std::u16string DateEntry::ShownText()
 {
     if (!grid_.IsEditMode())
-        return grid_.Text(row_, col_);
+        return grid_.Text(shownRow_, col_);
     const i32 start = grid_.SelStart();
     const i32 length = grid_.SelLength();
     grid_.SetSelStart(0);
@@ -58,7 +59,7 @@ void DateEntry::End()
     if (!std::exchange(isOpen_, false))
         return;
     unfinished_.clear();
-    grid_.SetText(row_, col_, document_.Text(row_, col_));
+    grid_.SetText(shownRow_, col_, document_.Text(row_, col_));
 }
 
 } // namespace vornix::viewer

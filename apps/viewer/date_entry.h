@@ -19,9 +19,10 @@ public:
     {
     }
 
-    // Before the editor of a date's cell opens. The cell gets a form if what it holds fits.
-    void Begin(i16 Row, i16 Col);
-    bool IsOf(i16 Row, i16 Col) const { return isOpen_ && Row == row_ && Col == col_; }
+    // Before the editor of a date's cell opens, which shows this row of the document. The cell gets a form if what it holds
+    // fits. The row of the grid must not move until the end.
+    void Begin(i16 Row, i16 Col, int row);
+    bool IsOf(i16 Row, i16 Col) const { return isOpen_ && Row == shownRow_ && Col == col_; }
     // When the text in the editor has changed.
     void Take();
     // As the form shows it; empty where the document has what is shown.
@@ -37,8 +38,9 @@ private:
     Vornix& grid_;
     Document& document_;
     bool isOpen_ = false;
-    i16 row_ = 0;
+    i16 shownRow_ = 0;
     i16 col_ = 0;
+    int row_ = 0; // of the document
     std::u16string before_;
     std::u16string unfinished_;
 };

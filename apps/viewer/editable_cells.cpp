@@ -25,17 +25,17 @@ public:
         if (!isBoolean && CanChangeAny(column))
             grid_.SetColMode(Col, EditorOf(column));
         for (int row = 0; row < table_.RowCount(); ++row)
-            OpenCell(static_cast<i16>(row), Col);
+            OpenCell(static_cast<i16>(row), row, Col);
     }
 
-    void OpenCell(i16 Row, i16 Col)
+    void OpenCell(i16 Row, int row, i16 Col)
     {
         if (grid_.CellMode(Row, Col) == vxCheckBox)
             return;
-        const bool hasLines = !LineBreakOf(table_.Text(Row, Col)).empty();
-        SetMode(Row, Col, document_.CanChange(Row, Col) ? (hasLines ? vxTextBox : EditorOf(Col)) : vxCellFixed);
+        const bool hasLines = !LineBreakOf(document_.Text(row, Col)).empty();
+        SetMode(Row, Col, document_.CanChange(row, Col) ? (hasLines ? vxTextBox : EditorOf(Col)) : vxCellFixed);
         if (hasLines)
-            MakeRoomForLines(Row, Col);
+            MakeRoomForLines(Row, row, Col);
     }
 
 private:
@@ -52,19 +52,17 @@ private:
     }
 
     // An editor of one line could not keep the breaks; those that it has are CR LF.
-    void MakeRoomForLines(i16 Row, i16 Col)
+    void MakeRoomForLines(i16 Row, int row, i16 Col)
     {
         grid_.SetTextAlignment(Row, Col, grid_.TextAlignment(Row, Col) & ~(vxSingleLine | vxTxtVCenter));
-        grid_.SetText(Row, Col, WithLineBreaks(document_.Text(Row, Col), u"\r\n"));
+        grid_.SetText(Row, Col, WithLineBreaks(document_.Text(row, Col), u"\r\n"));
     }
 
     bool CanChangeAny(int column) const
     {
-        for (int row = 0; row < table_.RowCount(); ++row) {
-            if (document_.CanChange(row, column))
-                return true;
-        }
-        return false;
+        const std::vector<int> rows = document_.Rows();
+        return rows.empty()
+            || std::any_of(rows.begin(), rows.end(), [&](int row) { return document_.CanChange(row, column); });
     }
 
     void SetMode(i16 Row, i16 Col, vxCellModeEnum mode)
@@ -116,17 +114,42 @@ void FillList(Vornix& grid, const ColumnInputs& inputs, i16 Row, i16 Col)
         grid.SetComboListIndex(static_cast<i16>(found - texts.begin()));
 }
 
-void ShowText(Vornix& grid, const Document& document, const ColumnInputs& inputs, const CellText& cell)
+void ShowText(Vornix& grid, const Document& document, const ColumnInputs& inputs, i16 Row, const CellText& cell)
 {
-    if (IsBeingEdited(grid, cell.row, cell.column))
+    if (IsBeingEdited(grid, Row, cell.column))
         grid.ExitEdit();
-    const i16 Row = static_cast<i16>(cell.row);
     const i16 Col = static_cast<i16>(cell.column);
     if (grid.CellMode(Row, Col) == vxCheckBox && (cell.text == u"-1" || cell.text == u"0"))
         grid.SetCellChecked(Row, Col, cell.text == u"-1");
     else
         grid.SetText(Row, Col, cell.text);
-    CellOpener(grid, document, inputs).OpenCell(Row, Col);
+    CellOpener(grid, document, inputs).OpenCell(Row, cell.row, Col);
+}
+
+void ShowCell(Vornix& grid, const Document& document, const ColumnInputs& inputs, i16 Row, int row, int column)
+{
+    const i16 Col = static_cast<i16>(column);
+    const std::u16string text(document.Text(row, column));
+    const bool isTruthValue = text == u"-1" || text == u"0";
+    // In a new row of the grid all of them are boxes.
+    if (grid.CellMode(Row, Col) == vxCheckBox && !isTruthValue)
+        grid.SetCellMode(Row, Col, vxTextBox);
+    ShowText(grid, document, inputs, Row, { row, column, text });
+}
+
+void ShowRow(Vornix& grid, const Document& document, const ColumnInputs& inputs, i16 Row, int row)
+{
+    ShowName(grid, document, Row, row);
+    for (int column = 0; column < document.Saved().ColumnCount(); ++column)
+        ShowCell(grid, document, inputs, Row, row, column);
+}
+
+void ShowName(Vornix& grid, const Document& document, i16 Row, int row)
+{
+    const std::string name = document.NameOf(row);
+    const std::u16string text(name.begin(), name.end());
+    if (grid.Text(Row, -1) != text)
+        grid.SetText(Row, -1, text);
 }
 
 std::u16string TextForDocument(const Vornix& grid, i16 Row, i16 Col)

@@ -14,8 +14,14 @@ void MakeEditable(Vornix& grid, const Document& document, const ColumnInputs& in
 // Fills the list of a cell that has one, before its editor opens.
 void FillList(Vornix& grid, const ColumnInputs& inputs, i16 Row, i16 Col);
 
-// A cell that now reads otherwise, without an event. Its editor closes if it has one.
-void ShowText(Vornix& grid, const Document& document, const ColumnInputs& inputs, const CellText& cell);
+// A cell of the grid that now reads otherwise, without an event. Its editor closes if it has one.
+void ShowText(Vornix& grid, const Document& document, const ColumnInputs& inputs, i16 Row, const CellText& cell);
+
+// The same for a cell, or all cells and the name, of a row of the document, as they are now.
+void ShowCell(Vornix& grid, const Document& document, const ColumnInputs& inputs, i16 Row, int row, int column);
+void ShowRow(Vornix& grid, const Document& document, const ColumnInputs& inputs, i16 Row, int row);
+// What the row is called, in front of it.
+void ShowName(Vornix& grid, const Document& document, i16 Row, int row);
 
 // What a changed cell says, as the document takes it.
 std::u16string TextForDocument(const Vornix& grid, i16 Row, i16 Col);

@@ -2,15 +2,19 @@
 
 #include "editable_cells.h"
 #include "notices.h"
+#include "present.h"
 #include "unicode.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QStatusBar>
+
+#include <algorithm>
 
 namespace vornix::viewer {
 
@@ -55,10 +59,13 @@ EditorWindow::EditorWindow(Document& document)
     , document_(document)
     , inputs_(document)
     , date_(GridWidget().Grid(), document)
+    , editor_(GridWidget().Grid(), document, inputs_, Rows())
 {
     setWindowTitle(TitleFor(document.Saved()));
     changes_ = AddLabel("changes", 0);
     AddFileMenu();
+    AddEditActions();
+    AddContextMenu();
     MakeEditable(GridWidget().Grid(), document, inputs_);
     ListenToGrid();
     TellChanges();
@@ -66,13 +73,63 @@ EditorWindow::EditorWindow(Document& document)
 
 void EditorWindow::AddFileMenu()
 {
-    QMenu* const menu = menuBar()->addMenu(tr("&File"));
+    auto* const menu = new QMenu(tr("&File"), this);
+    menuBar()->insertMenu(EditMenu()->menuAction(), menu);
     save_ = menu->addAction(tr("&Save"));
     save_->setObjectName(QStringLiteral("save"));
     save_->setShortcut(QKeySequence::Save);
     connect(save_, &QAction::triggered, this, &EditorWindow::Save);
     menu->addSeparator();
     connect(menu->addAction(tr("&Close")), &QAction::triggered, this, &QWidget::close);
+}
+
+void EditorWindow::AddEditActions()
+{
+    const bool isReadOnly = document_.WhyReadOnly().has_value();
+    const auto add
+        = [&](const char* name, const QString& text, const QList<QKeySequence>& keys, void (EditorWindow::*slot)()) {
+              QAction* const action = EditMenu()->addAction(text);
+              action->setObjectName(QLatin1String(name));
+              action->setShortcuts(keys);
+              action->setEnabled(!isReadOnly);
+              connect(action, &QAction::triggered, this, slot);
+              return action;
+          };
+    add("cut", tr("Cu&t"), QKeySequence::keyBindings(QKeySequence::Cut), &EditorWindow::Cut);
+    add("paste", tr("&Paste"), QKeySequence::keyBindings(QKeySequence::Paste), &EditorWindow::Paste);
+    add("clear", tr("C&lear"), { Qt::Key_Delete }, &EditorWindow::Clear);
+    EditMenu()->addSeparator();
+    // The plus sign takes Shift on many keyboards.
+    add("addRowAbove", tr("Insert Row &Above"), { Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal },
+        &EditorWindow::AddRowAbove);
+    add("addRowBelow", tr("Insert Row &Below"), { Qt::CTRL | Qt::Key_Return, Qt::CTRL | Qt::Key_Enter },
+        &EditorWindow::AddRowBelow);
+    add("removeRows", tr("&Delete Rows"), { Qt::CTRL | Qt::Key_Minus }, &EditorWindow::RemoveRows);
+    restoreRows_ = add("restoreRows", tr("&Undelete Rows"), { QKeySequence::Undo }, &EditorWindow::RestoreRows);
+    restoreRows_->setEnabled(false);
+}
+
+void EditorWindow::AddContextMenu()
+{
+    GridWidget().setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(&GridWidget(), &QWidget::customContextMenuRequested, this, &EditorWindow::ShowMenu);
+}
+
+// A right press moves neither the current cell nor the selection; the menu is for what it lies on.
+void EditorWindow::ShowMenu(QPoint at)
+{
+    i16 Row = 0;
+    i16 Col = 0;
+    const QRect client = GridWidget().contentsRect();
+    const bool isCell = Grid().GetCellAtPos(at.x() - client.x(), at.y() - client.y(), Row, Col) && Row >= 0;
+    const bool isSelected = isCell
+        && (Grid().RowSelected(Row) || (Col >= 0 && (Grid().ColSelected(Col) || Grid().CellSelected(Row, Col))));
+    if (isCell && !isSelected) {
+        FinishEditing();
+        Grid().CurrentPos(Row, std::max<i16>(Col, 0));
+        TellState();
+    }
+    EditMenu()->popup(GridWidget().mapToGlobal(at));
 }
 
 void EditorWindow::ListenToGrid()
@@ -83,13 +140,17 @@ void EditorWindow::ListenToGrid()
     handlers.OnBeforeEdit = [this](i16 Row, i16 Col) { BeginEditing(Row, Col); };
     handlers.OnAfterEdit = [this](i16, i16) { EndEditing(); };
     handlers.OnCellChange = [this](i16, i16, bool&) { TellStateLater(); };
+    handlers.OnKeyDown = [this](i16& KeyCode, i16& Shift) {
+        if (TakeKey(KeyCode, Shift))
+            KeyCode = 0;
+    };
 }
 
 void EditorWindow::BeginEditing(i16 Row, i16 Col)
 {
     FillList(GridWidget().Grid(), inputs_, Row, Col);
     if (Row >= 0 && Col >= 0 && inputs_.Kind(Col) == InputKind::Date)
-        date_.Begin(Row, Col);
+        date_.Begin(Row, Col, Rows().At(Row));
     TellStateLater();
 }
 
@@ -102,6 +163,96 @@ void EditorWindow::EndEditing()
     TellStateLater();
 }
 
+// The grid tells nothing when its members close an editor.
+void EditorWindow::FinishEditing()
+{
+    ViewerWindow::FinishEditing();
+    EndEditing();
+}
+
+bool EditorWindow::TakeKey(i16 KeyCode, i16 Shift)
+{
+    constexpr i16 ctrl = 2;
+    if (!Grid().IsEditMode() || Shift != ctrl)
+        return false;
+    const bool hasSelectedText = Grid().SelLength() > 0;
+    switch (KeyCode) {
+    case 'C':
+        return !hasSelectedText && (Copy(), true);
+    case 'X':
+        return !hasSelectedText && (Cut(), true);
+    case 'V': {
+        // What fills several cells is for no editor.
+        const TextBlock block = BlockOf(QApplication::clipboard()->text().toStdU16String());
+        return (block.size() > 1 || (!block.empty() && block.front().size() > 1)) && (Paste(), true);
+    }
+    default:
+        return false;
+    }
+}
+
+void EditorWindow::Cut()
+{
+    Copy();
+    Clear();
+}
+
+void EditorWindow::Paste()
+{
+    FinishEditing();
+    const TextBlock block = BlockOf(QApplication::clipboard()->text().toStdU16String());
+    Changed(editor_.Paste(SelectedCellsOf(Grid()), block));
+}
+
+void EditorWindow::Clear()
+{
+    FinishEditing();
+    Changed(editor_.Clear(SelectedCellsOf(Grid())));
+}
+
+void EditorWindow::AddRowAbove()
+{
+    AddRows(Records::Side::Before);
+}
+
+void EditorWindow::AddRowBelow()
+{
+    AddRows(Records::Side::Behind);
+}
+
+void EditorWindow::AddRows(Records::Side side)
+{
+    FinishEditing();
+    i16 first = 0;
+    const std::string line = editor_.AddRows(side, first);
+    if (first < Rows().Count())
+        Grid().CurrentPos(first, std::max<i16>(Grid().CurrentCol(), 0));
+    Changed(line);
+}
+
+void EditorWindow::RemoveRows()
+{
+    FinishEditing();
+    Changed(editor_.RemoveRows(SelectedCellsOf(Grid())));
+}
+
+void EditorWindow::RestoreRows()
+{
+    FinishEditing();
+    editor_.RestoreRows();
+    Changed({});
+}
+
+void EditorWindow::Changed(const std::string& line)
+{
+    notice_.clear();
+    wasSaved_ = false;
+    Tell(line);
+    TellChanges();
+    TellState();
+    SearchAgainSoon();
+}
+
 void EditorWindow::TakeDate()
 {
     date_.Take();
@@ -112,14 +263,16 @@ void EditorWindow::TakeDate()
 void EditorWindow::TakeChange(i16 Row, i16 Col)
 {
     notice_.clear();
+    const int row = Rows().At(Row);
     if (date_.IsOf(Row, Col))
         TakeDate();
-    else if (document_.CanChange(Row, Col))
-        document_.Change(Row, Col, TextForDocument(GridWidget().Grid(), Row, Col));
+    else if (document_.CanChange(row, Col))
+        document_.Change(row, Col, TextForDocument(Grid(), Row, Col));
     else
-        ResetCheckBox(document_.Saved(), Row, Col);
+        ResetCheckBox(Row, Col);
     wasSaved_ = false;
     TellChanges();
+    SearchAgainSoon();
 }
 
 // The grid tells before it acts.
@@ -133,6 +286,8 @@ void EditorWindow::TellChanges()
 {
     setWindowModified(document_.IsChanged());
     save_->setEnabled(document_.IsChanged() || !date_.Unfinished().empty());
+    restoreRows_->setEnabled(editor_.CanRestoreRows());
+    TellExtent(StatusLine(document_.RowCount(), document_.TotalRows(), document_.Saved().ColumnCount()));
     std::string text = wasSaved_ ? "saved" : "no changes";
     if (document_.IsChanged())
         text = Counted(document_.ChangeCount(), "change") + " not saved";
@@ -151,8 +306,7 @@ bool EditorWindow::Save()
     notice_.clear();
     try {
         const BusyPointer busy;
-        for (const CellText& cell : document_.Save())
-            ShowText(GridWidget().Grid(), document_, inputs_, cell);
+        editor_.ShowSaved(document_.Save());
         date_.Saved();
     } catch (const std::bad_alloc&) {
         TellFailure(tr("there is not enough memory"));

@@ -106,7 +106,7 @@ public:
 
     std::optional<std::string> WhyReadOnly() const override { return reason_; }
     bool CanChange(int, int) const override { return false; }
-    std::vector<CellText> Save(const Edits&) override { throw SaveError(reason_); }
+    SaveOutcome Save(const Changes&) override { throw SaveError(reason_); }
 
 private:
     std::string reason_;

@@ -236,11 +236,16 @@ void PresentTable(Vornix& grid, Device& device, const SystemColors& colors, cons
 
 std::string StatusLine(const Table& table)
 {
-    const std::string columns = Counted(static_cast<std::uint64_t>(table.ColumnCount()), "column");
-    const auto shown = static_cast<std::uint64_t>(table.RowCount());
-    if (table.IsComplete())
-        return Counted(shown, "row") + ", " + columns;
-    return "the first " + WithGroups(shown) + " of " + Counted(table.TotalRows(), "row") + ", " + columns;
+    return StatusLine(table.RowCount(), table.TotalRows(), table.ColumnCount());
+}
+
+std::string StatusLine(int shownRows, std::uint64_t totalRows, int columns)
+{
+    const std::string columnsText = Counted(static_cast<std::uint64_t>(columns), "column");
+    const auto shown = static_cast<std::uint64_t>(shownRows);
+    if (shown == totalRows)
+        return Counted(shown, "row") + ", " + columnsText;
+    return "the first " + WithGroups(shown) + " of " + Counted(totalRows, "row") + ", " + columnsText;
 }
 
 } // namespace vornix::viewer

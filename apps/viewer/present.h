@@ -18,5 +18,6 @@ void PresentTable(Vornix& grid, Device& device, const SystemColors& colors, cons
 
 // One line for the person who looks: what is shown, and how many of how many rows when some are left out.
 std::string StatusLine(const Table& table);
+std::string StatusLine(int shownRows, std::uint64_t totalRows, int columns);
 
 } // namespace vornix::viewer

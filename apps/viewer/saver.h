@@ -1,7 +1,7 @@
 // The step that brings changes to where a table came from.
 #pragma once
 
-#include "edits.h"
+#include "changes.h"
 
 #include <optional>
 #include <stdexcept>
@@ -19,13 +19,20 @@ public:
 
 // A cell that reads otherwise than the table has it.
 struct CellText {
-    int row = 0;
+    int row = 0; // the record
     int column = 0;
     std::u16string text;
 
     bool operator==(const CellText&) const = default;
 };
 
+// How a source differs from what was to be saved in it.
+struct SaveOutcome {
+    std::vector<CellText> others = {};
+    std::vector<int> removed = {}; // records that the source has removed by itself
+};
+
+// Rows are the records of a table.
 class Saver {
 public:
     virtual ~Saver() = default;
@@ -34,11 +41,16 @@ public:
     virtual std::optional<std::string> WhyReadOnly() const = 0;
     // Whether a change of this cell could be saved.
     virtual bool CanChange(int row, int column) const = 0;
+    // Whether a row of the source could be removed.
+    virtual bool CanRemove(int /*row*/) const { return true; }
+    // Whether cells of this column take a text in a row that is new.
+    virtual bool CanFill(int /*column*/) const { return true; }
     // How the source breaks lines; empty where it has no way of its own.
     virtual std::u16string_view LineBreak() const { return {}; }
-    // Saves all of the edits or, raising SaveError, none; the source is then as it was. Gives the cells that do not read
-    // as the edits say: what the source has made of a text, and what it has changed besides.
-    virtual std::vector<CellText> Save(const Edits& edits) = 0;
+    // Saves all of the changes or, raising SaveError, none; the source is then as it was. Gives the cells that do not read
+    // as the changes say: what the source has made of a text, what a new row has got without one, and what was changed
+    // besides.
+    virtual SaveOutcome Save(const Changes& changes) = 0;
 };
 
 } // namespace vornix::viewer

@@ -16,12 +16,6 @@ namespace vornix::viewer {
 
 namespace {
 
-// As the row itself shows it.
-std::string NameOf(int row)
-{
-    return "row " + std::to_string(row + 1);
-}
-
 // An integer where it is one that fits, any other finite number, or else the text.
 sqlite::Value NumberOrText(const std::string& text)
 {
@@ -47,6 +41,14 @@ void BindAll(sqlite::Statement& statement, int parameter, const std::vector<sqli
         statement.Bind(parameter++, value);
 }
 
+std::vector<sqlite::Value> KeyIn(const sqlite::Statement& statement)
+{
+    std::vector<sqlite::Value> key;
+    for (int column = 0; column < statement.ColumnCount(); ++column)
+        key.push_back(statement.ValueOf(column));
+    return key;
+}
+
 // Of rows, by this connection: those of triggers and foreign keys with them.
 std::int64_t CountChanges(const sqlite::Database& database)
 {
@@ -69,7 +71,7 @@ struct Encoder {
     std::string operator()(const sqlite::Blob& blob) const { return "b" + BytesOf(blob.bytes.size()) + blob.bytes; }
 };
 
-void RequireDifferent(const std::map<int, std::vector<sqlite::Value>>& keys)
+void RequireDifferent(const std::map<int, std::vector<sqlite::Value>>& keys, const Changes& changes)
 {
     std::set<std::string> known;
     for (const auto& [row, key] : keys) {
@@ -77,7 +79,7 @@ void RequireDifferent(const std::map<int, std::vector<sqlite::Value>>& keys)
         for (const sqlite::Value& value : key)
             all += std::visit(Encoder(), value);
         if (!known.insert(std::move(all)).second)
-            throw SaveError(NameOf(row) + ": it would have the key of another changed row");
+            throw SaveError(changes.NameOf(row) + ": it would have the key of another changed row");
     }
 }
 
@@ -99,111 +101,187 @@ bool SqliteSaver::CanChange(int row, int column) const
         && !rows_.IsLocked(row, column) && rows_.HasKey(row);
 }
 
-std::vector<CellText> SqliteSaver::Save(const Edits& edits)
+bool SqliteSaver::CanFill(int column) const
 {
-    RequireShort(edits);
+    return !rows_.Layout().columns[static_cast<std::size_t>(column)].isComputed;
+}
+
+SaveOutcome SqliteSaver::Save(const Changes& changes)
+{
+    for (const auto& [row, cells] : changes.Changed())
+        RequireShort(changes, row, cells);
+    for (const Records::Addition& addition : changes.Added())
+        RequireShort(changes, addition.record, changes.CellsOf(addition));
     try {
         sqlite::Database database(path_, sqlite::Access::Write);
         sqlite::Transaction transaction(database);
         const std::int64_t changesBefore = CountChanges(database);
-        const Keys keys = UpdateAll(database, edits, RequireUnchanged(database, edits));
-        RequireDifferent(keys);
+        const std::map<int, Types> types = RequireUnchanged(database, changes);
+        RemoveAll(database, changes);
+        Keys keys = UpdateAll(database, changes, types);
+        AddAll(database, changes, keys);
+        RequireDifferent(keys, changes);
         std::vector<ReadRow> saved;
         for (const auto& [row, key] : keys)
-            saved.push_back(Read(database, row, key));
-        const bool hasChangedOthers = CountChanges(database) - changesBefore > static_cast<std::int64_t>(keys.size());
-        for (const int row : hasChangedOthers ? OtherChanges(database, edits) : std::vector<int>())
-            saved.push_back(Read(database, row, rows_.Row(row).key));
+            saved.push_back(Read(database, changes, row, key));
+        const auto own = static_cast<std::int64_t>(keys.size() + changes.Removed().size());
+        const bool hasChangedOthers = CountChanges(database) - changesBefore != own;
+        OtherRows others = hasChangedOthers ? FindOtherRows(database, changes) : OtherRows();
+        for (const int row : others.changed)
+            saved.push_back(Read(database, changes, row, rows_.Row(row).key));
         // Whatever can fail comes before the database has the changes.
         DatabaseRows rows = rows_;
-        std::vector<CellText> others = TakeOver(rows, std::move(saved), edits);
+        SaveOutcome outcome = TakeOver(rows, std::move(saved), std::move(others.gone), changes);
         transaction.Commit();
         rows_ = std::move(rows);
-        return others;
+        return outcome;
     } catch (const sqlite::Error& error) {
         throw SaveError(error.what());
     }
 }
 
-void SqliteSaver::RequireShort(int row, int column, std::u16string_view text) const
+void SqliteSaver::RequireShort(const Changes& changes, int row, int column, std::u16string_view text) const
 {
     const std::size_t longest = LoadLimits().maxFieldLength;
     if (text.size() > longest)
-        throw SaveError(NameOf(row) + ", column "
+        throw SaveError(changes.NameOf(row) + ", column "
             + OneLine(ToUtf8(table_.Columns()[static_cast<std::size_t>(column)].name)) + ": a text is longer than "
             + std::to_string(longest) + " characters, the most a cell takes");
 }
 
-void SqliteSaver::RequireShort(const Edits& edits) const
+void SqliteSaver::RequireShort(const Changes& changes, int row, const Edits::RowEdits& cells) const
 {
-    for (const auto& [row, cells] : edits.Rows()) {
-        for (const auto& [column, text] : cells)
-            RequireShort(row, column, text);
-    }
+    for (const auto& [column, text] : cells)
+        RequireShort(changes, row, column, text);
+}
+
+// Gives the types of all its values.
+SqliteSaver::Types SqliteSaver::RequireUnchanged(const Changes& changes, sqlite::Statement& select, int row) const
+{
+    select.Reset();
+    BindAll(select, 1, rows_.Row(row).key);
+    if (!select.Next())
+        throw SaveError(changes.NameOf(row) + ": another program has removed it since it was read");
+    if (rows_.Read(select).print != rows_.Row(row).print)
+        throw SaveError(changes.NameOf(row) + ": another program has changed it since it was read");
+    Types types;
+    for (int column = 0; column < table_.ColumnCount(); ++column)
+        types[column] = select.Type(rows_.KeyLength() + column);
+    if (select.Next())
+        throw SaveError(changes.NameOf(row) + ": its key is that of other rows too");
+    return types;
 }
 
 std::map<int, SqliteSaver::Types> SqliteSaver::RequireUnchanged(
-    const sqlite::Database& database, const Edits& edits) const
+    const sqlite::Database& database, const Changes& changes) const
 {
     std::map<int, Types> types;
     sqlite::Statement select = database.Prepare(rows_.SelectOne());
-    for (const auto& [row, cells] : edits.Rows()) {
+    for (const auto& [row, cells] : changes.Changed())
+        types[row] = RequireUnchanged(changes, select, row);
+    for (const int row : changes.Removed())
+        RequireUnchanged(changes, select, row);
+    return types;
+}
+
+// What the database refuses now, it may take once others have had their turn.
+void SqliteSaver::InAnyOrder(std::vector<int> rows, const Changes& changes, const RowStep& step)
+{
+    while (!rows.empty()) {
+        std::vector<int> refused;
+        std::string reason;
+        for (const int row : rows) {
+            try {
+                step(row);
+            } catch (const sqlite::Error& error) {
+                if (refused.empty())
+                    reason = error.what();
+                refused.push_back(row);
+            }
+        }
+        if (refused.size() == rows.size())
+            throw SaveError(changes.NameOf(refused.front()) + ": " + reason);
+        rows = std::move(refused);
+    }
+}
+
+// One that is gone went with another.
+void SqliteSaver::RemoveAll(const sqlite::Database& database, const Changes& changes) const
+{
+    InAnyOrder(changes.Removed(), changes, [&](int row) {
+        sqlite::Statement remove = database.Prepare(rows_.Delete());
+        BindAll(remove, 1, rows_.Row(row).key);
+        remove.Next();
+    });
+    sqlite::Statement select = database.Prepare(rows_.SelectOne());
+    for (const int row : changes.Removed()) {
         select.Reset();
         BindAll(select, 1, rows_.Row(row).key);
-        if (!select.Next())
-            throw SaveError(NameOf(row) + ": another program has removed it since it was read");
-        if (rows_.Read(select).print != rows_.Row(row).print)
-            throw SaveError(NameOf(row) + ": another program has changed it since it was read");
-        for (const auto& [column, text] : cells)
-            types[row][column] = select.Type(rows_.KeyLength() + column);
         if (select.Next())
-            throw SaveError(NameOf(row) + ": its key is that of other rows too");
+            throw SaveError(changes.NameOf(row) + ": the database does not remove it");
     }
-    return types;
 }
 
 // All rows have been looked at before the first is changed, and each is again before its own turn comes, since changing
 // one may change others by itself.
 SqliteSaver::Keys SqliteSaver::UpdateAll(
-    const sqlite::Database& database, const Edits& edits, std::map<int, Types> types) const
+    const sqlite::Database& database, const Changes& changes, std::map<int, Types> types) const
 {
     Keys keys;
     sqlite::Statement select = database.Prepare(rows_.SelectOne());
-    for (const auto& [row, cells] : edits.Rows()) {
-        RequireNotChangedHere(select, row);
-        keys[row] = Update(database, row, cells, types[row]);
+    for (const auto& [row, cells] : changes.Changed()) {
+        RequireNotChangedHere(select, changes, row);
+        keys[row] = Update(database, changes, row, cells, types[row]);
     }
     return keys;
 }
 
-void SqliteSaver::RequireNotChangedHere(sqlite::Statement& select, int row) const
+void SqliteSaver::AddAll(const sqlite::Database& database, const Changes& changes, Keys& keys) const
+{
+    std::map<int, const Edits::RowEdits*> cells;
+    std::vector<int> rows;
+    for (const Records::Addition& addition : changes.Added()) {
+        rows.push_back(addition.record);
+        cells[addition.record] = &changes.CellsOf(addition);
+    }
+    InAnyOrder(std::move(rows), changes, [&](int row) {
+        keys[row] = Add(database, *cells[row]);
+        if (keys[row].empty())
+            throw SaveError(changes.NameOf(row) + ": the database does not take it");
+    });
+}
+
+void SqliteSaver::RequireNotChangedHere(sqlite::Statement& select, const Changes& changes, int row) const
 {
     select.Reset();
     BindAll(select, 1, rows_.Row(row).key);
     const bool isSame = select.Next() && rows_.Read(select).print == rows_.Row(row).print;
     select.Reset();
     if (!isSame)
-        throw SaveError(NameOf(row) + ": the database changes it when another changed row is saved");
+        throw SaveError(changes.NameOf(row) + ": the database changes it when another changed row is saved");
 }
 
-std::vector<int> SqliteSaver::OtherChanges(const sqlite::Database& database, const Edits& edits) const
+SqliteSaver::OtherRows SqliteSaver::FindOtherRows(const sqlite::Database& database, const Changes& changes) const
 {
-    std::vector<int> changed;
+    OtherRows others;
+    const std::set<int> removed(changes.Removed().begin(), changes.Removed().end());
     sqlite::Statement select = database.Prepare(rows_.SelectOne());
     for (int row = 0; row < rows_.Count(); ++row) {
-        if (edits.Rows().contains(row))
+        if (!rows_.HasKey(row) || removed.contains(row) || changes.Changed().contains(row))
             continue;
         select.Reset();
         BindAll(select, 1, rows_.Row(row).key);
-        if (select.Next() && rows_.Read(select).print != rows_.Row(row).print)
-            changed.push_back(row);
+        if (!select.Next())
+            others.gone.push_back(row);
+        else if (rows_.Read(select).print != rows_.Row(row).print)
+            others.changed.push_back(row);
     }
-    return changed;
+    return others;
 }
 
 // Gives the row's key, which may be what was changed.
-std::vector<sqlite::Value> SqliteSaver::Update(
-    const sqlite::Database& database, int row, const Edits::RowEdits& cells, const Types& types) const
+SqliteSaver::Key SqliteSaver::Update(const sqlite::Database& database, const Changes& changes, int row,
+    const Edits::RowEdits& cells, const Types& types) const
 {
     std::vector<int> columns;
     std::vector<sqlite::Value> values;
@@ -216,30 +294,46 @@ std::vector<sqlite::Value> SqliteSaver::Update(
         BindAll(update, 1, values);
         BindAll(update, static_cast<int>(values.size()) + 1, rows_.Row(row).key);
         if (!update.Next())
-            throw SaveError(NameOf(row) + ": the database does not take the change");
-        std::vector<sqlite::Value> key;
-        for (int column = 0; column < update.ColumnCount(); ++column)
-            key.push_back(update.ValueOf(column));
+            throw SaveError(changes.NameOf(row) + ": the database does not take the change");
+        Key key = KeyIn(update);
         if (update.Next())
-            throw SaveError(NameOf(row) + ": its key is that of other rows too");
+            throw SaveError(changes.NameOf(row) + ": its key is that of other rows too");
         return key;
     } catch (const sqlite::Error& error) {
-        throw SaveError(NameOf(row) + ": " + error.what());
+        throw SaveError(changes.NameOf(row) + ": " + error.what());
     }
 }
 
+// Empty when the database has not added it.
+SqliteSaver::Key SqliteSaver::Add(const sqlite::Database& database, const Edits::RowEdits& cells) const
+{
+    std::vector<int> columns;
+    std::vector<sqlite::Value> values;
+    for (const auto& [column, text] : cells) {
+        columns.push_back(column);
+        values.push_back(ValueFor(column, text, sqlite::ValueType::Null));
+    }
+    sqlite::Statement insert = database.Prepare(rows_.Insert(columns));
+    BindAll(insert, 1, values);
+    if (!insert.Next())
+        return {};
+    Key key = KeyIn(insert);
+    insert.Next(); // to its end
+    return key;
+}
+
 SqliteSaver::ReadRow SqliteSaver::Read(
-    const sqlite::Database& database, int row, const std::vector<sqlite::Value>& key) const
+    const sqlite::Database& database, const Changes& changes, int row, const Key& key) const
 {
     sqlite::Statement select = database.Prepare(rows_.SelectOne());
     BindAll(select, 1, key);
     if (!select.Next())
-        throw SaveError(NameOf(row) + ": the database removes it when it is changed");
+        throw SaveError(changes.NameOf(row) + ": the database removes it when it is changed");
     ReadRow read { row, rows_.Read(select), {}, {} };
     for (int column = 0; column < table_.ColumnCount(); ++column) {
         read.isLocked.push_back(!IsPlainValue(select, rows_.KeyLength() + column));
         read.texts.push_back(ShownText(select, column));
-        RequireShort(row, column, read.texts.back());
+        RequireShort(changes, row, column, read.texts.back());
     }
     return read;
 }
@@ -268,7 +362,8 @@ std::u16string SqliteSaver::ShownText(const sqlite::Statement& statement, int co
     return value ? (*value ? u"-1" : u"0") : text;
 }
 
-std::vector<CellText> SqliteSaver::TakeOver(DatabaseRows& rows, std::vector<ReadRow> saved, const Edits& edits) const
+SaveOutcome SqliteSaver::TakeOver(
+    DatabaseRows& rows, std::vector<ReadRow> saved, std::vector<int> gone, const Changes& changes) const
 {
     std::vector<CellText> others;
     for (ReadRow& read : saved) {
@@ -276,11 +371,15 @@ std::vector<CellText> SqliteSaver::TakeOver(DatabaseRows& rows, std::vector<Read
         for (int column = 0; column < table_.ColumnCount(); ++column) {
             const auto index = static_cast<std::size_t>(column);
             rows.SetLocked(read.row, column, read.isLocked[index]);
-            if (read.texts[index] != edits.Text(read.row, column))
+            if (read.texts[index] != changes.Text(read.row, column))
                 others.push_back({ read.row, column, std::move(read.texts[index]) });
         }
     }
-    return others;
+    for (const int row : changes.Removed())
+        rows.Remove(row);
+    for (const int row : gone)
+        rows.Remove(row);
+    return { std::move(others), std::move(gone) };
 }
 
 } // namespace vornix::viewer

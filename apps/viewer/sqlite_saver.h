@@ -1,9 +1,11 @@
-// Writes changed cells into a table of a database.
+// Writes changed cells and rows into a table of a database.
 #pragma once
 
 #include "database_rows.h"
 #include "saver.h"
 
+#include <functional>
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
@@ -19,6 +21,9 @@ namespace vornix::viewer {
 // text that could not be read again is an error. A column makes of a text what its type says, as for any program that writes a text; where it takes
 // anything, a cell that held a number, or stands in a column of numbers, gets a number where the text is one. Without a
 // text a cell of a text column holds an empty one, and any other a null, as does one that refers to another table.
+//
+// Rows are removed first and added last; of each, those that refer to others of them find their turn. A new row's cells
+// without a text get what the table gives them. A row that goes with a removed one is told as removed.
 class SqliteSaver final : public Saver {
 public:
     // The table is what ReadChangeableTable has made of `rows`; it must outlive this. A reason not to change anything
@@ -28,7 +33,9 @@ public:
 
     std::optional<std::string> WhyReadOnly() const override { return whyReadOnly_; }
     bool CanChange(int row, int column) const override;
-    std::vector<CellText> Save(const Edits& edits) override;
+    bool CanRemove(int row) const override { return rows_.HasKey(row); }
+    bool CanFill(int column) const override;
+    SaveOutcome Save(const Changes& changes) override;
 
 private:
     // A changed row as the database has it then.
@@ -39,21 +46,34 @@ private:
         std::vector<bool> isLocked;
     };
     using Types = std::map<int, sqlite::ValueType>; // by column
-    using Keys = std::map<int, std::vector<sqlite::Value>>; // by row
+    using Key = std::vector<sqlite::Value>;
+    using Keys = std::map<int, Key>; // by row
+    // Does a step for one row, which raises sqlite::Error where the database refuses it.
+    using RowStep = std::function<void(int row)>;
 
-    void RequireShort(int row, int column, std::u16string_view text) const;
-    void RequireShort(const Edits& edits) const;
-    std::map<int, Types> RequireUnchanged(const sqlite::Database& database, const Edits& edits) const;
-    Keys UpdateAll(const sqlite::Database& database, const Edits& edits, std::map<int, Types> types) const;
-    void RequireNotChangedHere(sqlite::Statement& select, int row) const;
-    std::vector<sqlite::Value> Update(
-        const sqlite::Database& database, int row, const Edits::RowEdits& cells, const Types& types) const;
-    ReadRow Read(const sqlite::Database& database, int row, const std::vector<sqlite::Value>& key) const;
+    void RequireShort(const Changes& changes, int row, int column, std::u16string_view text) const;
+    void RequireShort(const Changes& changes, int row, const Edits::RowEdits& cells) const;
+    Types RequireUnchanged(const Changes& changes, sqlite::Statement& select, int row) const;
+    std::map<int, Types> RequireUnchanged(const sqlite::Database& database, const Changes& changes) const;
+    static void InAnyOrder(std::vector<int> rows, const Changes& changes, const RowStep& step);
+    void RemoveAll(const sqlite::Database& database, const Changes& changes) const;
+    Keys UpdateAll(const sqlite::Database& database, const Changes& changes, std::map<int, Types> types) const;
+    void AddAll(const sqlite::Database& database, const Changes& changes, Keys& keys) const;
+    void RequireNotChangedHere(sqlite::Statement& select, const Changes& changes, int row) const;
+    Key Update(const sqlite::Database& database, const Changes& changes, int row, const Edits::RowEdits& cells,
+        const Types& types) const;
+    Key Add(const sqlite::Database& database, const Edits::RowEdits& cells) const;
+    ReadRow Read(const sqlite::Database& database, const Changes& changes, int row, const Key& key) const;
     sqlite::Value ValueFor(int column, std::u16string_view text, sqlite::ValueType oldType) const;
     std::u16string ShownText(const sqlite::Statement& statement, int column) const;
-    // Of the rows that are not among the edits, those that are not as they were.
-    std::vector<int> OtherChanges(const sqlite::Database& database, const Edits& edits) const;
-    std::vector<CellText> TakeOver(DatabaseRows& rows, std::vector<ReadRow> saved, const Edits& edits) const;
+    // Of the rows that were neither changed nor removed here, those that are not as they were, and those that are gone.
+    struct OtherRows {
+        std::vector<int> changed;
+        std::vector<int> gone;
+    };
+    OtherRows FindOtherRows(const sqlite::Database& database, const Changes& changes) const;
+    SaveOutcome TakeOver(
+        DatabaseRows& rows, std::vector<ReadRow> saved, std::vector<int> gone, const Changes& changes) const;
 
     std::string path_;
     const Table& table_;

@@ -27,9 +27,9 @@ std::string TitleOf(const Vornix& grid, i16 Col)
 }
 
 // As the row itself shows it.
-std::string NumberOf(i32 row)
+std::string NumberOf(const Vornix& grid, i32 row)
 {
-    return std::to_string(row + 1);
+    return OneLine(ToUtf8(grid.Text(static_cast<i16>(row), -1)));
 }
 
 std::string HeaderText(const Vornix& grid, i32 row, i16 Col)
@@ -73,7 +73,8 @@ std::string CurrentCellText(const Vornix& grid)
         return {};
     if (row < 0)
         return HeaderText(grid, row, Col);
-    return Col < 0 ? "Row " + NumberOf(row) : TitleOf(grid, Col) + ", row " + NumberOf(row);
+    const std::string number = NumberOf(grid, row);
+    return Col < 0 ? "Row " + number : TitleOf(grid, Col) + ", row " + number;
 }
 
 std::string SelectionText(Vornix& grid)

@@ -1,35 +1,47 @@
 #include "viewer_window.h"
 
+#include "find_bar.h"
+#include "loading.h"
+#include "notices.h"
 #include "present.h"
+#include "selected_cells.h"
 #include "status_text.h"
 
+#include "vornix/automation.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
 #include <QEvent>
 #include <QLabel>
+#include <QMenuBar>
 #include <QStatusBar>
+#include <QVBoxLayout>
+
+#include <numeric>
 
 namespace vornix::viewer {
 
 namespace {
 
 constexpr int SpaceBeside = 6;
+constexpr int SearchDelay = 300; // milliseconds, behind the last change
+constexpr i16 CtrlKey = 2;
+constexpr int Overflow = 6;
 
 QString ToQString(const std::string& text)
 {
     return QString::fromStdString(text);
 }
 
+bool IsPress(QEvent::Type type)
+{
+    return type == QEvent::KeyPress || type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick;
+}
+
 bool IsInput(QEvent::Type type)
 {
-    switch (type) {
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseButtonDblClick:
-        return true;
-    default:
-        return false;
-    }
+    return IsPress(type) || type == QEvent::KeyRelease || type == QEvent::MouseButtonRelease;
 }
 
 // What a picture has no use for.
@@ -47,11 +59,21 @@ void GiveToUser(Vornix& grid)
     grid.SetRedraw(true);
 }
 
+QAction* AddAction(QMenu* menu, const char* name, const QString& text, const QList<QKeySequence>& keys)
+{
+    QAction* const action = menu->addAction(text);
+    action->setObjectName(QLatin1String(name));
+    action->setShortcuts(keys);
+    return action;
+}
+
 } // namespace
 
 bool UsedGrid::event(QEvent* event)
 {
     const QEvent::Type type = event->type();
+    if (IsPress(type))
+        emit AboutToBeUsed();
     const bool handled = QVornix::event(event);
     if (IsInput(type))
         emit Used();
@@ -59,20 +81,28 @@ bool UsedGrid::event(QEvent* event)
 }
 
 ViewerWindow::ViewerWindow(const Table& table)
-    : grid_(new UsedGrid(handlers_, this))
+    : table_(table)
+    , grid_(new UsedGrid(handlers_, this))
+    , rows_(grid_->Grid(), table)
+    , finder_(grid_->Grid())
 {
-    setCentralWidget(grid_);
     setWindowTitle(QString::fromStdU16String(table.Name()) + QStringLiteral(" - Vornix"));
     currentCell_ = AddLabel("currentCell", 0);
     selection_ = AddLabel("selection", 1);
-    QLabel* const extent = new QLabel(ToQString(StatusLine(table)), this);
-    extent->setObjectName(QStringLiteral("extent"));
-    statusBar()->addPermanentWidget(extent);
+    notice_ = AddLabel("notice", 0);
+    extent_ = new QLabel(ToQString(StatusLine(table)), this);
+    extent_->setObjectName(QStringLiteral("extent"));
+    statusBar()->addPermanentWidget(extent_);
+    AddMenus();
+    AddFindBar();
 
     PresentTable(grid_->Grid(), grid_->MeasuringDevice(), grid_->Colors(), table);
     GiveToUser(grid_->Grid());
     // A check box that is clicked shows what the table holds.
-    handlers_.OnTextChange = [this, &table](i16 Row, i16 Col) { ResetCheckBox(table, Row, Col); };
+    handlers_.OnTextChange = [this](i16 Row, i16 Col) { ResetCheckBox(Row, Col); };
+    handlers_.OnSearchResult = [this](i16 IdSearch, i16& Pos) { finder_.Take(IdSearch, Pos); };
+    ListenToTitles();
+    connect(grid_, &UsedGrid::AboutToBeUsed, this, [this] { Tell({}); });
     connect(grid_, &UsedGrid::Used, this, &ViewerWindow::TellState);
     grid_->setFocus();
     TellState();
@@ -82,6 +112,43 @@ ViewerWindow::ViewerWindow(const Table& table)
 ViewerWindow::~ViewerWindow()
 {
     delete grid_;
+}
+
+void ViewerWindow::AddMenus()
+{
+    editMenu_ = menuBar()->addMenu(tr("&Edit"));
+    connect(AddAction(editMenu_, "copy", tr("&Copy"), QKeySequence::keyBindings(QKeySequence::Copy)),
+        &QAction::triggered, this, &ViewerWindow::Copy);
+
+    QMenu* const view = menuBar()->addMenu(tr("&View"));
+    connect(AddAction(view, "find", tr("&Find…"), { QKeySequence::Find }), &QAction::triggered, this,
+        &ViewerWindow::OpenFindBar);
+    connect(
+        AddAction(view, "next", tr("Find &Next"), { Qt::Key_F3 }), &QAction::triggered, this, &ViewerWindow::FindNext);
+    connect(AddAction(view, "previous", tr("Find &Previous"), { Qt::SHIFT | Qt::Key_F3 }), &QAction::triggered, this,
+        &ViewerWindow::FindPrevious);
+    view->addSeparator();
+    connect(AddAction(view, "asInSource", tr("&Order of the File"), { Qt::CTRL | Qt::Key_0 }), &QAction::triggered,
+        this, &ViewerWindow::SortAsInSource);
+}
+
+void ViewerWindow::AddFindBar()
+{
+    auto* const middle = new QWidget(this);
+    auto* const layout = new QVBoxLayout(middle);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(grid_, 1);
+    findBar_ = new FindBar(middle);
+    layout->addWidget(findBar_);
+    setCentralWidget(middle);
+    connect(findBar_, &FindBar::Changed, this, &ViewerWindow::Search);
+    connect(findBar_, &FindBar::Next, this, &ViewerWindow::FindNext);
+    connect(findBar_, &FindBar::Previous, this, &ViewerWindow::FindPrevious);
+    connect(findBar_, &FindBar::Closed, this, &ViewerWindow::CloseFindBar);
+    searchAgain_.setSingleShot(true);
+    searchAgain_.setInterval(SearchDelay);
+    connect(&searchAgain_, &QTimer::timeout, this, &ViewerWindow::TellFound);
 }
 
 // Titles are of any length and may look like markup; the window can be narrower than the line.
@@ -96,15 +163,174 @@ QLabel* ViewerWindow::AddLabel(const char* name, int stretch)
     return label;
 }
 
-void ViewerWindow::ResetCheckBox(const Table& table, i16 Row, i16 Col)
+void ViewerWindow::ResetCheckBox(i16 Row, i16 Col)
 {
-    grid_->Grid().SetCellChecked(Row, Col, table.IsTrue(Row, Col));
+    if (const int row = rows_.At(Row); row >= 0)
+        Grid().SetCellChecked(Row, Col, table_.IsTrue(row, Col));
 }
 
 void ViewerWindow::TellState()
 {
-    currentCell_->setText(ToQString(CurrentCellText(grid_->Grid())));
-    selection_->setText(ToQString(SelectionText(grid_->Grid())));
+    currentCell_->setText(ToQString(CurrentCellText(Grid())));
+    selection_->setText(ToQString(SelectionText(Grid())));
+}
+
+void ViewerWindow::Tell(const std::string& line)
+{
+    notice_->setText(ToQString(line));
+}
+
+void ViewerWindow::TellExtent(const std::string& line)
+{
+    extent_->setText(ToQString(line));
+}
+
+void ViewerWindow::Copy()
+{
+    const SelectedCells cells = SelectedCellsOf(Grid());
+    if (cells.IsEmpty())
+        return;
+    const TextBlock block = TextsOf(Grid(), table_.Columns(), cells);
+    QApplication::clipboard()->setText(QString::fromStdU16String(TextOf(block)));
+}
+
+std::vector<int> ViewerWindow::Order() const
+{
+    std::vector<int> order(static_cast<std::size_t>(table_.RowCount()));
+    std::iota(order.begin(), order.end(), 0);
+    return order;
+}
+
+void ViewerWindow::FinishEditing()
+{
+    Grid().ExitEdit();
+}
+
+// A double click on a title is two clicks, but on its border it is for the column's width: no click goes before then.
+void ViewerWindow::ListenToTitles()
+{
+    handlers_.OnMouseUp = [this](i16, i16 Shift, float, float) {
+        releaseShift_ = Shift;
+        clickedTitle_ = NoIndex;
+    };
+    handlers_.OnCellClick = [this](i16 Row, i16 Col) {
+        if (Row != -1 || Col < 0 || (releaseShift_ & ~CtrlKey) != 0)
+            return;
+        clickedTitle_ = Col;
+        ClickTitle(Col, releaseShift_ == CtrlKey);
+    };
+    handlers_.OnCellDblClick = [this](i16 Row, i16 Col) {
+        if (Row == -1 && Col == clickedTitle_)
+            ClickTitle(Col, releaseShift_ == CtrlKey);
+        clickedTitle_ = NoIndex;
+    };
+}
+
+void ViewerWindow::ClickTitle(i16 Col, bool isFurther)
+{
+    SortList sort = sort_;
+    isFurther ? sort.ChooseToo(Col) : sort.Choose(Col);
+    UnselectColumns(); // the click was for the order alone
+    Sort(sort);
+}
+
+void ViewerWindow::UnselectColumns()
+{
+    for (i16 Col = 0; Col < Grid().Cols(); ++Col) {
+        if (Grid().ColSelected(Col))
+            Grid().SetColSelected(Col, false);
+    }
+}
+
+void ViewerWindow::SortAsInSource()
+{
+    Sort(SortList());
+}
+
+void ViewerWindow::Sort(const SortList& sort)
+{
+    FinishEditing();
+    try {
+        rows_.Sort(sort, Order());
+        sort_ = sort;
+    } catch (const AutomationError& error) {
+        const std::string rows = Counted(static_cast<std::uint64_t>(rows_.Count()), "row");
+        Tell(error.Number() == Overflow ? "not sorted: " + rows + " are more than can be sorted"
+                                        : std::string("not sorted: ") + error.what());
+    }
+    TellState();
+    SearchAgainSoon();
+}
+
+FoundCell ViewerWindow::CurrentCell()
+{
+    const i32 row = Grid().CurrentRow();
+    return { static_cast<i16>(row), Grid().CurrentCol() };
+}
+
+void ViewerWindow::OpenFindBar()
+{
+    FinishEditing();
+    searchStart_ = CurrentCell();
+    findBar_->Open();
+    TellFound();
+}
+
+void ViewerWindow::CloseFindBar()
+{
+    findBar_->hide();
+    grid_->setFocus();
+}
+
+// As it is typed, from where the typing began.
+void ViewerWindow::Search()
+{
+    isSearchStale_ = true;
+    TellFound();
+    GoTo(finder_.At(searchStart_));
+}
+
+void ViewerWindow::FindNext()
+{
+    if (findBar_->Text().isEmpty())
+        return OpenFindBar();
+    TellFound();
+    GoTo(finder_.Next(CurrentCell()));
+    searchStart_ = CurrentCell();
+}
+
+void ViewerWindow::FindPrevious()
+{
+    if (findBar_->Text().isEmpty())
+        return OpenFindBar();
+    TellFound();
+    GoTo(finder_.Previous(CurrentCell()));
+    searchStart_ = CurrentCell();
+}
+
+void ViewerWindow::GoTo(std::optional<FoundCell> cell)
+{
+    if (!cell)
+        return;
+    FinishEditing();
+    Grid().CurrentPos(cell->Row, cell->Col);
+    TellState();
+    TellFound();
+}
+
+void ViewerWindow::TellFound()
+{
+    if (isSearchStale_)
+        finder_.Search(findBar_->Text().toStdU16String());
+    isSearchStale_ = false;
+    findBar_->TellCount(finder_.PlaceOf(CurrentCell()), finder_.Count());
+}
+
+void ViewerWindow::SearchAgainSoon()
+{
+    isSearchStale_ = true;
+    if (findBar_->isVisible())
+        searchAgain_.start();
 }
 
 } // namespace vornix::viewer

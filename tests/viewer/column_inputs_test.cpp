@@ -17,7 +17,7 @@ public:
 
     std::optional<std::string> WhyReadOnly() const override { return whyReadOnly; }
     bool CanChange(int row, int) const override { return row != lockedRow_; }
-    std::vector<CellText> Save(const Edits&) override { return {}; }
+    SaveOutcome Save(const Changes&) override { return {}; }
 
     std::optional<std::string> whyReadOnly;
 

@@ -17,7 +17,7 @@ class FakeSaver final : public Saver {
 public:
     std::optional<std::string> WhyReadOnly() const override { return {}; }
     bool CanChange(int, int) const override { return true; }
-    std::vector<CellText> Save(const Edits&) override { return {}; }
+    SaveOutcome Save(const Changes&) override { return {}; }
 };
 
 ChangeableSource Source()
@@ -36,7 +36,7 @@ protected:
     {
         PresentTable(grid, container.WindowDevice(), container.Colors(), document.Saved());
         MakeEditable(grid, document, inputs);
-        handlers.OnBeforeEdit = [this](i16 Row, i16 Col) { date.Begin(Row, Col); };
+        handlers.OnBeforeEdit = [this](i16 Row, i16 Col) { date.Begin(Row, Col, Row); };
         handlers.OnTextChange = [this](i16, i16) { date.Take(); };
         handlers.OnAfterEdit = [this](i16, i16) { date.End(); };
         container.EnterFocus();

@@ -14,16 +14,26 @@ public:
     std::optional<std::string> WhyReadOnly() const override { return whyReadOnly; }
     bool CanChange(int, int column) const override { return column == 0; }
     std::u16string_view LineBreak() const override { return lineBreak; }
-    std::vector<CellText> Save(const Edits& edits) override
+    bool CanRemove(int row) const override { return row != 2; }
+    bool CanFill(int column) const override { return column == 1; }
+    SaveOutcome Save(const Changes& changes) override
     {
         if (fails)
             throw SaveError("the disk is gone");
         ++saves;
-        for (const auto& [row, cells] : edits.Rows()) {
+        for (const auto& [row, cells] : changes.Changed()) {
             for (const auto& [column, text] : cells)
                 saved.push_back({ row, column, text });
         }
-        return others;
+        removed = changes.Removed();
+        added.clear();
+        for (const Records::Addition& addition : changes.Added()) {
+            added.push_back(addition.record);
+            behind.push_back(addition.behind);
+            for (const auto& [column, text] : changes.CellsOf(addition))
+                saved.push_back({ addition.record, column, text });
+        }
+        return { others, gone };
     }
 
     std::optional<std::string> whyReadOnly;
@@ -31,7 +41,11 @@ public:
     std::u16string lineBreak;
     int saves = 0;
     std::vector<CellText> saved;
+    std::vector<int> removed;
+    std::vector<int> added;
+    std::vector<int> behind;
     std::vector<CellText> others;
+    std::vector<int> gone;
 };
 
 class DocumentTest : public testing::Test {
@@ -138,6 +152,104 @@ TEST_F(DocumentTest, WritesLineBreaksAsTheCellHadThem)
     EXPECT_EQ(document.ChangeCount(), 2u) << "an editor's breaks alone are no change";
 }
 
+TEST_F(DocumentTest, AddsRows)
+{
+    const int first = document.AddRow(1, Records::Side::Before);
+    const int last = document.AddRow(2, Records::Side::Behind);
+    EXPECT_EQ(first, 3);
+    EXPECT_THAT(document.Rows(), ElementsAre(0, first, 1, 2, last));
+    EXPECT_EQ(document.RowCount(), 5);
+    EXPECT_EQ(document.TotalRows(), 5u);
+    EXPECT_EQ(document.NameOf(last), "+2");
+    EXPECT_EQ(document.Text(first, 1), u"");
+    EXPECT_EQ(document.ChangeCount(), 2u);
+    EXPECT_TRUE(document.CanChange(first, 1));
+    EXPECT_FALSE(document.CanChange(first, 0)) << "the source fills it";
+    document.Change(first, 1, u"new");
+    EXPECT_EQ(document.ChangeCount(), 2u) << "the texts of a new row are no changes of their own";
+    EXPECT_THAT(document.Save(), IsEmpty());
+    EXPECT_THAT(saver->saved, ElementsAre(CellText { first, 1, u"new" }));
+    EXPECT_THAT(saver->added, ElementsAre(first, last));
+    EXPECT_THAT(saver->behind, ElementsAre(0, 2));
+    EXPECT_FALSE(document.IsChanged());
+    EXPECT_EQ(document.Saved().Text(first, 1), u"new");
+    EXPECT_EQ(document.NameOf(first), "2");
+    EXPECT_TRUE(document.CanChange(first, 0)) << "it is a row like others now";
+}
+
+TEST_F(DocumentTest, RemovesRowsAndTakesThemBack)
+{
+    document.Change(1, 0, u"changed");
+    document.RemoveRow(0);
+    document.RemoveRow(1);
+    EXPECT_FALSE(document.CanRemove(2));
+    EXPECT_THROW(document.RemoveRow(2), std::logic_error);
+    EXPECT_THAT(document.Rows(), ElementsAre(2));
+    EXPECT_EQ(document.ChangeCount(), 2u) << "what was changed in it goes with it";
+    EXPECT_TRUE(document.RestoreRow(1));
+    EXPECT_EQ(document.Text(1, 0), u"changed");
+    EXPECT_EQ(document.ChangeCount(), 2u);
+    document.Save();
+    EXPECT_THAT(saver->removed, ElementsAre(0));
+    EXPECT_THAT(saver->saved, ElementsAre(CellText { 1, 0, u"changed" }));
+    EXPECT_FALSE(document.RestoreRow(0));
+    EXPECT_EQ(document.RowCount(), 2);
+    EXPECT_EQ(document.NameOf(1), "1");
+}
+
+TEST_F(DocumentTest, HasNoChangeWhereANewRowWasRemoved)
+{
+    const int row = document.AddRow(-1, Records::Side::Behind);
+    document.Change(row, 1, u"x");
+    document.RemoveRow(row);
+    EXPECT_FALSE(document.IsChanged());
+    EXPECT_THAT(document.Save(), IsEmpty());
+    EXPECT_EQ(saver->saves, 0);
+    document.RestoreRow(row);
+    EXPECT_THAT(document.Rows(), ElementsAre(row, 0, 1, 2));
+    EXPECT_EQ(document.Text(row, 1), u"x");
+    EXPECT_TRUE(document.IsChanged());
+}
+
+TEST_F(DocumentTest, HasNotTheRowsThatTheSourceHasRemoved)
+{
+    saver->gone = { 1 };
+    document.RemoveRow(0);
+    document.Save();
+    EXPECT_THAT(document.Rows(), ElementsAre(2));
+    EXPECT_FALSE(document.IsThere(1));
+    EXPECT_FALSE(document.IsChanged());
+    EXPECT_FALSE(document.RestoreRow(1));
+}
+
+TEST_F(DocumentTest, KeepsAddedAndRemovedRowsWhenSavingFails)
+{
+    document.AddRow(0, Records::Side::Behind);
+    document.RemoveRow(1);
+    saver->fails = true;
+    EXPECT_THROW(document.Save(), SaveError);
+    EXPECT_EQ(document.ChangeCount(), 2u);
+    EXPECT_THAT(document.Rows(), ElementsAre(0, 3, 2));
+    EXPECT_TRUE(document.RestoreRow(1));
+}
+
+TEST(Document, AddsNoMoreRowsThanTheGridHolds)
+{
+    auto table = std::make_unique<Table>();
+    table->Columns() = { { u"a" } };
+    for (int row = 0; row < LoadLimits().maxRows - 1; ++row)
+        table->AppendRow(std::vector<Field> { { u"x" } });
+    table->SetTotalRows(40'000);
+    Document document({ std::move(table), std::make_unique<FakeSaver>() });
+    EXPECT_EQ(document.WhyNoMoreRows(), std::nullopt);
+    document.AddRow(0, Records::Side::Before);
+    EXPECT_EQ(document.TotalRows(), 40'001u);
+    EXPECT_EQ(document.WhyNoMoreRows(), "the grid holds no more than 32,765 rows");
+    EXPECT_THROW(document.AddRow(0, Records::Side::Before), std::logic_error);
+    document.RemoveRow(5);
+    EXPECT_EQ(document.WhyNoMoreRows(), std::nullopt);
+}
+
 TEST(Document, IsReadOnlyWhereItsSourceIs)
 {
     auto table = std::make_unique<Table>();
@@ -148,4 +260,6 @@ TEST(Document, IsReadOnlyWhereItsSourceIs)
     const Document document({ std::move(table), std::move(saver) });
     EXPECT_EQ(document.WhyReadOnly(), "it is carved in stone");
     EXPECT_FALSE(document.CanChange(0, 0));
+    EXPECT_FALSE(document.CanRemove(0));
+    EXPECT_EQ(document.WhyNoMoreRows(), "it is carved in stone");
 }

@@ -21,7 +21,7 @@ public:
 
     std::optional<std::string> WhyReadOnly() const override { return reason_; }
     bool CanChange(int row, int column) const override { return row != 0 || column != 1; }
-    std::vector<CellText> Save(const Edits&) override { return {}; }
+    SaveOutcome Save(const Changes&) override { return {}; }
 
 private:
     std::optional<std::string> reason_;
@@ -110,9 +110,9 @@ TEST(EditableCells, SayWhatTheDocumentTakes)
 TEST(EditableCells, ShowWhatTheSourceHasMadeOfThem)
 {
     Desk desk;
-    ShowText(desk.grid, desk.document, desk.inputs, { 0, 0, u"ONE" });
+    ShowText(desk.grid, desk.document, desk.inputs, 0, { 0, 0, u"ONE" });
     EXPECT_EQ(desk.grid.Text(0, 0), u"ONE");
-    ShowText(desk.grid, desk.document, desk.inputs, { 0, 2, u"0" });
+    ShowText(desk.grid, desk.document, desk.inputs, 0, { 0, 2, u"0" });
     EXPECT_FALSE(desk.grid.CellChecked(0, 2));
     EXPECT_EQ(desk.grid.CellMode(0, 2), vxCheckBox);
 }
@@ -123,9 +123,9 @@ TEST(EditableCells, CloseTheEditorOfACellThatReadsOtherwiseOnly)
     desk.grid.CurrentPos(0, 0);
     desk.grid.EnterEdit();
     ASSERT_TRUE(desk.grid.IsEditMode());
-    ShowText(desk.grid, desk.document, desk.inputs, { 1, 1, u"y" });
+    ShowText(desk.grid, desk.document, desk.inputs, 1, { 1, 1, u"y" });
     EXPECT_TRUE(desk.grid.IsEditMode());
-    ShowText(desk.grid, desk.document, desk.inputs, { 0, 0, u"ONE" });
+    ShowText(desk.grid, desk.document, desk.inputs, 0, { 0, 0, u"ONE" });
     EXPECT_FALSE(desk.grid.IsEditMode());
     EXPECT_EQ(desk.grid.Text(0, 0), u"ONE");
 }
@@ -137,7 +137,7 @@ TEST(EditableCells, HaveListsWhereThereIsSomethingToChooseFrom)
     EXPECT_EQ(desk.grid.CellMode(8, 0), vxComboDropDownBox);
     EXPECT_EQ(desk.grid.CellMode(0, 1), vxCellFixed) << "which cannot be changed";
     EXPECT_EQ(desk.grid.CellMode(1, 1), vxComboListBox);
-    ShowText(desk.grid, desk.document, desk.inputs, { 1, 1, u"47" });
+    ShowText(desk.grid, desk.document, desk.inputs, 1, { 1, 1, u"47" });
     EXPECT_EQ(desk.grid.CellMode(1, 1), vxComboListBox);
 }
 

@@ -432,7 +432,7 @@ class ReadOnlySaver final : public Saver {
 public:
     std::optional<std::string> WhyReadOnly() const override { return "it is carved in stone"; }
     bool CanChange(int, int) const override { return false; }
-    std::vector<CellText> Save(const Edits&) override { throw SaveError("it is carved in stone"); }
+    SaveOutcome Save(const Changes&) override { throw SaveError("it is carved in stone"); }
 };
 
 TEST(EditorWindow, LeavesCheckBoxesOfAReadOnlySourceAsTheyAre)
@@ -467,7 +467,7 @@ class ForgetfulSaver final : public Saver {
 public:
     std::optional<std::string> WhyReadOnly() const override { return {}; }
     bool CanChange(int, int) const override { return true; }
-    std::vector<CellText> Save(const Edits&) override { return { { 99, 0, u"" } }; }
+    SaveOutcome Save(const Changes&) override { return { { { 99, 0, u"" } } }; }
 };
 
 TEST(EditorWindow, TellsOfChangesThatAreSavedButCannotBeShown)

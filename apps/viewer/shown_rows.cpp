@@ -1,0 +1,149 @@
+#include "shown_rows.h"
+
+#include "redraw_pause.h"
+#include "sort_key.h"
+
+#include <algorithm>
+#include <numeric>
+#include <string>
+
+namespace vornix::viewer {
+
+namespace {
+
+constexpr i16 NumberCol = -1; // its keys carry each row's place through the sorting
+
+std::u16string Written(std::size_t number)
+{
+    const std::string digits = std::to_string(number);
+    return { digits.begin(), digits.end() };
+}
+
+} // namespace
+
+ShownRows::ShownRows(Vornix& grid, const Table& table)
+    : grid_(grid)
+    , table_(table)
+    , rows_(static_cast<std::size_t>(table.RowCount()))
+{
+    std::iota(rows_.begin(), rows_.end(), 0);
+}
+
+int ShownRows::At(int Row) const
+{
+    return Row < 0 || Row >= Count() ? -1 : rows_[static_cast<std::size_t>(Row)];
+}
+
+i16 ShownRows::PlaceOf(int row) const
+{
+    const auto found = std::find(rows_.begin(), rows_.end(), row);
+    return found == rows_.end() ? NoIndex : static_cast<i16>(found - rows_.begin());
+}
+
+void ShownRows::Sort(const SortList& sort, const std::vector<int>& order)
+{
+    const RedrawPause pause(grid_);
+    grid_.ExitEdit();
+    SetPlaces(order);
+    try {
+        for (const SortColumn& key : sort.Columns())
+            SetKeys(key.column);
+        SortGrid(sort);
+    } catch (...) {
+        ClearKeys(sort);
+        throw;
+    }
+    TakePlaces(order);
+    ClearKeys(sort);
+    MarkTitles(sort);
+}
+
+void ShownRows::SetPlaces(const std::vector<int>& order)
+{
+    std::vector<std::size_t> places(static_cast<std::size_t>(table_.RowCount()));
+    for (std::size_t place = 0; place < order.size(); ++place)
+        places.at(static_cast<std::size_t>(order[place])) = place;
+    for (int Row = 0; Row < Count(); ++Row)
+        grid_.SetKey(static_cast<i16>(Row), NumberCol, Written(places.at(static_cast<std::size_t>(At(Row)))));
+}
+
+void ShownRows::SetKeys(int column)
+{
+    const i16 Col = static_cast<i16>(column);
+    SortKeyMaker maker(table_.Columns()[static_cast<std::size_t>(column)].kind);
+    grid_.SetSortType(Col, vxAlphaNum);
+    grid_.SetSortUseKey(Col, maker.HasKeys());
+    if (!maker.HasKeys())
+        return;
+    for (int Row = 0; Row < Count(); ++Row)
+        maker.Add(grid_.Text(static_cast<i16>(Row), Col));
+    for (int Row = 0; Row < Count(); ++Row)
+        grid_.SetKey(static_cast<i16>(Row), Col, maker.KeyOf(grid_.Text(static_cast<i16>(Row), Col)));
+}
+
+// Keys are of no use to anybody else.
+void ShownRows::ClearKeys(const SortList& sort)
+{
+    const auto clear = [this](i16 Col) {
+        for (int Row = 0; Row < Count(); ++Row)
+            grid_.SetKey(static_cast<i16>(Row), Col, {});
+    };
+    clear(NumberCol);
+    for (const SortColumn& key : sort.Columns()) {
+        if (grid_.SortUseKey(static_cast<i16>(key.column)))
+            clear(static_cast<i16>(key.column));
+    }
+}
+
+void ShownRows::SortGrid(const SortList& sort)
+{
+    i16 place = 0;
+    const auto add = [&](int column, bool isDescending) {
+        const i16 Col = static_cast<i16>(column);
+        grid_.SetSortOrder(Col, ++place);
+        grid_.SetSortCriteria(Col, isDescending ? vxDesc : vxAsc);
+    };
+    for (const SortColumn& key : sort.Columns())
+        add(key.column, key.isDescending);
+    // Rows that are alike stay as they follow one another.
+    grid_.SetSortType(NumberCol, vxNumeric);
+    grid_.SetSortUseKey(NumberCol, true);
+    add(NumberCol, false);
+    grid_.Sort();
+}
+
+void ShownRows::TakePlaces(const std::vector<int>& order)
+{
+    for (int Row = 0; Row < Count(); ++Row) {
+        const std::u16string key = grid_.Key(static_cast<i16>(Row), NumberCol);
+        const auto place = static_cast<std::size_t>(std::stoul(std::string(key.begin(), key.end())));
+        rows_[static_cast<std::size_t>(Row)] = order.at(place);
+    }
+}
+
+void ShownRows::MarkTitles(const SortList& sort)
+{
+    for (int column = 0; column < table_.ColumnCount(); ++column) {
+        const std::u16string mark = sort.MarkOf(column);
+        const std::u16string& name = table_.Columns()[static_cast<std::size_t>(column)].name;
+        const std::u16string title = mark.empty() ? name : mark + u' ' + name;
+        if (grid_.Text(-1, static_cast<i16>(column)) != title)
+            grid_.SetText(-1, static_cast<i16>(column), title);
+    }
+}
+
+void ShownRows::Insert(int Row, const std::vector<int>& rows)
+{
+    grid_.ExitEdit();
+    grid_.InsertRows(static_cast<i16>(Row), static_cast<i16>(rows.size()));
+    rows_.insert(rows_.begin() + Row, rows.begin(), rows.end());
+}
+
+void ShownRows::Remove(int Row, int count)
+{
+    grid_.ExitEdit();
+    grid_.DeleteRows(static_cast<i16>(Row), static_cast<i16>(count));
+    rows_.erase(rows_.begin() + Row, rows_.begin() + Row + count);
+}
+
+} // namespace vornix::viewer

@@ -65,7 +65,6 @@ EditorWindow::EditorWindow(Document& document)
     changes_ = AddLabel("changes", 0);
     AddFileMenu();
     AddEditActions();
-    AddContextMenu();
     MakeEditable(GridWidget().Grid(), document, inputs_);
     ListenToGrid();
     TellChanges();
@@ -107,29 +106,6 @@ void EditorWindow::AddEditActions()
     add("removeRows", tr("&Delete Rows"), { Qt::CTRL | Qt::Key_Minus }, &EditorWindow::RemoveRows);
     restoreRows_ = add("restoreRows", tr("&Undelete Rows"), { QKeySequence::Undo }, &EditorWindow::RestoreRows);
     restoreRows_->setEnabled(false);
-}
-
-void EditorWindow::AddContextMenu()
-{
-    GridWidget().setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(&GridWidget(), &QWidget::customContextMenuRequested, this, &EditorWindow::ShowMenu);
-}
-
-// A right press moves neither the current cell nor the selection; the menu is for what it lies on.
-void EditorWindow::ShowMenu(QPoint at)
-{
-    i16 Row = 0;
-    i16 Col = 0;
-    const QRect client = GridWidget().contentsRect();
-    const bool isCell = Grid().GetCellAtPos(at.x() - client.x(), at.y() - client.y(), Row, Col) && Row >= 0;
-    const bool isSelected = isCell
-        && (Grid().RowSelected(Row) || (Col >= 0 && (Grid().ColSelected(Col) || Grid().CellSelected(Row, Col))));
-    if (isCell && !isSelected) {
-        FinishEditing();
-        Grid().CurrentPos(Row, std::max<i16>(Col, 0));
-        TellState();
-    }
-    EditMenu()->popup(GridWidget().mapToGlobal(at));
 }
 
 void EditorWindow::ListenToGrid()
@@ -228,6 +204,7 @@ void EditorWindow::AddRows(Records::Side side)
     if (first < Rows().Count())
         Grid().CurrentPos(first, std::max<i16>(Grid().CurrentCol(), 0));
     Changed(line);
+    Grid().EnterEdit(); // its texts can be typed at once
 }
 
 void EditorWindow::RemoveRows()
@@ -306,7 +283,11 @@ bool EditorWindow::Save()
     notice_.clear();
     try {
         const BusyPointer busy;
-        editor_.ShowSaved(document_.Save());
+        const int rows = document_.RowCount();
+        const std::vector<CellText> others = document_.Save();
+        if (document_.RowCount() != rows)
+            FinishEditing(); // rows go with those that were deleted
+        editor_.ShowSaved(others);
         date_.Saved();
     } catch (const std::bad_alloc&) {
         TellFailure(tr("there is not enough memory"));

@@ -42,7 +42,6 @@ protected:
 private:
     void AddFileMenu();
     void AddEditActions();
-    void AddContextMenu();
     void ListenToGrid();
     void BeginEditing(i16 Row, i16 Col);
     void EndEditing();
@@ -53,7 +52,6 @@ private:
     void AddRows(Records::Side side);
     // After a change of cells or rows that was made here.
     void Changed(const std::string& line);
-    void ShowMenu(QPoint at);
     void TellStateLater();
     void TellChanges();
     void TellFailure(const QString& reason);

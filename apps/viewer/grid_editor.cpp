@@ -146,6 +146,8 @@ std::string GridEditor::RemoveRows(const SelectedCells& cells)
 
 void GridEditor::Remove(const std::vector<int>& Rows)
 {
+    if (Rows.empty())
+        return;
     const RedrawPause pause(grid_);
     ForEachRunFromTheEnd(Rows, [this](int Row, int count) { rows_.Remove(Row, count); });
 }
@@ -172,7 +174,6 @@ bool GridEditor::RestoreRows()
 
 void GridEditor::ShowSaved(const std::vector<CellText>& others)
 {
-    const RedrawPause pause(grid_);
     removed_.clear();
     std::vector<int> gone;
     for (int Row = 0; Row < rows_.Count(); ++Row) {

@@ -15,7 +15,7 @@
 namespace vornix::viewer {
 
 // What cannot be done is left out and told: each gives a line for the reader, which is empty when all was done. The grid
-// must have no editor open.
+// must have no editor open where rows come and go.
 class GridEditor {
 public:
     // All must outlive this.
@@ -39,7 +39,7 @@ public:
     bool RestoreRows();
     bool CanRestoreRows() const { return !removed_.empty(); }
 
-    // What saving has made of the cells, and of the rows.
+    // What saving has made of the cells, and of the rows. An editor stays open unless its cell reads otherwise.
     void ShowSaved(const std::vector<CellText>& others);
 
 private:

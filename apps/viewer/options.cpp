@@ -73,6 +73,7 @@ public:
         text_ = AddFlag("--text", "write the table as tab separated values, and do nothing else");
         parser_.set_version_flag("--version", "vornix-view " VORNIX_VERSION, "show the version and exit");
         parser_.set_help_flag("-h,--help", "show this help and exit");
+        parser_.footer(Keys);
         query_->excludes(table_);
         list_->excludes(table_)->excludes(query_)->excludes(snapshot_)->excludes(text_);
         text_->excludes(snapshot_);
@@ -141,6 +142,14 @@ private:
             options.action = ViewerAction::Text;
         return options;
     }
+
+    static constexpr const char* Keys
+        = "In the window: click a column title to sort, again to turn round, a third time for the order of the file\n"
+          "(Ctrl+0); Ctrl+click sorts by several columns. Ctrl+F finds, F3 and Shift+F3 go on, Ctrl+C copies. "
+          "Double-click\n"
+          "the edge of a column to fit it. With --edit: Ctrl+X, Ctrl+V and Delete on the selected cells, Ctrl+Plus "
+          "and\n"
+          "Ctrl+Enter add a row above and below, Ctrl+Minus deletes rows, Ctrl+Z brings them back, Ctrl+S saves.";
 
     CLI::App parser_ {
         "Shows a file of separated values (CSV, TSV) or a table of a SQLite database, and changes it with --edit.",

@@ -18,6 +18,7 @@
 #include <QStatusBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <numeric>
 
 namespace vornix::viewer {
@@ -95,6 +96,7 @@ ViewerWindow::ViewerWindow(const Table& table)
     statusBar()->addPermanentWidget(extent_);
     AddMenus();
     AddFindBar();
+    AddContextMenu();
 
     PresentTable(grid_->Grid(), grid_->MeasuringDevice(), grid_->Colors(), table);
     GiveToUser(grid_->Grid());
@@ -151,6 +153,47 @@ void ViewerWindow::AddFindBar()
     connect(&searchAgain_, &QTimer::timeout, this, &ViewerWindow::TellFound);
 }
 
+void ViewerWindow::AddContextMenu()
+{
+    grid_->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(grid_, &QWidget::customContextMenuRequested, this, &ViewerWindow::ShowMenu);
+}
+
+// A right press moves neither the current cell nor the selection; the menu is for what it lies on.
+void ViewerWindow::ShowMenu(QPoint at)
+{
+    i16 Row = 0;
+    i16 Col = 0;
+    const QRect client = grid_->contentsRect();
+    const bool isCell = Grid().GetCellAtPos(at.x() - client.x(), at.y() - client.y(), Row, Col) && Row >= 0;
+    const bool isSelected = isCell
+        && (Grid().RowSelected(Row) || (Col >= 0 && (Grid().ColSelected(Col) || Grid().CellSelected(Row, Col))));
+    if (isCell && !isSelected) {
+        FinishEditing();
+        if (Col < 0)
+            SelectRow(Row);
+        else
+            SelectCell(Row, Col);
+    }
+    editMenu_->popup(grid_->mapToGlobal(at));
+}
+
+void ViewerWindow::SelectCell(i16 Row, i16 Col)
+{
+    Grid().CurrentPos(Row, Col);
+    Grid().SetSelectedCells(Row, Col, Row, Col);
+    TellState();
+}
+
+void ViewerWindow::SelectRow(i16 Row)
+{
+    Grid().CurrentPos(Row, 0);
+    if (Grid().SelectCountRow() > 0)
+        Grid().SetRowsSelected(0, static_cast<i16>(Grid().Rows() - 1), false);
+    Grid().SetRowSelected(Row, true);
+    TellState();
+}
+
 // Titles are of any length and may look like markup; the window can be narrower than the line.
 QLabel* ViewerWindow::AddLabel(const char* name, int stretch)
 {
@@ -178,6 +221,7 @@ void ViewerWindow::TellState()
 void ViewerWindow::Tell(const std::string& line)
 {
     notice_->setText(ToQString(line));
+    notice_->setToolTip(ToQString(line)); // the window may be too narrow for it
 }
 
 void ViewerWindow::TellExtent(const std::string& line)
@@ -313,8 +357,7 @@ void ViewerWindow::GoTo(std::optional<FoundCell> cell)
     if (!cell)
         return;
     FinishEditing();
-    Grid().CurrentPos(cell->Row, cell->Col);
-    TellState();
+    SelectCell(cell->Row, cell->Col);
     TellFound();
 }
 

@@ -82,6 +82,11 @@ protected:
 private:
     void AddMenus();
     void AddFindBar();
+    void AddContextMenu();
+    void ShowMenu(QPoint at);
+    // As the current one, and alone.
+    void SelectCell(i16 Row, i16 Col);
+    void SelectRow(i16 Row);
     void ListenToTitles();
     void ClickTitle(i16 Col, bool isFurther);
     void Sort(const SortList& sort);

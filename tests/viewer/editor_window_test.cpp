@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QLabel>
 #include <QMessageBox>
 #include <QTest>
@@ -102,6 +103,8 @@ protected:
         QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, at);
         Settle();
     }
+    void ClickTitle(i16 Col) { Click(-1, Col); }
+    QAction& Action(const char* name) { return *window.findChild<QAction*>(QLatin1String(name)); }
     void Type(Qt::Key key, Qt::KeyboardModifiers keys = {})
     {
         QTest::keyClick(window.windowHandle(), key, keys);
@@ -277,6 +280,155 @@ TEST_F(EditorWindowTest, KeepsTheLineBreaksOfACell)
     EXPECT_EQ(document.Text(0, 3), u"a\nb!");
 }
 
+TEST_F(EditorWindowTest, SavesInTheOrderOfTheFileWhateverIsShown)
+{
+    ClickTitle(0);
+    ASSERT_EQ(Grid().Text(0, 0), u"Bern");
+    EXPECT_EQ(Grid().Text(0, -1), u"3");
+    Grid().CurrentPos(0, 0);
+    Type(Qt::Key_F2);
+    Type(Qt::Key_End);
+    Type("!");
+    EXPECT_EQ(document.Text(2, 0), u"Bern!");
+    Click(2, 2);
+    EXPECT_TRUE(Grid().CellChecked(2, 2)) << "it was Roma's";
+    Type(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(Content(path), "city,total,paid,note\nOslo,12.50,yes,\"a\nb\"\nRoma,7,yes,c\nBern!,8,,d\n");
+    EXPECT_EQ(Grid().Text(0, 0), u"Bern!") << "and shows them as they were";
+}
+
+TEST_F(EditorWindowTest, AddsRowsByTheirKeys)
+{
+    Grid().CurrentPos(1, 0);
+    Type(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(Grid().Text(1, -1), u"+1");
+    EXPECT_EQ(Label("currentCell"), "city, row +1");
+    EXPECT_EQ(Label("changes"), "1 change not saved");
+    EXPECT_EQ(Label("extent"), "4 rows, 4 columns");
+    ASSERT_TRUE(Grid().IsEditMode()) << "its texts can be typed at once";
+    Type("Bonn");
+    Type(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(Grid().Text(2, -1), u"+2") << "from an editor too";
+    Type(Qt::Key_Right);
+    Type("5");
+    Type(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(Content(path),
+        "city,total,paid,note\nOslo,12.50,yes,\"a\nb\"\nBonn,,,\"\"\n,5,,\"\"\nRoma,7,no,c\nBern,8,,d\n");
+    EXPECT_EQ(Label("changes"), "saved");
+    EXPECT_EQ(Grid().Text(1, -1), u"2") << "as the file counts them now";
+    EXPECT_EQ(Grid().Text(4, -1), u"5");
+}
+
+TEST_F(EditorWindowTest, DeletesRowsAndBringsThemBack)
+{
+    Grid().SetRowSelected(0, true);
+    Grid().SetRowSelected(2, true);
+    EXPECT_FALSE(Action("restoreRows").isEnabled());
+    Type(Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(Grid().Rows(), 1);
+    EXPECT_EQ(Label("extent"), "1 row, 4 columns");
+    EXPECT_EQ(Label("changes"), "2 changes not saved");
+    Type(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Grid().Rows(), 3);
+    EXPECT_EQ(Grid().Text(2, 0), u"Bern");
+    EXPECT_EQ(Label("changes"), "no changes");
+    Grid().CurrentPos(1, 0);
+    Type(Qt::Key_Minus, Qt::ControlModifier);
+    Type(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(Content(path), "city,total,paid,note\nOslo,12.50,yes,\"a\nb\"\nBern,8,,d\n");
+    EXPECT_FALSE(Action("restoreRows").isEnabled()) << "that has been saved";
+}
+
+TEST_F(EditorWindowTest, SortsItsNewRowsToo)
+{
+    Grid().CurrentPos(0, 0);
+    Type(Qt::Key_Plus, Qt::ControlModifier);
+    Type("Paris");
+    ClickTitle(0);
+    EXPECT_EQ(Grid().Text(2, -1), u"+1");
+    EXPECT_EQ(Grid().Text(2, 0), u"Paris");
+    Action("asInSource").trigger();
+    EXPECT_EQ(Grid().Text(0, -1), u"+1");
+    Type(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(Content(path).substr(0, 46), "city,total,paid,note\nParis,,,\"\"\nOslo,12.50,yes");
+}
+
+TEST_F(EditorWindowTest, PastesBlocks)
+{
+    QApplication::clipboard()->setText(QStringLiteral("Wien\t3\tyes\r\nGraz\t4\tyes\r\n"));
+    Type(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(Grid().Text(0, 0), u"Wien");
+    EXPECT_EQ(Grid().Text(1, 1), u"4");
+    EXPECT_TRUE(Grid().CellChecked(1, 2));
+    EXPECT_EQ(Label("changes"), "5 changes not saved");
+    Grid().CurrentPos(2, 3);
+    Type(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(Label("notice"), "5 of 6 cells not pasted (there are no more columns)");
+    Type(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(Content(path), "city,total,paid,note\nWien,3,yes,\"a\nb\"\nGraz,4,yes,c\nBern,8,,Wien\n");
+    EXPECT_EQ(Label("notice"), "") << "until the next key";
+}
+
+TEST_F(EditorWindowTest, CopiesCutsAndClearsCells)
+{
+    Grid().SetSelectedCells(0, 0, 1, 1);
+    Type(Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("Oslo\t12.50\r\nRoma\t7"));
+    EXPECT_EQ(document.Text(1, 1), u"");
+    EXPECT_EQ(Label("changes"), "4 changes not saved");
+    Type(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(Label("changes"), "no changes");
+    Grid().CurrentPos(2, 0);
+    Grid().SetSelectedCells(2, 0, 2, 0);
+    Type(Qt::Key_Delete);
+    EXPECT_EQ(document.Text(2, 0), u"");
+    EXPECT_EQ(Grid().Text(2, 0), u"");
+}
+
+TEST_F(EditorWindowTest, LeavesAnOpenEditorItsKeys)
+{
+    Type(Qt::Key_F2);
+    ASSERT_TRUE(Grid().IsEditMode());
+    Type(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("Oslo")) << "without selected text, the cell";
+    Type(Qt::Key_Home);
+    Type(Qt::Key_Right, Qt::ShiftModifier);
+    Type(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("O"));
+    Type(Qt::Key_End);
+    Type(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(document.Text(0, 0), u"OsloO") << "a single text goes to the caret";
+    Type(Qt::Key_Backspace);
+    Type(Qt::Key_Home);
+    Type(Qt::Key_Delete);
+    EXPECT_EQ(document.Text(0, 0), u"slo");
+    Type(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Grid().Rows(), 3);
+    EXPECT_TRUE(Grid().IsEditMode());
+    QApplication::clipboard()->setText(QStringLiteral("a\tb"));
+    Type(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_FALSE(Grid().IsEditMode()) << "what fills several cells is for no editor";
+    EXPECT_EQ(Grid().Text(0, 0), u"a");
+    EXPECT_EQ(Grid().Text(0, 1), u"b");
+}
+
+TEST_F(EditorWindowTest, FindsWhileItEdits)
+{
+    Type(Qt::Key_F2);
+    Type(Qt::Key_End);
+    Type("123");
+    Type(Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(window.findChild<QWidget*>(QStringLiteral("findText")), QStringLiteral("123"));
+    EXPECT_EQ(Label("findCount"), "1 of 1");
+    EXPECT_FALSE(Grid().IsEditMode());
+    Click(1, 2);
+    Grid().CurrentPos(0, 0);
+    Type(Qt::Key_F2);
+    Type(Qt::Key_Backspace);
+    Type(Qt::Key_F3);
+    EXPECT_EQ(Label("findCount"), "not found");
+}
+
 class EditorWindowOfJobsTest : public EditorWindowTest {
 protected:
     EditorWindowOfJobsTest()
@@ -390,6 +542,24 @@ TEST_F(EditorWindowOfJobsTest, TakesAnEmptiedDateForNone)
     EXPECT_EQ(Content(path), std::string(Jobs).replace(16, 10, ""));
 }
 
+TEST_F(EditorWindowOfJobsTest, LeavesAnUnfinishedDateWhenRowsMove)
+{
+    Open(0, 1);
+    Type(Qt::Key_Delete);
+    Action("addRowAbove").trigger();
+    EXPECT_EQ(Grid().Text(1, 1), u"2024-12-31") << "the old one is back";
+    EXPECT_EQ(document.ChangeCount(), 1u);
+    Type(Qt::Key_Escape);
+    Grid().CurrentPos(1, 1);
+    QApplication::clipboard()->setText(QStringLiteral("2024-02-30"));
+    Type(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(Label("notice"), "1 cell not pasted (row 1, due: \"2024-02-30\" is no date such as 2024-12-31)");
+    Grid().SetSelectedCells(1, 1, 3, 1);
+    QApplication::clipboard()->setText(QStringLiteral("2024-02-28"));
+    Type(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(document.Text(2, 1), u"2024-02-28");
+}
+
 TEST_F(EditorWindowOfJobsTest, ClosesWithoutAnUnfinishedDate)
 {
     Open(0, 1);
@@ -425,7 +595,10 @@ TEST(EditorWindow, SaysWhyNothingCanBeChanged)
     const Vornix& grid = window.GridWidget().Grid();
     for (i16 Col = 0; Col < grid.Cols(); ++Col)
         EXPECT_NE(grid.CellMode(0, Col), vxTextBox) << Col;
-    EXPECT_FALSE(window.findChild<QAction*>(QStringLiteral("save"))->isEnabled());
+    for (const char* action :
+        { "save", "cut", "paste", "clear", "addRowAbove", "addRowBelow", "removeRows", "restoreRows" })
+        EXPECT_FALSE(window.findChild<QAction*>(QLatin1String(action))->isEnabled()) << action;
+    EXPECT_TRUE(window.findChild<QAction*>(QStringLiteral("copy"))->isEnabled());
 }
 
 class ReadOnlySaver final : public Saver {

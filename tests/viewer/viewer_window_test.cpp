@@ -1,8 +1,11 @@
 // The viewer's window in the hands of a person.
 #include "viewer_window.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QLabel>
+#include <QLineEdit>
 #include <QTest>
 #include <QWindow>
 
@@ -80,6 +83,14 @@ protected:
     }
     void Type(Qt::Key key, Qt::KeyboardModifiers keys = {}) { QTest::keyClick(window.windowHandle(), key, keys); }
 
+    void TypeText(const char* text)
+    {
+        for (; *text; ++text)
+            QTest::keyClick(window.findChild<QLineEdit*>(QStringLiteral("findText")), *text);
+    }
+    QWidget& Bar() { return *window.findChild<QWidget*>(QStringLiteral("findBar")); }
+    std::string Found() { return Label("findCount"); }
+
     const Table table = Orders();
     ViewerWindow window { table };
 };
@@ -136,9 +147,14 @@ TEST_F(ViewerWindowTest, SelectsLinesByTheirHeaders)
     EXPECT_EQ(Selection(), "2 rows selected");
     Click(MiddleOf(7, -1), Qt::ShiftModifier);
     EXPECT_EQ(Selection(), "3 rows selected");
-    Click(MiddleOf(-1, 1));
-    EXPECT_EQ(Selection(), "1 column selected");
-    EXPECT_EQ(Current(), "total, header");
+    const QPoint from = MiddleOf(-1, 0);
+    Press(from);
+    DragTo(from, MiddleOf(-1, 1));
+    Release(MiddleOf(-1, 1));
+    EXPECT_EQ(Selection(), "2 columns selected");
+    Click(MiddleOf(-1, 1), Qt::ShiftModifier);
+    EXPECT_EQ(Selection(), "2 columns selected");
+    EXPECT_EQ(Grid().Text(-1, 1), u"total") << "nothing is sorted by that";
     Click(MiddleOf(-2, 0));
     EXPECT_EQ(Selection(), "") << "the title takes the selection away";
 }
@@ -151,6 +167,118 @@ TEST_F(ViewerWindowTest, SizesColumns)
     DragTo(edge, edge + QPoint(40, 0));
     Release(edge + QPoint(40, 0));
     EXPECT_NEAR(Grid().ColWidth(0), before + 40, 3);
+}
+
+TEST_F(ViewerWindowTest, SortsByClicksOnTitles)
+{
+    Click(MiddleOf(-1, 2));
+    EXPECT_EQ(Grid().Text(-1, 2), u"▲ paid");
+    EXPECT_EQ(Selection(), "") << "the click was for the order";
+    EXPECT_FALSE(Grid().CellChecked(99, 2));
+    EXPECT_TRUE(Grid().CellChecked(100, 2));
+    EXPECT_EQ(Grid().Text(0, -1), u"2") << "numbers go with their rows";
+    EXPECT_EQ(Grid().Text(100, -1), u"1");
+    QTest::qWait(QApplication::doubleClickInterval() + 100);
+    Click(MiddleOf(-1, 2));
+    EXPECT_EQ(Grid().Text(-1, 2), u"▼ paid");
+    EXPECT_EQ(Grid().Text(0, -1), u"1");
+    Click(MiddleOf(-1, 0), Qt::ControlModifier);
+    EXPECT_EQ(Grid().Text(-1, 2), u"▼1 paid");
+    EXPECT_EQ(Grid().Text(-1, 0), u"▲2 <b>city</b>");
+    window.findChild<QAction*>(QStringLiteral("asInSource"))->trigger();
+    EXPECT_EQ(Grid().Text(-1, 2), u"paid");
+    EXPECT_EQ(Grid().Text(1, -1), u"2");
+}
+
+TEST_F(ViewerWindowTest, TakesADoubleClickOnATitleForTwoClicks)
+{
+    const QPoint at = MiddleOf(-1, 3);
+    MoveTo(at);
+    QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {}, at);
+    EXPECT_EQ(Grid().Text(-1, 3), u"▼ day");
+}
+
+TEST_F(ViewerWindowTest, FitsAColumnByADoubleClickOnItsEdge)
+{
+    Grid().SetColWidth(1, 200);
+    const QPoint edge = MiddleOf(-1, 1) + QPoint(Grid().ColWidth(1) / 2 - 1, 0);
+    MoveTo(edge);
+    QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {}, edge);
+    EXPECT_LT(Grid().ColWidth(1), 120);
+    EXPECT_GT(Grid().ColWidth(1), 20);
+    EXPECT_EQ(Grid().Text(-1, 1), u"total") << "nothing is sorted by that";
+}
+
+TEST_F(ViewerWindowTest, KeepsCheckBoxesOfSortedRowsAsTheyAre)
+{
+    Click(MiddleOf(-1, 2));
+    ASSERT_FALSE(Grid().CellChecked(0, 2));
+    Click(MiddleOf(0, 2));
+    EXPECT_FALSE(Grid().CellChecked(0, 2));
+}
+
+TEST_F(ViewerWindowTest, CopiesWhatIsSelected)
+{
+    Type(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("Oslo")) << "the current cell";
+    const QPoint from = MiddleOf(1, 0);
+    Press(from);
+    DragTo(from, MiddleOf(2, 2));
+    Release(MiddleOf(2, 2));
+    Type(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("Oslo\t12.00\tfalse\r\nOslo\t12.00\ttrue"));
+    Click(MiddleOf(-1, 3), Qt::ShiftModifier);
+    QApplication::clipboard()->clear();
+    Type(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text().count(QStringLiteral("2025-06-30")), 200) << "the whole column";
+}
+
+TEST_F(ViewerWindowTest, FindsTextsAsTheyAreTyped)
+{
+    EXPECT_FALSE(Bar().isVisible());
+    Type(Qt::Key_F, Qt::ControlModifier);
+    Settle();
+    ASSERT_TRUE(Bar().isVisible());
+    TypeText("12");
+    EXPECT_EQ(Found(), "1 of 200");
+    EXPECT_EQ(Current(), "total, row 1");
+    Type(Qt::Key_Return);
+    EXPECT_EQ(Found(), "2 of 200");
+    EXPECT_EQ(Current(), "total, row 2");
+    Type(Qt::Key_F3);
+    EXPECT_EQ(Found(), "3 of 200");
+    Type(Qt::Key_Return, Qt::ShiftModifier);
+    Type(Qt::Key_F3, Qt::ShiftModifier);
+    Type(Qt::Key_F3, Qt::ShiftModifier);
+    EXPECT_EQ(Found(), "200 of 200") << "around the beginning";
+    EXPECT_EQ(Current(), "total, row 200");
+    EXPECT_LE(Grid().FirstRow(), 199);
+    EXPECT_GE(Grid().LastRow(), 199) << "it is in view";
+    TypeText("x");
+    EXPECT_EQ(Found(), "not found");
+    EXPECT_EQ(Current(), "total, row 200") << "it stays where it is";
+    Type(Qt::Key_Escape);
+    Settle();
+    EXPECT_FALSE(Bar().isVisible());
+    EXPECT_TRUE(window.GridWidget().hasFocus());
+    Type(Qt::Key_F, Qt::ControlModifier);
+    TypeText("OSLO");
+    EXPECT_EQ(Found(), "1 of 200") << "the old text is typed over, and case does not count";
+    Type(Qt::Key_Escape);
+    Type(Qt::Key_F3);
+    EXPECT_EQ(Current(), "<b>city</b>, row 2") << "it goes on without its line";
+}
+
+TEST_F(ViewerWindowTest, CountsAnewWhatIsFoundOnceRowsAreSorted)
+{
+    Type(Qt::Key_F, Qt::ControlModifier);
+    TypeText("oslo");
+    EXPECT_EQ(Found(), "1 of 200");
+    Click(MiddleOf(-1, 2));
+    Type(Qt::Key_F3);
+    EXPECT_EQ(Found(), "1 of 200") << "from the title on";
+    Type(Qt::Key_F3);
+    EXPECT_EQ(Current(), "<b>city</b>, row 4") << "the second one that is not paid";
 }
 
 TEST_F(ViewerWindowTest, ChangesNothingOfTheTable)
@@ -170,6 +298,30 @@ TEST_F(ViewerWindowTest, CanBeNarrowerThanItsLine)
     window.resize(120, 200);
     Settle();
     EXPECT_LT(window.width(), 350);
+}
+
+TEST(ViewerWindow, TellsOfTooManyRowsToSort)
+{
+    Table table;
+    table.Columns() = { { u"n", ColumnKind::Integer } };
+    for (int row = 0; row < 30'000; ++row)
+        table.AppendRow(std::vector<Field> { { row % 2 == 0 ? u"2" : u"1" } });
+    ViewerWindow window(table);
+    window.show();
+    window.activateWindow();
+    QApplication::processEvents();
+    i32 x = 0;
+    i32 y = 0;
+    window.GridWidget().Grid().GetPositionCell(-1, 0, x, y);
+    const QPoint at = window.GridWidget().mapTo(&window, QPoint(x / 15 + 10, y / 15 + 10));
+    QTest::mouseMove(window.windowHandle(), at);
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, at);
+    EXPECT_EQ(window.findChild<QLabel*>(QStringLiteral("notice"))->text(),
+        QStringLiteral("not sorted: 30,000 rows are more than can be sorted"));
+    EXPECT_EQ(window.GridWidget().Grid().Text(-1, 0), u"n");
+    EXPECT_EQ(window.GridWidget().Grid().Text(0, 0), u"2");
+    QTest::keyClick(window.windowHandle(), Qt::Key_Down);
+    EXPECT_EQ(window.findChild<QLabel*>(QStringLiteral("notice"))->text(), QString()) << "until the next key";
 }
 
 TEST(ViewerWindow, ShowsATableWithoutRows)

@@ -144,12 +144,18 @@ void ShowRow(Vornix& grid, const Document& document, const ColumnInputs& inputs,
         ShowCell(grid, document, inputs, Row, row, column);
 }
 
+// The corner of the header looks as the number of a row does.
 void ShowName(Vornix& grid, const Document& document, i16 Row, int row)
 {
     const std::string name = document.NameOf(row);
     const std::u16string text(name.begin(), name.end());
-    if (grid.Text(Row, -1) != text)
-        grid.SetText(Row, -1, text);
+    if (grid.Text(Row, -1) == text)
+        return;
+    const bool isNew = document.IsNew(row);
+    grid.SetText(Row, -1, text);
+    grid.SetCellFontSize(Row, -1, grid.CellFontSize(-1, -1));
+    grid.SetCellFontBold(Row, -1, isNew);
+    grid.SetCellForeColor(Row, -1, isNew ? grid.DefaultForeColorFixed() : grid.CellForeColor(-1, -1));
 }
 
 std::u16string TextForDocument(const Vornix& grid, i16 Row, i16 Col)

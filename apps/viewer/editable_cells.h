@@ -20,7 +20,7 @@ void ShowText(Vornix& grid, const Document& document, const ColumnInputs& inputs
 // The same for a cell, or all cells and the name, of a row of the document, as they are now.
 void ShowCell(Vornix& grid, const Document& document, const ColumnInputs& inputs, i16 Row, int row, int column);
 void ShowRow(Vornix& grid, const Document& document, const ColumnInputs& inputs, i16 Row, int row);
-// What the row is called, in front of it.
+// What the row is called, in front of it; new ones stand out.
 void ShowName(Vornix& grid, const Document& document, i16 Row, int row);
 
 // What a changed cell says, as the document takes it.

@@ -46,12 +46,12 @@ FindBar::FindBar(QWidget* parent)
     field_->setObjectName(QStringLiteral("findText"));
     field_->setMaximumWidth(FieldWidth);
     field_->setClearButtonEnabled(true);
-    layout->addWidget(field_);
+    layout->addWidget(field_, 2);
     connect(AddButton(this, "findPrevious", QStyle::SP_ArrowUp, tr("Previous")), &QToolButton::clicked, this,
         &FindBar::Previous);
     connect(AddButton(this, "findNext", QStyle::SP_ArrowDown, tr("Next")), &QToolButton::clicked, this, &FindBar::Next);
     count_->setObjectName(QStringLiteral("findCount"));
-    layout->addWidget(count_, 1);
+    layout->addWidget(count_, 3);
     connect(AddButton(this, "findClose", QStyle::SP_TitleBarCloseButton, tr("Close")), &QToolButton::clicked, this,
         &FindBar::Closed);
     connect(field_, &QLineEdit::textChanged, this, &FindBar::Changed);

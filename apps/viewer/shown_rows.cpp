@@ -19,6 +19,14 @@ std::u16string Written(std::size_t number)
     return { digits.begin(), digits.end() };
 }
 
+// The mark stands where a narrow column does not cut it off.
+std::u16string TitleWith(const std::u16string& mark, const Column& column)
+{
+    if (mark.empty())
+        return column.name;
+    return AlignmentOf(column.kind) == Alignment::Right ? column.name + u' ' + mark : mark + u' ' + column.name;
+}
+
 } // namespace
 
 ShownRows::ShownRows(Vornix& grid, const Table& table)
@@ -124,9 +132,7 @@ void ShownRows::TakePlaces(const std::vector<int>& order)
 void ShownRows::MarkTitles(const SortList& sort)
 {
     for (int column = 0; column < table_.ColumnCount(); ++column) {
-        const std::u16string mark = sort.MarkOf(column);
-        const std::u16string& name = table_.Columns()[static_cast<std::size_t>(column)].name;
-        const std::u16string title = mark.empty() ? name : mark + u' ' + name;
+        const std::u16string title = TitleWith(sort.MarkOf(column), table_.Columns()[static_cast<std::size_t>(column)]);
         if (grid_.Text(-1, static_cast<i16>(column)) != title)
             grid_.SetText(-1, static_cast<i16>(column), title);
     }

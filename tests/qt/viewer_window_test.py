@@ -16,6 +16,7 @@ import time
 
 PATIENCE = 60  # seconds, for a build with sanitizers on a busy machine
 LEFT_OUT = 77
+DOUBLE_CLICK = 0.6  # seconds after which another click is one of its own
 
 
 class Display:
@@ -81,9 +82,9 @@ def colours(display, left, top, width, height):
 class User:
     """Pointer and keys on the window at the corner of the display, and what is seen of it."""
 
-    # Of the table in the window at 900 by 600: the scrolling cells without the bars, and one row number.
-    CELLS = (50, 60, 820, 480)
-    FIRST_ROW_NUMBER = (10, 62, 30, 20)
+    # Of the table in the window at 900 by 600, below the menu bar: the scrolling cells without the bars, and one row number.
+    CELLS = (50, 82, 820, 458)
+    FIRST_ROW_NUMBER = (10, 84, 30, 20)
     # Below the table, where the current cell and the extent of the selection are told.
     STATUS = (0, 581, 400, 17)
 
@@ -135,9 +136,9 @@ def use(user):
     user.do("keydown", "shift", "click", 4, "keyup", "shift")
     user.sees_again("and back", user.CELLS, start)
 
-    user.drag((891, 65), (891, 300))
+    user.drag((891, 87), (891, 300))
     user.sees_change("the thumb scrolls the rows", user.FIRST_ROW_NUMBER, number)
-    user.drag((891, 300), (891, 40))
+    user.drag((891, 300), (891, 62))
     user.sees_again("and back to the first one", user.CELLS, start)
 
     first_cell = user.settled(user.STATUS)
@@ -165,15 +166,40 @@ def use(user):
     user.do("mousemove", 600, 450, "click", 1)
     user.sees_again("a click takes the selection away", selected, plain)
 
-    headers = (50, 36, 820, 20)
+    headers = (50, 58, 820, 20)
     before = user.seen(*headers)
     edge = edge_of_column(before) + headers[0]
-    user.drag((edge - 1, 46), (edge + 30, 46))
+    user.drag((edge - 1, 68), (edge + 30, 68))
     sized = user.sees_change("an edge of a column is dragged", headers, before)
     # The line at the edge is the column's own last pixel, left of the pointer.
     assert edge_of_column(sized) + headers[0] == edge + 29, "the edge is where it was let go"
 
-    line = (60, 60, 300, 100)
+    # A double click on the edge fits the column, which is as wide as it was.
+    user.do("mousemove", edge + 29, 68, "click", "--repeat", 2, "--delay", 60, 1)
+    wait_for("a double click fits the column", lambda: edge_of_column(user.seen(*headers)) + headers[0] < edge + 29,
+             user.program)
+
+    time.sleep(DOUBLE_CLICK)
+    user.do("mousemove", headers[0] + 20, 68)
+    titles = user.settled(headers)
+    user.do("click", 1)
+    upward = user.sees_change("a click on a title marks it, and sorts", headers, titles)
+    time.sleep(DOUBLE_CLICK)
+    user.do("click", 1)
+    user.sees_change("a second one turns it round", headers, upward)
+    time.sleep(DOUBLE_CLICK)
+    user.do("click", 1)
+    user.sees_again("a third one takes the mark away", headers, titles)
+
+    status = user.settled(user.STATUS)
+    user.do("key", "ctrl+f")
+    user.settled(user.CELLS)
+    user.do("type", "a")
+    user.sees_change("what is found is the current cell", user.STATUS, status)
+    user.do("key", "Escape")
+    user.settled(user.CELLS)
+
+    line = (60, 82, 300, 100)
     assert not upright_line(user.seen(*line)), "nothing is split yet"
     user.drag((2, 568), (150, 400))
     wait_for("the split is where its handle was let go", lambda: upright_line(user.seen(*line)), user.program)

@@ -140,6 +140,8 @@ TEST(GridEditor, AddsRowsBesideTheCurrentOne)
     EXPECT_EQ(desk.editor.AddRows(Side::Before, first), "");
     EXPECT_EQ(first, 1);
     EXPECT_EQ(desk.Names(), u"1 +1 2 3 4");
+    EXPECT_TRUE(desk.grid.CellFontBold(1, -1)) << "it stands out";
+    EXPECT_FALSE(desk.grid.CellFontBold(2, -1));
     desk.grid.CurrentPos(1, 0);
     EXPECT_EQ(desk.editor.AddRows(Side::Behind, first), "");
     EXPECT_EQ(first, 2);
@@ -230,6 +232,8 @@ TEST(GridEditor, ShowsWhatSavingHasMade)
     desk.saver->outcome = { { { 4, 0, u"given" }, { 0, 2, u"0" }, { 0, 3, u"g" } }, { 2 } };
     desk.editor.ShowSaved(desk.document.Save());
     EXPECT_EQ(desk.Names(), u"1 2 3") << "counted anew";
+    EXPECT_FALSE(desk.grid.CellFontBold(0, -1));
+    EXPECT_EQ(desk.grid.CellForeColor(0, -1), desk.grid.CellForeColor(2, -1));
     EXPECT_EQ(desk.Column(0), u"given A D");
     EXPECT_FALSE(desk.grid.CellChecked(1, 2));
     EXPECT_EQ(desk.grid.Text(1, 3), u"g");

@@ -147,11 +147,11 @@ TEST(ShownRows, MarkTheTitles)
 {
     Desk desk;
     desk.Choose(1);
-    EXPECT_EQ(desk.grid.Text(-1, 1), u"▲ people");
+    EXPECT_EQ(desk.grid.Text(-1, 1), u"people ▲") << "numbers stand to the right";
     EXPECT_EQ(desk.grid.Text(-1, 0), u"city");
     desk.ChooseToo(0);
     desk.ChooseToo(0);
-    EXPECT_EQ(desk.grid.Text(-1, 1), u"▲1 people");
+    EXPECT_EQ(desk.grid.Text(-1, 1), u"people ▲1");
     EXPECT_EQ(desk.grid.Text(-1, 0), u"▼2 city");
     EXPECT_EQ(desk.grid.ColName(0), u"city");
     desk.sort.Clear();

@@ -195,7 +195,7 @@ TEST_F(ViewerWindowTest, TakesADoubleClickOnATitleForTwoClicks)
     const QPoint at = MiddleOf(-1, 3);
     MoveTo(at);
     QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {}, at);
-    EXPECT_EQ(Grid().Text(-1, 3), u"▼ day");
+    EXPECT_EQ(Grid().Text(-1, 3), u"day ▼");
 }
 
 TEST_F(ViewerWindowTest, FitsAColumnByADoubleClickOnItsEdge)

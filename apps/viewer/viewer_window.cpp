@@ -26,7 +26,10 @@ namespace vornix::viewer {
 namespace {
 
 constexpr int SpaceBeside = 6;
-constexpr int SearchDelay = 300; // milliseconds, behind the last change
+// Milliseconds behind the last change, and behind the last key where there is much to search.
+constexpr int SearchDelay = 300;
+constexpr int TypingDelay = 150;
+constexpr std::size_t ManyCells = 200'000;
 constexpr i16 CtrlKey = 2;
 constexpr int Overflow = 6;
 
@@ -144,13 +147,16 @@ void ViewerWindow::AddFindBar()
     findBar_ = new FindBar(middle);
     layout->addWidget(findBar_);
     setCentralWidget(middle);
-    connect(findBar_, &FindBar::Changed, this, &ViewerWindow::Search);
+    connect(findBar_, &FindBar::Changed, this, &ViewerWindow::SearchAsTyped);
     connect(findBar_, &FindBar::Next, this, &ViewerWindow::FindNext);
     connect(findBar_, &FindBar::Previous, this, &ViewerWindow::FindPrevious);
     connect(findBar_, &FindBar::Closed, this, &ViewerWindow::CloseFindBar);
     searchAgain_.setSingleShot(true);
     searchAgain_.setInterval(SearchDelay);
     connect(&searchAgain_, &QTimer::timeout, this, &ViewerWindow::TellFound);
+    searchTyped_.setSingleShot(true);
+    searchTyped_.setInterval(TypingDelay);
+    connect(&searchTyped_, &QTimer::timeout, this, &ViewerWindow::Search);
 }
 
 void ViewerWindow::AddContextMenu()
@@ -299,7 +305,7 @@ void ViewerWindow::Sort(const SortList& sort)
         sort_ = sort;
     } catch (const AutomationError& error) {
         const std::string rows = Counted(static_cast<std::uint64_t>(rows_.Count()), "row");
-        Tell(error.Number() == Overflow ? "not sorted: " + rows + " are more than can be sorted"
+        Tell(error.Number() == Overflow ? "not sorted: " + rows + " are more than the 29,523 that can be sorted"
                                         : std::string("not sorted: ") + error.what());
     }
     TellState();
@@ -326,10 +332,19 @@ void ViewerWindow::CloseFindBar()
     grid_->setFocus();
 }
 
-// As it is typed, from where the typing began.
-void ViewerWindow::Search()
+void ViewerWindow::SearchAsTyped()
 {
     isSearchStale_ = true;
+    if (table_.CellCount() < ManyCells)
+        Search();
+    else
+        searchTyped_.start();
+}
+
+// From where the typing began.
+void ViewerWindow::Search()
+{
+    searchTyped_.stop();
     TellFound();
     GoTo(finder_.At(searchStart_));
 }
@@ -338,6 +353,8 @@ void ViewerWindow::FindNext()
 {
     if (findBar_->Text().isEmpty())
         return OpenFindBar();
+    if (searchTyped_.isActive())
+        return Search();
     TellFound();
     GoTo(finder_.Next(CurrentCell()));
     searchStart_ = CurrentCell();
@@ -347,6 +364,8 @@ void ViewerWindow::FindPrevious()
 {
     if (findBar_->Text().isEmpty())
         return OpenFindBar();
+    if (searchTyped_.isActive())
+        return Search();
     TellFound();
     GoTo(finder_.Previous(CurrentCell()));
     searchStart_ = CurrentCell();

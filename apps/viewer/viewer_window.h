@@ -92,6 +92,7 @@ private:
     void Sort(const SortList& sort);
     void UnselectColumns();
     FoundCell CurrentCell();
+    void SearchAsTyped();
     void Search();
     void GoTo(std::optional<FoundCell> cell);
     void TellFound();
@@ -107,6 +108,7 @@ private:
     FoundCell searchStart_;
     bool isSearchStale_ = true;
     QTimer searchAgain_;
+    QTimer searchTyped_;
     QMenu* editMenu_ = nullptr;
     QLabel* currentCell_ = nullptr;
     QLabel* selection_ = nullptr;

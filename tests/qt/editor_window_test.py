@@ -168,6 +168,45 @@ def choose_key(program_path, display, path):
     connection.close()
 
 
+PEOPLE = "city;people\r\nOslo;709\r\nBern;134\r\nRoma;2800\r\n"
+
+
+def sort_and_change_rows(program_path, display, path):
+    with open(path, "w", newline="", encoding="utf-8") as file:
+        file.write(PEOPLE)
+    with editing(program_path, display, "rows", path) as user:
+        user.do("mousemove", 110, 68, "click", 1)
+        user.settled((0, 0, 900, 600))
+        user.keep_picture("sorted by people")
+        user.keys("Down", "ctrl+a")
+        user.types("5")
+        user.sees_title("the least one is changed", "people.csv* - Vornix")
+        user.keys("ctrl+plus")
+        user.types("77")
+        user.settled((0, 0, 900, 600))
+        user.keep_picture("a new row")
+        user.keys("ctrl+s")
+        user.sees_title("the rows are saved", "people.csv - Vornix")
+        saved = "city;people\r\nOslo;709\r\n;77\r\nBern;5\r\nRoma;2800\r\n"
+        assert read(path) == saved, read(path)
+
+        user.keys("ctrl+minus")
+        user.sees_title("the row is deleted", "people.csv* - Vornix")
+        user.keys("ctrl+z")
+        user.sees_title("and back", "people.csv - Vornix")
+
+        user.keys("ctrl+0", "ctrl+Home", "shift+Down", "shift+Right", "ctrl+c")
+        user.keys("Down", "Down", "ctrl+v")
+        user.sees_title("the block is pasted", "people.csv* - Vornix")
+        user.keep_picture("pasted below")
+        user.keys("ctrl+s")
+        user.sees_title("the block is saved", "people.csv - Vornix")
+        saved = "city;people\r\nOslo;709\r\n;77\r\nOslo;709\r\n;77\r\n"
+        assert read(path) == saved, read(path)
+        user.keys("ctrl+q")
+        user.ends()
+
+
 def read(path):
     with open(path, newline="", encoding="utf-8") as file:
         return file.read()
@@ -264,6 +303,8 @@ def main():
             choose_and_date(sys.argv[1], display, os.path.join(folder, "jobs.csv"))
         with Display() as display:
             choose_key(sys.argv[1], display, os.path.join(folder, "keys.db"))
+        with Display() as display:
+            sort_and_change_rows(sys.argv[1], display, os.path.join(folder, "people.csv"))
     print("text files and databases were changed, saved and closed")
     return 0
 

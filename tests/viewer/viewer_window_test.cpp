@@ -317,11 +317,33 @@ TEST(ViewerWindow, TellsOfTooManyRowsToSort)
     QTest::mouseMove(window.windowHandle(), at);
     QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, at);
     EXPECT_EQ(window.findChild<QLabel*>(QStringLiteral("notice"))->text(),
-        QStringLiteral("not sorted: 30,000 rows are more than can be sorted"));
+        QStringLiteral("not sorted: 30,000 rows are more than the 29,523 that can be sorted"));
     EXPECT_EQ(window.GridWidget().Grid().Text(-1, 0), u"n");
     EXPECT_EQ(window.GridWidget().Grid().Text(0, 0), u"2");
     QTest::keyClick(window.windowHandle(), Qt::Key_Down);
     EXPECT_EQ(window.findChild<QLabel*>(QStringLiteral("notice"))->text(), QString()) << "until the next key";
+}
+
+TEST(ViewerWindow, SearchesManyCellsOnceTheTypingRests)
+{
+    Table table;
+    table.Columns().resize(10, { u"n" });
+    const std::vector<Field> fields(10, { u"abc" });
+    for (int row = 0; row < 20'000; ++row)
+        table.AppendRow(fields);
+    ViewerWindow window(table);
+    window.show();
+    window.OpenFindBar();
+    auto* const text = window.findChild<QLineEdit*>(QStringLiteral("findText"));
+    auto* const count = window.findChild<QLabel*>(QStringLiteral("findCount"));
+    QTest::keyClicks(text, QStringLiteral("abc"));
+    EXPECT_EQ(count->text(), QString());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return count->text() == QStringLiteral("1 of 200,000"); }));
+    QTest::keyClick(text, Qt::Key_Backspace);
+    QTest::keyClick(text, Qt::Key_Return);
+    EXPECT_EQ(count->text(), QStringLiteral("1 of 200,000")) << "Enter does not wait, and does not go past the first";
+    QTest::keyClick(text, Qt::Key_Return);
+    EXPECT_EQ(count->text(), QStringLiteral("2 of 200,000"));
 }
 
 TEST(ViewerWindow, ShowsATableWithoutRows)

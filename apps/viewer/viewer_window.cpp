@@ -124,6 +124,8 @@ void ViewerWindow::AddMenus()
     editMenu_ = menuBar()->addMenu(tr("&Edit"));
     connect(AddAction(editMenu_, "copy", tr("&Copy"), QKeySequence::keyBindings(QKeySequence::Copy)),
         &QAction::triggered, this, &ViewerWindow::Copy);
+    connect(AddAction(editMenu_, "selectAll", tr("Select &All"), { QKeySequence::SelectAll }), &QAction::triggered,
+        this, &ViewerWindow::SelectAll);
 
     QMenu* const view = menuBar()->addMenu(tr("&View"));
     connect(AddAction(view, "find", tr("&Find…"), { QKeySequence::Find }), &QAction::triggered, this,
@@ -242,6 +244,15 @@ void ViewerWindow::Copy()
         return;
     const TextBlock block = TextsOf(Grid(), table_.Columns(), cells);
     QApplication::clipboard()->setText(QString::fromStdU16String(TextOf(block)));
+}
+
+void ViewerWindow::SelectAll()
+{
+    if (Grid().Rows() == 0 || Grid().Cols() == 0)
+        return;
+    FinishEditing();
+    Grid().SetSelectedCells(0, 0, static_cast<i16>(Grid().Rows() - 1), static_cast<i16>(Grid().Cols() - 1));
+    TellState();
 }
 
 std::vector<int> ViewerWindow::Order() const

@@ -51,6 +51,7 @@ public:
 public slots:
     // The selected cells, or the current one.
     void Copy();
+    void SelectAll();
     // The rows as the source has them.
     void SortAsInSource();
     void OpenFindBar();

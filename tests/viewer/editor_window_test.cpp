@@ -581,6 +581,31 @@ TEST_F(EditorWindowOfJobsTest, SavesTheRestWhenItClosesOnAnUnfinishedDate)
     EXPECT_EQ(Content(path), std::string(Jobs).replace(11, 4, "late"));
 }
 
+TEST(EditorWindow, HasEverythingToDoWithoutRows)
+{
+    const ScratchFolder folder;
+    const std::string path = folder.Write("a.csv", "id,n\n1,a\n2,b\n");
+    Document document = Opened(path);
+    EditorWindow window(document);
+    window.show();
+    Vornix& grid = window.GridWidget().Grid();
+    grid.SetRowsSelected(0, 1, true);
+    window.RemoveRows();
+    EXPECT_EQ(grid.Rows(), 0);
+    QApplication::clipboard()->setText(QStringLiteral("x\ty"));
+    for (const char* action : { "copy", "cut", "paste", "clear", "removeRows", "selectAll", "asInSource", "find" })
+        window.findChild<QAction*>(QLatin1String(action))->trigger();
+    EXPECT_EQ(document.ChangeCount(), 2u);
+    EXPECT_TRUE(window.Save());
+    EXPECT_EQ(Content(path), "id,n\n");
+    window.AddRowBelow();
+    ASSERT_EQ(grid.Rows(), 1);
+    grid.CurrentPos(0, 0);
+    window.Paste();
+    EXPECT_TRUE(window.Save());
+    EXPECT_EQ(Content(path), "id,n\nx,y\n");
+}
+
 TEST(EditorWindow, SaysWhyNothingCanBeChanged)
 {
     const ScratchFolder folder;

@@ -231,6 +231,10 @@ TEST_F(ViewerWindowTest, CopiesWhatIsSelected)
     QApplication::clipboard()->clear();
     Type(Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(QApplication::clipboard()->text().count(QStringLiteral("2025-06-30")), 200) << "the whole column";
+    Type(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(Selection(), "200 × 4 cells selected");
+    Type(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::clipboard()->text().count(QLatin1Char('\t')), 600);
 }
 
 TEST_F(ViewerWindowTest, FindsTextsAsTheyAreTyped)
@@ -354,6 +358,10 @@ TEST(ViewerWindow, ShowsATableWithoutRows)
     window.show();
     QApplication::processEvents();
     EXPECT_EQ(window.findChild<QLabel*>(QStringLiteral("currentCell"))->text(), QString());
+    for (const char* action : { "copy", "selectAll", "find", "next", "asInSource" })
+        window.findChild<QAction*>(QLatin1String(action))->trigger();
+    QTest::keyClicks(window.findChild<QLineEdit*>(QStringLiteral("findText")), QStringLiteral("x\r"));
+    EXPECT_EQ(window.findChild<QLabel*>(QStringLiteral("findCount"))->text(), QStringLiteral("not found"));
 }
 
 } // namespace

@@ -201,10 +201,11 @@ void EditorWindow::AddRows(Records::Side side)
     FinishEditing();
     i16 first = 0;
     const std::string line = editor_.AddRows(side, first);
-    if (first < Rows().Count())
+    if (first != NoIndex)
         Grid().CurrentPos(first, std::max<i16>(Grid().CurrentCol(), 0));
     Changed(line);
-    Grid().EnterEdit(); // its texts can be typed at once
+    if (first != NoIndex)
+        Grid().EnterEdit(); // its texts can be typed at once
 }
 
 void EditorWindow::RemoveRows()

@@ -102,7 +102,7 @@ std::string GridEditor::AddRows(Records::Side side, i16& first)
     Records::Side next = isBefore ? Records::Side::Before : Records::Side::Behind;
     std::vector<int> added;
     std::string reason;
-    for (int row = 0; row < count && reason.empty(); ++row) {
+    for (int row = 0; row < count; ++row) {
         reason = document_.WhyNoMoreRows().value_or("");
         if (!reason.empty())
             break;
@@ -110,7 +110,7 @@ std::string GridEditor::AddRows(Records::Side side, i16& first)
         next = Records::Side::Behind;
         added.push_back(neighbour);
     }
-    first = static_cast<i16>(isBefore ? beside : beside + 1);
+    first = added.empty() ? NoIndex : static_cast<i16>(isBefore ? beside : beside + 1);
     Insert(first, added);
     return reason.empty() ? reason : "no more rows added: " + reason;
 }

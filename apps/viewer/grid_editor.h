@@ -32,7 +32,7 @@ public:
     std::string Clear(const SelectedCells& cells);
 
     // As many as the selection has whole rows, or one, beside the selection or the current cell; at the top where that is
-    // in the header. `first` is the first of them.
+    // in the header. `first` is where the first of them is shown, NoIndex without any.
     std::string AddRows(Records::Side side, i16& first);
     std::string RemoveRows(const SelectedCells& cells);
     // Those that were removed last come back. False when there are none.

@@ -168,6 +168,22 @@ TEST(GridEditor, AddsAsManyRowsAsAreSelected)
     EXPECT_THAT(desk.document.Rows(), ElementsAre(0, 1, 2, 4, 5, 3));
 }
 
+TEST(GridEditor, AddsNoMoreRowsThanTheGridHolds)
+{
+    Desk desk;
+    for (int row = desk.document.RowCount(); row < LoadLimits().maxRows - 1; ++row)
+        desk.document.AddRow(0, Side::Before); // not shown, which does not matter here
+    desk.grid.SetRowsSelected(0, 1, true);
+    i16 first = 0;
+    const std::string line = "no more rows added: the grid holds no more than 32,765 rows";
+    EXPECT_EQ(desk.editor.AddRows(Side::Before, first), line);
+    EXPECT_EQ(first, 0);
+    EXPECT_EQ(desk.grid.Rows(), 5) << "one there was room for";
+    EXPECT_EQ(desk.editor.AddRows(Side::Before, first), line);
+    EXPECT_EQ(first, NoIndex);
+    EXPECT_EQ(desk.grid.Rows(), 5);
+}
+
 TEST(GridEditor, RemovesRowsAndBringsThemBack)
 {
     Desk desk;

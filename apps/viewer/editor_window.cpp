@@ -94,9 +94,13 @@ void EditorWindow::AddEditActions()
               connect(action, &QAction::triggered, this, slot);
               return action;
           };
-    add("cut", tr("Cu&t"), QKeySequence::keyBindings(QKeySequence::Cut), &EditorWindow::Cut);
-    add("paste", tr("&Paste"), QKeySequence::keyBindings(QKeySequence::Paste), &EditorWindow::Paste);
-    add("clear", tr("C&lear"), { Qt::Key_Delete }, &EditorWindow::Clear);
+    const auto cut = add("cut", tr("Cu&t"), QKeySequence::keyBindings(QKeySequence::Cut), &EditorWindow::Cut);
+    const auto paste = add("paste", tr("&Paste"), QKeySequence::keyBindings(QKeySequence::Paste), &EditorWindow::Paste);
+    const auto clear = add("clear", tr("C&lear"), { Qt::Key_Delete }, &EditorWindow::Clear);
+    // In their usual order around Copy and Select All.
+    const QList<QAction*> first = EditMenu()->actions();
+    EditMenu()->insertAction(first.at(0), cut);
+    EditMenu()->insertActions(first.at(1), { paste, clear });
     EditMenu()->addSeparator();
     // The plus sign takes Shift on many keyboards.
     add("addRowAbove", tr("Insert Row &Above"), { Qt::CTRL | Qt::Key_Plus, Qt::CTRL | Qt::Key_Equal },

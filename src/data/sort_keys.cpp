@@ -91,35 +91,45 @@ private:
         return column_.SortUseKey ? cell.Key() : cell.TextView(scratch_);
     }
 
+    // Each different text is parsed once.
     template <typename Parse> Numbers Parsed(const Parse& parse)
     {
+        const DistinctTexts distinct(ReadTexts([](char16_t unit) { return unit; }));
+        Numbers parsed;
+        parsed.reserve(distinct.texts.size());
+        for (const std::u16string_view text : distinct.texts)
+            parsed.push_back(Ordered(parse(text, locale_)));
         Numbers numbers;
-        numbers.reserve(static_cast<std::size_t>(store_.Rows()));
-        for (int row = store_.FixedRows(); row < store_.MaxRow(); ++row)
-            numbers.push_back(Ordered(parse(SourceText(row), locale_)));
+        numbers.reserve(distinct.numberOf.size());
+        for (const std::uint32_t number : distinct.numberOf)
+            numbers.push_back(parsed[number]);
         return numbers;
     }
 
     Numbers Texts()
     {
-        // All in one piece of memory; views are made once it does not move any more.
-        std::u16string lowered;
+        const auto ranks = TextRanks(ReadTexts([&](char16_t unit) { return locale_.ToLower(unit); }), locale_);
+        return { ranks.begin(), ranks.end() };
+    }
+
+    // All in one piece of memory; views are made once it does not move any more.
+    template <typename Change> std::vector<std::u16string_view> ReadTexts(const Change& change)
+    {
         std::vector<std::size_t> ends;
         ends.reserve(static_cast<std::size_t>(store_.Rows()));
         for (int row = store_.FixedRows(); row < store_.MaxRow(); ++row) {
             for (const char16_t unit : SourceText(row))
-                lowered += locale_.ToLower(unit);
-            ends.push_back(lowered.size());
+                pool_ += change(unit);
+            ends.push_back(pool_.size());
         }
         std::vector<std::u16string_view> texts;
         texts.reserve(ends.size());
         std::size_t begin = 0;
         for (const std::size_t end : ends) {
-            texts.push_back(std::u16string_view(lowered).substr(begin, end - begin));
+            texts.push_back(std::u16string_view(pool_).substr(begin, end - begin));
             begin = end;
         }
-        const std::vector<std::uint32_t> ranks = TextRanks(texts, locale_);
-        return { ranks.begin(), ranks.end() };
+        return texts;
     }
 
     const GridStore& store_;
@@ -127,6 +137,7 @@ private:
     int col_;
     const Column& column_;
     std::u16string scratch_;
+    std::u16string pool_;
 };
 
 // Each column once: where it comes again, rows that it can tell apart have been told apart.

@@ -15,27 +15,6 @@ using Numbers = std::vector<std::uint32_t>;
 
 constexpr std::size_t PrefixLength = 3;
 
-// The different texts among some, and which of them each one is.
-struct Distinct {
-    explicit Distinct(Texts texts);
-
-    std::vector<std::u16string_view> texts;
-    Numbers numberOf;
-};
-
-Distinct::Distinct(Texts all)
-{
-    std::unordered_map<std::u16string_view, std::uint32_t> known;
-    known.reserve(all.size());
-    numberOf.reserve(all.size());
-    for (const std::u16string_view text : all) {
-        const auto [entry, isNew] = known.emplace(text, static_cast<std::uint32_t>(texts.size()));
-        if (isNew)
-            texts.push_back(text);
-        numberOf.push_back(entry->second);
-    }
-}
-
 // The place of each of the numbers 0 to count - 1 in an order, equal ones in the same place.
 template <typename Compare> Numbers RanksBy(std::size_t count, const Compare& compare)
 {
@@ -50,7 +29,7 @@ template <typename Compare> Numbers RanksBy(std::size_t count, const Compare& co
 }
 
 // What holds for the distinct texts, for all of them.
-Numbers Spread(const Numbers& ranks, const Distinct& distinct)
+Numbers Spread(const Numbers& ranks, const DistinctTexts& distinct)
 {
     Numbers all;
     all.reserve(distinct.numberOf.size());
@@ -65,7 +44,7 @@ Numbers PrefixRanks(Texts texts, const Locale& locale)
     prefixes.reserve(texts.size());
     for (const std::u16string_view text : texts)
         prefixes.push_back(text.substr(0, PrefixLength));
-    const Distinct distinct(prefixes);
+    const DistinctTexts distinct(prefixes);
     const Numbers ranks = RanksBy(distinct.texts.size(),
         [&](auto a, auto b) { return CompareTextNoCase(distinct.texts[a], distinct.texts[b], locale); });
     return Spread(ranks, distinct);
@@ -73,9 +52,22 @@ Numbers PrefixRanks(Texts texts, const Locale& locale)
 
 } // namespace
 
+DistinctTexts::DistinctTexts(Texts all)
+{
+    std::unordered_map<std::u16string_view, std::uint32_t> known;
+    known.reserve(all.size());
+    numberOf.reserve(all.size());
+    for (const std::u16string_view text : all) {
+        const auto [entry, isNew] = known.emplace(text, static_cast<std::uint32_t>(texts.size()));
+        if (isNew)
+            texts.push_back(text);
+        numberOf.push_back(entry->second);
+    }
+}
+
 std::vector<std::uint32_t> TextRanks(Texts texts, const Locale& locale)
 {
-    const Distinct distinct(texts);
+    const DistinctTexts distinct(texts);
     const Numbers prefixRanks = PrefixRanks(distinct.texts, locale);
     const Numbers ranks = RanksBy(distinct.texts.size(), [&](auto a, auto b) {
         if (prefixRanks[a] != prefixRanks[b])

@@ -72,9 +72,9 @@ TEST_F(LateBinding, GetAndCallAreOneForWhatCanBeRead)
 
 TEST_F(LateBinding, WhatIsNotBuiltIsError445BeforeItsArgumentsAreLookedAt)
 {
-    EXPECT_EQ(Error("InsertRows", InvokeKind::Call), 445);
-    EXPECT_EQ(Error("InsertRows", InvokeKind::Call, { u"x", u"x", u"x" }), 445);
-    EXPECT_EQ(Error("insertrows", InvokeKind::Let), 438) << "but not before the kind";
+    EXPECT_EQ(Error("ADOUpdate", InvokeKind::Call), 445);
+    EXPECT_EQ(Error("ADOUpdate", InvokeKind::Call, { u"x", u"x", u"x" }), 445);
+    EXPECT_EQ(Error("adoupdate", InvokeKind::Let), 438) << "but not before the kind";
     EXPECT_EQ(Error("VirtualPageSize", InvokeKind::Let, {}), 445) << "only the writing";
     EXPECT_EQ(Get("VirtualPageSize"), Variant(i16 { 0 }));
 }

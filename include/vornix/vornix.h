@@ -460,8 +460,9 @@ public:
     void MoveRow(i16 Row, i16 ToRow);
     void MoveCol(i16 Col, i16 ToCol);
     // Fixed lines too. The links of merged cells go along as they are: a line leaves a span across it. The selection
-    // follows the lines, the current cell stays. Lines before the fixed ones do nothing, those behind the last are error
-    // 9. SwapRows repaints, SwapCols lays out anew.
+    // follows the lines, the current cell stays, an editor closes with AfterEdit. Lines before the fixed ones do nothing,
+    // those behind the last are error 9. SwapRows repaints, SwapCols lays out anew, as SwapRows does where fixed rows have
+    // another height then.
     void SwapRows(i16 Row1, i16 Row2);
     void SwapCols(i16 Col1, i16 Col2);
     // Text, key, picture and look; then the spans, which remove older ones in the way. Repaints.

@@ -112,6 +112,7 @@ i16 Vornix::ColOrder(std::u16string_view index) const
 void Vornix::ReOrderCols()
 {
     const auto control = Enter();
+    control->RequireTable();
     if (control->RestoreColumnOrder())
         control->funnel.RecalcLayout();
     else
@@ -134,7 +135,8 @@ bool Control::RestoreColumnOrder()
         tableEdit.MoveCol(found, col);
         hasMoved = true;
     }
-    CopyCaption();
+    if (hasMoved)
+        CopyCaption();
     return hasMoved;
 }
 

@@ -56,7 +56,8 @@ bool Vornix::IsParent(i16 Row, i16 Col, i16 ParentRow, i16 ParentCol) const
     const GridStore& store = control->store;
     if (row < 0 || row > store.LastRowIndex() || col < 0 || col > store.LastColIndex())
         return false;
-    return control->spans.ParentOf(row, col) == control->Internal(ParentRow, ParentCol);
+    const Cell& cell = store.CellAt(row, col);
+    return CellIndex { row + cell.ParentRow(), col + cell.ParentCol() } == control->Internal(ParentRow, ParentCol);
 }
 
 void Vornix::SpanRows(i16 Col, bool&& bUseKey)

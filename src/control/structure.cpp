@@ -84,6 +84,7 @@ void Vornix::MoveRow(i16 Row, i16 ToRow)
     const auto control = Enter();
     if (Row < 0 || ToRow < 0 || Row == ToRow)
         return;
+    control->RequireTable();
     control->tableEdit.MoveRow(control->InternalRow(Row), control->InternalRow(ToRow));
     control->funnel.RecalcLayout();
 }
@@ -93,6 +94,7 @@ void Vornix::MoveCol(i16 Col, i16 ToCol)
     const auto control = Enter();
     if (Col < 0 || ToCol < 0 || Col == ToCol)
         return;
+    control->RequireTable();
     control->tableEdit.MoveCol(control->InternalCol(Col), control->InternalCol(ToCol));
     control->CopyCaption();
     control->funnel.RecalcLayout();
@@ -101,11 +103,13 @@ void Vornix::MoveCol(i16 Col, i16 ToCol)
 void Vornix::SwapRows(i16 Row1, i16 Row2)
 {
     const auto control = Enter();
+    // What is typed must not go into the other row.
+    if (control->editor.IsEditorOpen())
+        control->editor.CloseEditor();
     const int first = -control->store.FixedRows();
     if (Row1 < first || Row2 < first || Row1 == Row2)
         return;
-    control->tableEdit.SwapRows(control->InternalRow(Row1), control->InternalRow(Row2));
-    if (control->layout.MetricsDirty())
+    if (control->tableEdit.SwapRows(control->InternalRow(Row1), control->InternalRow(Row2)))
         control->funnel.RecalcLayout(false);
     else
         control->funnel.RepaintUnderGate();
@@ -150,11 +154,13 @@ void Vornix::ClearRow(i16 Row, bool AlsoFixedCells)
     const int row = control->InternalRow(Row);
     GridStore& store = control->store;
     store.RowAt(row);
+    // First, for the editor tells of a text that goes; its handler may change the table.
+    control->editor.EmptyContent();
+    if (!store.ContainsRow(row))
+        return;
     for (int col = AlsoFixedCells ? 0 : store.FixedCols(); col <= store.LastColIndex(); ++col)
         RemoveTexts(store.EditCell(row, col));
-    control->editor.EmptyContent();
-    if (store.ContainsRow(row))
-        control->funnel.RefreshRowUnderGate(row);
+    control->funnel.RefreshRowUnderGate(row);
 }
 
 void Vornix::ClearCol(i16 Col, bool AlsoFixedCells)
@@ -163,10 +169,11 @@ void Vornix::ClearCol(i16 Col, bool AlsoFixedCells)
     const int col = control->InternalCol(Col);
     GridStore& store = control->store;
     store.ColumnAt(col);
-    store.EditColCells(col, AlsoFixedCells ? 0 : store.FixedRows(), store.LastRowIndex(), RemoveTexts);
     control->editor.EmptyContent();
-    if (store.ContainsCol(col))
-        control->funnel.RefreshColUnderGate(col);
+    if (!store.ContainsCol(col))
+        return;
+    store.EditColCells(col, AlsoFixedCells ? 0 : store.FixedRows(), store.LastRowIndex(), RemoveTexts);
+    control->funnel.RefreshColUnderGate(col);
 }
 
 void Vornix::ResetCells(i16 Row1, i16 Col1, i16 Row2, i16 Col2)

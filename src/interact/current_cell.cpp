@@ -2,6 +2,16 @@
 
 namespace vornix {
 
+namespace {
+
+// A line that goes with others behind it does not become a fixed one.
+int Shifted(int index, int position, int delta, int fixed)
+{
+    return position >= fixed && index + delta < fixed ? CurrentCell::None : index + delta;
+}
+
+} // namespace
+
 void CurrentCell::Set(int row, int col)
 {
     valid_ = true;
@@ -19,14 +29,14 @@ void CurrentCell::Clear()
 void CurrentCell::AdjustForRows(const GridStore& store, int position, int delta)
 {
     if (valid_ && position <= row_)
-        row_ += delta;
+        row_ = Shifted(row_, position, delta, store.FixedRows());
     ClearIfOutside(store);
 }
 
 void CurrentCell::AdjustForCols(const GridStore& store, int position, int delta)
 {
     if (valid_ && position <= col_)
-        col_ += delta;
+        col_ = Shifted(col_, position, delta, store.FixedCols());
     ClearIfOutside(store);
 }
 

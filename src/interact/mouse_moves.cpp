@@ -79,7 +79,9 @@ void Mouse::LeaveCell(CellIndex cell)
     }
     if (hoverRaised_) {
         hoverRaised_ = false;
-        Raise(&VornixEvents::CellOut, cell);
+        // The line may be gone.
+        if (context_.mover.IsReal(cell))
+            Raise(&VornixEvents::CellOut, cell);
     }
     RepaintCell(cell);
 }
@@ -106,6 +108,8 @@ void Mouse::ExitHover()
     context_.pressed.isShown = false;
     isOffCells_ = true;
     hover_ = Nowhere;
+    if (!context_.mover.IsReal(cell))
+        return;
     Raise(&VornixEvents::CellOut, cell);
     RepaintCell(cell);
 }

@@ -111,15 +111,16 @@ void TableEdit::MoveCol(int from, int to)
     const int target = goesLeft ? to : to + 1;
     const int source = goesLeft ? from + 1 : from;
     const bool wasSelected = context_.selection.Ranges().IsColSelected(from);
+    const bool takesTitle = IsTitleCol(source);
     InsertCols(target, 1);
-    CopyCol(source, target);
+    edit_.CopyCol(source, target, !takesTitle && !IsTitleCol(target));
     OrOutOfMemory([&] { context_.store.ColumnAt(target) = context_.store.ColumnAt(source); });
     if (wasSelected)
         context_.selection.Ranges().AddCols(false, target, target);
     DeleteCols(source, 1);
 }
 
-void TableEdit::SwapRows(int row1, int row2)
+bool TableEdit::SwapRows(int row1, int row2)
 {
     GridStore& store = context_.store;
     SelectCollection& ranges = context_.selection.Ranges();
@@ -127,19 +128,16 @@ void TableEdit::SwapRows(int row1, int row2)
     ExchangeMarks(ranges, row1, row2, ranges.IsRowSelected(row1), ranges.IsRowSelected(row2),
         [&](int row) { ranges.AddRows(false, row, row); });
     const bool touchesFixed = row1 < store.FixedRows() || row2 < store.FixedRows();
-    if (touchesFixed && store.HeightOf(row1) != store.HeightOf(row2))
+    const bool resizes = touchesFixed && store.HeightOf(row1) != store.HeightOf(row2);
+    if (resizes)
         context_.layout.MarkMetricsDirty();
+    return resizes;
 }
 
 void TableEdit::SwapCols(int col1, int col2)
 {
-    GridStore& store = context_.store;
     SelectCollection& ranges = context_.selection.Ranges();
-    const bool movesTitle = IsTitleCol(col1) || IsTitleCol(col2);
-    const Cell title = movesTitle ? store.CellAt(0, store.FixedCols()) : Cell();
-    edit_.SwapCols(col1, col2);
-    if (movesTitle)
-        store.EditCell(0, store.FixedCols()).CopyContents(title);
+    edit_.SwapCols(col1, col2, !IsTitleCol(col1) && !IsTitleCol(col2));
     ExchangeMarks(ranges, col1, col2, ranges.IsColSelected(col1), ranges.IsColSelected(col2),
         [&](int col) { ranges.AddCols(false, col, col); });
     if (col1 < context_.layout.FirstScrollCol() || col2 < context_.layout.FirstScrollCol())

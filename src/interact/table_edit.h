@@ -36,7 +36,8 @@ public:
     void MoveRow(int from, int to);
     void MoveCol(int from, int to);
     // The mark goes with the line where one of the two is selected. Error 9 as above.
-    void SwapRows(int row1, int row2);
+    // True when fixed rows have another height then.
+    bool SwapRows(int row1, int row2);
     void SwapCols(int col1, int col2);
     void CopyCell(CellIndex from, CellIndex to) { edit_.CopyCell(from, to); }
     void CopyRow(int from, int to) { edit_.CopyRow(from, to); }

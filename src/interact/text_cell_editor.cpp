@@ -157,15 +157,17 @@ void TextCellEditor::SetAutoResize(bool autoResize)
 
 // -- What the user does --
 
-// The engine may have gone on behind a handler that has closed this editor and opened one of another kind.
 void TextCellEditor::Empty()
 {
+    // A form keeps the values of its places where an empty text is assigned; one that is written anew has none.
+    box_.SetMask(std::u16string(box_.Mask()));
     box_.SetText({});
     const CellIndex cell = edited_.Cell();
     if (context_.store.CellAt(cell.row, cell.col).HasText())
         edited_.WriteText({});
 }
 
+// The engine may have gone on behind a handler that has closed this editor and opened one of another kind.
 void TextCellEditor::Change()
 {
     if (IsVisible() && edited_.IsOpen())

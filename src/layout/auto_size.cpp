@@ -73,7 +73,7 @@ int AutoSize::HeightFor(TextMeasure& measure, int row, CellIndex parent, bool al
     measure.MeasureCellText(parent.row, parent.col, store.ColumnAt(parent.col).Format, rect);
     // The span's other rows carry part of the text.
     int height = rect.bottom;
-    for (int other = parent.row; other < parent.row + cell.RowSpan(); ++other) {
+    for (int other = parent.row; other <= LastCoveredCell(store, parent.row, parent.col).row; ++other) {
         if (other != row)
             height -= store.HeightOf(other);
     }
@@ -90,7 +90,7 @@ int AutoSize::RoomForText(CellIndex parent) const
     const GridStore& store = context_.store;
     const Cell& cell = CellAt(parent);
     int room = store.WidthOf(parent.col) - SidesOf(cell);
-    for (int place = 2; place <= cell.ColSpan(); ++place)
+    for (int place = 2; place <= cell.ColSpan() && store.ContainsCol(parent.col + place); ++place)
         room += store.WidthOf(parent.col + place);
     return room < 0 ? 1 : room;
 }
@@ -161,7 +161,7 @@ int AutoSize::WidthFor(TextMeasure& measure, int col, CellIndex parent) const
     }
     width = rect.right + SidesOf(cell);
     // The span's other columns carry part of the text.
-    for (int other = parent.col; other < parent.col + cell.ColSpan(); ++other) {
+    for (int other = parent.col; other <= LastCoveredCell(store, parent.row, parent.col).col; ++other) {
         if (other != col)
             width -= store.WidthOf(other);
     }

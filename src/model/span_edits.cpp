@@ -73,7 +73,8 @@ void SpanEdits::GrowOver(const SpanDirection& along, int position, int count)
             continue;
         // The link still leads as far as it did before the lines came.
         const CellIndex parent = along.At(across + along.LinkAcross(child), position + along.Link(child));
-        if (along.Place(parent) < 0 || along.PlaceAcross(parent) < 0 || End(along, parent) <= position)
+        if (along.Place(parent) < 0 || along.PlaceAcross(parent) < 0 || End(along, parent) <= position
+            || along.PlaceAcross(parent) + LengthAcross(along, parent) <= across)
             continue;
         Rebuild(along, parent, Length(along, parent) + count);
         across = std::max(across, along.PlaceAcross(parent) + LengthAcross(along, parent) - 1);

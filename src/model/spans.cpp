@@ -22,7 +22,10 @@ CellIndex ParentCell(const GridStore& store, int row, int col)
 {
     const Cell& cell = store.CellAt(row, col);
     const CellIndex parent { row + cell.ParentRow(), col + cell.ParentCol() };
-    return parent.row >= 0 && parent.col >= 0 ? parent : CellIndex { row, col };
+    if (!cell.IsChild() || parent.row < 0 || parent.col < 0)
+        return { row, col };
+    const CellIndex last = LastCoveredCell(store, parent.row, parent.col);
+    return row <= last.row && col <= last.col ? parent : CellIndex { row, col };
 }
 
 CellIndex LastCoveredCell(const GridStore& store, int row, int col)

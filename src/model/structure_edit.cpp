@@ -2,14 +2,10 @@
 
 #include "automation/checked.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace vornix {
-
-void StructureEdit::RequireReal(int index, int bound) const
-{
-    CheckedIndex(index, bound);
-}
 
 // -- Coming and going --
 
@@ -40,7 +36,7 @@ void StructureEdit::InsertCols(int position, int count)
 
 void StructureEdit::DeleteRows(int position, int count)
 {
-    RequireReal(ToI16(position + count - 1), store_.MaxRow());
+    CheckedIndex(ToI16(position + count - 1), store_.MaxRow());
     const std::vector<CellIndex> crossing = spanEdits_.CutRows(position, count);
     store_.ShiftRowsDown(position, position + count);
     store_.StoreRows(ToI16(store_.Rows() - count));
@@ -51,7 +47,7 @@ void StructureEdit::DeleteRows(int position, int count)
 
 void StructureEdit::DeleteCols(int position, int count)
 {
-    RequireReal(ToI16(position + count - 1), store_.MaxCol());
+    CheckedIndex(ToI16(position + count - 1), store_.MaxCol());
     const std::vector<CellIndex> crossing = spanEdits_.CutCols(position, count);
     store_.ShiftColsDown(position, position + count);
     store_.StoreCols(ToI16(store_.Cols() - count));
@@ -63,8 +59,8 @@ void StructureEdit::DeleteCols(int position, int count)
 
 void StructureEdit::SwapRows(int row1, int row2)
 {
-    RequireReal(row1, store_.MaxRow());
-    RequireReal(row2, store_.MaxRow());
+    CheckedIndex(row1, store_.MaxRow());
+    CheckedIndex(row2, store_.MaxRow());
     Row& first = store_.RowAt(row1);
     Row& second = store_.RowAt(row2);
     std::swap(first, second);
@@ -76,12 +72,12 @@ void StructureEdit::SwapRows(int row1, int row2)
             hidden_.RelinkRows(row, row);
 }
 
-void StructureEdit::SwapCols(int col1, int col2)
+void StructureEdit::SwapCols(int col1, int col2, bool withTitle)
 {
-    RequireReal(col1, store_.MaxCol());
-    RequireReal(col2, store_.MaxCol());
+    CheckedIndex(col1, store_.MaxCol());
+    CheckedIndex(col2, store_.MaxCol());
     std::swap(store_.ColumnAt(col1), store_.ColumnAt(col2));
-    store_.EditRowBlocks(0, store_.MaxRow(), [=](std::span<Cell> cells) {
+    store_.EditRowBlocks(withTitle ? 0 : 1, store_.MaxRow(), [=](std::span<Cell> cells) {
         std::swap(cells[static_cast<std::size_t>(col1)], cells[static_cast<std::size_t>(col2)]);
     });
 }
@@ -152,11 +148,13 @@ void StructureEdit::ResetRectangle(CellIndex first, CellIndex last)
     for (int row = first.row; row <= last.row; ++row)
         ResetRowRecord(row);
     const GridDefaults& defaults = store_.Defaults;
-    for (int row = first.row; row <= last.row; ++row)
-        for (int col = first.col; col <= last.col; ++col) {
-            const bool isFixed = row < store_.FixedRows() || col < store_.FixedCols();
-            store_.SetFormat(row, col, isFixed ? defaults.DefaultCellFormatFixed : defaults.DefaultCellFormat);
-        }
+    const FormatEdit toFixed = [&](CellFormat& format) { format = defaults.DefaultCellFormatFixed; };
+    const FormatEdit toPlain = [&](CellFormat& format) { format = defaults.DefaultCellFormat; };
+    const int firstRow = std::max<int>(first.row, store_.FixedRows());
+    const int firstCol = std::max<int>(first.col, store_.FixedCols());
+    store_.EditRectFormats(first.row, first.col, std::min(last.row, firstRow - 1), last.col, toFixed);
+    store_.EditRectFormats(firstRow, first.col, last.row, std::min(last.col, firstCol - 1), toFixed);
+    store_.EditRectFormats(firstRow, firstCol, last.row, last.col, toPlain);
 }
 
 void StructureEdit::ResetColRecord(int col)

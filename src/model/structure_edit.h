@@ -22,14 +22,15 @@ public:
     // than 16 bits count, before anything has changed.
     void InsertRows(int position, int count);
     void InsertCols(int position, int count);
-    // Real lines that are not fixed; error 9 for others.
+    // Lines that are not fixed; error 9, and nothing has changed, where they go on behind the last one.
     void DeleteRows(int position, int count);
     void DeleteCols(int position, int count);
 
     // The links of merged cells travel with the lines as they are: a line leaves a span across it. Error 9 for a line
     // that is not real.
     void SwapRows(int row1, int row2);
-    void SwapCols(int col1, int col2);
+    // Without the cells in row 0 where the title is.
+    void SwapCols(int col1, int col2, bool withTitle);
 
     // Text, key, picture and format; then the spans, over whatever was there.
     void CopyCell(CellIndex from, CellIndex to);
@@ -45,7 +46,6 @@ public:
     void ResetRectangle(CellIndex first, CellIndex last);
 
 private:
-    void RequireReal(int index, int bound) const;
     void CopySpan(CellIndex from, CellIndex to);
     void ResetRowRecord(int row);
     void ResetColRecord(int col);

@@ -189,12 +189,14 @@ TEST_F(Structure, DeletedRowsCloseUp)
 
 TEST_F(Structure, DeletingAllRowsLeavesNoneAndNoCurrentCell)
 {
-    Filled(3, 2, 1, 1);
-    Grid().CurrentPos(1, 1);
-    Grid().DeleteRows(0, 3);
-    EXPECT_EQ(Grid().Rows(), 0);
-    EXPECT_EQ(Grid().CurrentRow(), NoLine);
-    EXPECT_EQ(Grid().Text(-1, 0), u"-1,0");
+    for (const i16 row : { i16(0), i16(1), i16(2) }) {
+        Filled(3, 2, 1, 1);
+        Grid().CurrentPos(row, 1);
+        Grid().DeleteRows(0, 3);
+        EXPECT_EQ(Grid().Rows(), 0);
+        EXPECT_EQ(Grid().CurrentRow(), NoLine) << "a fixed row does not become the current one";
+        EXPECT_EQ(Grid().Text(-1, 0), u"-1,0");
+    }
     Grid().InsertRows(0, 2);
     EXPECT_THAT(ColTexts(), ElementsAre(u"", u""));
 }
@@ -323,8 +325,11 @@ TEST_F(TitledTable, MovedAndExchangedColumnsLeaveItWhereItIs)
     Grid().MoveCol(0, 2);
     EXPECT_EQ(Grid().Text(-2, 0), u"Stock");
     EXPECT_EQ(Grid().Text(0, 2), u"0,3");
+    EXPECT_EQ(Grid().Text(-2, 2), u"") << "the title is no text of the column";
+    Grid().SetText(-2, 3, u"below");
     Grid().SwapCols(0, 3);
     EXPECT_EQ(Grid().Text(-2, 0), u"Stock");
+    EXPECT_EQ(Grid().Text(-2, 3), u"below");
     EXPECT_EQ(Grid().Text(0, 0), u"0,2");
     Grid().CopyCol(1, 0);
     EXPECT_EQ(Grid().Text(-2, 0), u"Stock");
@@ -395,6 +400,42 @@ TEST_F(Structure, AHiddenRowThatMovesKeepsItsHeightOfNothing)
     EXPECT_EQ(Grid().CurrentRow(), 4) << "the keyboard steps over it where it is now";
 }
 
+TEST_F(Structure, ANameFindsItsColumnWhereItHasMoved)
+{
+    Table(2, 5);
+    Grid().SetColName(1, u"price");
+    Grid().MoveCol(1, 4);
+    EXPECT_EQ(Grid().ColOrder(u"price"), 4);
+    EXPECT_EQ(Grid().ColOrder(u"4"), 1);
+    Grid().MoveCol(0, 2);
+    Grid().ReOrderCols();
+    for (i16 col = 0; col < 5; ++col)
+        EXPECT_EQ(Grid().ColOrder(std::u16string(1, static_cast<char16_t>(u'0' + col))), col);
+    EXPECT_EQ(Grid().ColOrder(u"price"), 1);
+}
+
+TEST_F(Structure, OfTwoColumnsWithOneOrderTheFirstOneFoundMoves)
+{
+    Filled(1, 3);
+    Grid().InsertCols(1);
+    Grid().MoveCol(0, 3);
+    Grid().ReOrderCols();
+    EXPECT_THAT(RowTexts(), ElementsAre(u"0,0", u"", u"0,2", u"0,1"));
+}
+
+TEST_F(Structure, AParkedLookGoesBackToItsPlaceWhateverLiesThereNow)
+{
+    Filled(4, 2);
+    Grid().SetCellBackColor(1, 0, 0xAB);
+    Grid().StoreVisualCell(0, 1, 0);
+    Grid().DeleteRows(0);
+    Grid().SetCellBackColor(0, 0, 0xCD);
+    Grid().RestoreVisualCell(0);
+    EXPECT_EQ(Grid().CellBackColor(1, 0), 0xABu);
+    EXPECT_EQ(Grid().Text(1, 0), u"2,0");
+    EXPECT_EQ(Grid().CellBackColor(0, 0), 0xCDu);
+}
+
 // -- Exchanging --
 
 TEST_F(Structure, ExchangedRowsTakeEverythingAlong)
@@ -448,6 +489,47 @@ TEST_F(Structure, ARowOfASpanLeavesItWhenExchanged)
     Grid().RemoveSpanRows(0);
     Grid().SetRowSpan(0, 0, 2);
     EXPECT_EQ(Grid().ParentRow(1, 0), 0) << "links that lead nowhere harm nobody";
+}
+
+TEST_F(Structure, LinesMayComeAndGoWhereSpansWereExchanged)
+{
+    Filled(8, 14);
+    Grid().SetRowSpan(0, 0, 2);
+    Grid().SetColSpan(0, 0, 10);
+    Grid().SwapCols(0, 11);
+    Grid().SetRowSpan(0, 0, 2);
+    Grid().InsertRows(1, 4000);
+    EXPECT_EQ(Grid().Rows(), 4008);
+    EXPECT_EQ(Grid().RowSpan(0, 0), 4002);
+    Grid().DeleteRows(1, 4000);
+    EXPECT_EQ(Grid().RowSpan(0, 0), 2);
+    Grid().SetColSpan(0, 0, 3);
+    EXPECT_EQ(Grid().ParentCol(1, 2), 0);
+}
+
+TEST_F(Structure, SizesFitWhereASpanWasExchangedToTheEnd)
+{
+    Filled(5, 5);
+    Grid().SetRowSpan(0, 0, 3);
+    Grid().SwapRows(0, 4);
+    EXPECT_EQ(ErrorOf([&] { Grid().AdjustHeight(4); }), std::nullopt);
+    Grid().SetColSpan(0, 1, 4);
+    Grid().SwapCols(1, 4);
+    EXPECT_EQ(ErrorOf([&] { Grid().AdjustHeight(0); }), std::nullopt);
+    EXPECT_EQ(ErrorOf([&] { Grid().AdjustWidth(4); }), std::nullopt);
+}
+
+TEST_F(Structure, AFixedRowOfAnotherHeightMovesTheRowsBelow)
+{
+    Filled(3, 2, 1);
+    Grid().SetRowHeight(2, 60);
+    host->ClearLog();
+    Grid().SwapRows(-1, 2);
+    EXPECT_EQ(host->Repaints(), 1);
+    i32 x = 0;
+    i32 y = 0;
+    Grid().GetPositionCell(0, 0, x, y);
+    EXPECT_EQ(y / 15, 60);
 }
 
 TEST_F(Structure, TheMarkOfASelectedRowMovesWithIt)
@@ -602,6 +684,89 @@ TEST_F(Structure, AnEmptiedColumnKeepsItsFixedCellsUnlessAskedFor)
     EXPECT_EQ(Grid().Text(-1, 1), u"");
     EXPECT_THAT(ColTexts(0), ElementsAre(u"0,0", u"1,0"));
     EXPECT_EQ(ErrorOf([&] { Grid().ClearCol(3); }), 9);
+}
+
+TEST_F(Structure, TheCurrentCellDoesNotBecomeAFixedOne)
+{
+    Filled(3, 3, 1, 1);
+    Grid().CurrentPos(0, 2);
+    Grid().MoveRow(0, 2);
+    EXPECT_EQ(Grid().CurrentRow(), NoLine);
+    Grid().CurrentPos(2, 0);
+    Grid().DeleteCols(0);
+    EXPECT_EQ(Grid().CurrentCol(), NoLine);
+    Grid().CurrentPos(-1, -1);
+    Grid().DeleteRows(0, 2);
+    EXPECT_EQ(Grid().CurrentRow(), -1) << "one that was fixed stays";
+}
+
+TEST_F(Structure, AnEditorThatIsEmptiedTellsSoWhereverItIs)
+{
+    Filled(3, 2);
+    Grid().SetCellMode(0, 0, vxTextBox);
+    std::vector<i16> told;
+    handlers.TextChange = [&](i16 Row, i16) { told.push_back(Row); };
+    for (const i16 row : { i16(0), i16(2) }) {
+        Grid().SetText(0, 0, u"text");
+        Grid().CurrentPos(0, 0);
+        Grid().EnterEdit();
+        Grid().ClearRow(row);
+        Grid().ClearRow(row);
+    }
+    EXPECT_THAT(told, ElementsAre(0, 0)) << "once for each text that went";
+}
+
+TEST_F(Structure, AHandlerOfTheEmptiedEditorMayTakeTheRowAway)
+{
+    Filled(3, 2);
+    Grid().SetCellMode(2, 0, vxTextBox);
+    handlers.TextChange = [&](i16, i16) { Grid().SetRows(1); };
+    Grid().CurrentPos(2, 0);
+    Grid().EnterEdit();
+    Grid().ClearRow(2);
+    EXPECT_EQ(Grid().Rows(), 1);
+    EXPECT_EQ(Grid().Text(0, 0), u"0,0");
+}
+
+TEST_F(Structure, NothingOfAnEmptiedFormComesBack)
+{
+    Filled(2, 2);
+    Grid().SetColMask(0, u"####");
+    Grid().SetColMode(0, vxTextBox);
+    Grid().SetText(0, 0, u"1234");
+    Grid().CurrentPos(0, 0);
+    Grid().EnterEdit();
+    Grid().ClearRow(0);
+    EXPECT_EQ(Grid().Text(0, 0), u"");
+    host->Type(u"9");
+    EXPECT_EQ(Grid().Text(0, 0).substr(0, 1), u"9");
+    EXPECT_EQ(Grid().Text(0, 0).find(u'2'), std::u16string::npos);
+}
+
+TEST_F(Structure, ExchangedRowsCloseAnEditorFirst)
+{
+    Filled(3, 2);
+    Grid().SetCellMode(0, 0, vxTextBox);
+    Grid().CurrentPos(0, 0);
+    Grid().EnterEdit();
+    Grid().SetSelText(u"typed");
+    const std::u16string typed = Grid().Text(0, 0);
+    Grid().SwapRows(0, 2);
+    EXPECT_FALSE(Grid().IsEditMode());
+    EXPECT_EQ(Grid().Text(2, 0), typed);
+    EXPECT_EQ(Grid().Text(0, 0), u"2,0");
+}
+
+TEST_F(Structure, NothingIsToldOfACellThatWasUnderThePointerAndIsGone)
+{
+    Filled(5, 2);
+    std::vector<i16> left;
+    handlers.CellOut = [&](i16 Row, i16) { left.push_back(Row); };
+    const i32 y = 4 * Grid().DefaultHeight() + 5;
+    host->MouseMove(5, static_cast<float>(y));
+    Grid().DeleteRows(1, 4);
+    host->MouseMove(5, 5);
+    EXPECT_THAT(left, IsEmpty());
 }
 
 TEST_F(Structure, AnOpenEditorIsEmptiedAndWritesThat)

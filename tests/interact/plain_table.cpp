@@ -211,7 +211,7 @@ void PlainTable::DeleteRows(int position, int count)
     if (selection.Mode() == SelectionKind::Rows)
         selection.DeleteItems(position, count);
     if (currentRow >= position)
-        currentRow -= count;
+        currentRow = currentRow - count < fixedRows ? CurrentCell::None : currentRow - count;
     ForgetCurrentOutside();
 }
 
@@ -225,7 +225,7 @@ void PlainTable::DeleteCols(int position, int count)
     if (selection.Mode() == SelectionKind::Cols)
         selection.DeleteItems(position, count);
     if (currentCol >= position)
-        currentCol -= count;
+        currentCol = currentCol - count < fixedCols ? CurrentCell::None : currentCol - count;
     ForgetCurrentOutside();
     if (ColCount() == fixedCols)
         hasTitle = false;
@@ -249,8 +249,9 @@ void PlainTable::MoveCol(int from, int to)
     const bool wasSelected = selection.IsColSelected(from);
     const int target = from > to ? to : to + 1;
     const int source = from > to ? from + 1 : from;
+    const bool takesTitle = IsTitleCol(source);
     InsertCols(target, 1);
-    CopyCol(source, target);
+    CopyCol(source, target, takesTitle || IsTitleCol(target) ? 1 : 0);
     colNames[static_cast<std::size_t>(target)] = colNames[static_cast<std::size_t>(source)];
     if (wasSelected)
         selection.AddCols(false, target, target);
@@ -277,17 +278,14 @@ void PlainTable::SwapRows(int row1, int row2)
 
 void PlainTable::SwapCols(int col1, int col2)
 {
-    const bool movesTitle = IsTitleCol(col1) || IsTitleCol(col2);
-    const Cell title = movesTitle ? At({ 0, fixedCols }) : Cell {};
+    const int first = IsTitleCol(col1) || IsTitleCol(col2) ? 1 : 0;
     std::swap(colNames[static_cast<std::size_t>(col1)], colNames[static_cast<std::size_t>(col2)]);
-    for (Row& row : rows)
-        std::swap(row.cells[static_cast<std::size_t>(col1)], row.cells[static_cast<std::size_t>(col2)]);
-    if (movesTitle)
-        At({ 0, fixedCols }) = title;
+    for (int row = first; row < RowCount(); ++row)
+        std::swap(At({ row, col1 }), At({ row, col2 }));
     std::map<Place, Stored> rewritten;
     for (const auto& [key, stored] : spans) {
         Place place = key;
-        if (place.col == col1 || place.col == col2)
+        if (place.row >= first && (place.col == col1 || place.col == col2))
             place.col = place.col == col1 ? col2 : col1;
         rewritten[place] = stored;
     }
@@ -316,7 +314,11 @@ void PlainTable::CopyRow(int from, int to)
 
 void PlainTable::CopyCol(int from, int to)
 {
-    const int first = IsTitleCol(to) ? 1 : 0;
+    CopyCol(from, to, IsTitleCol(to) ? 1 : 0);
+}
+
+void PlainTable::CopyCol(int from, int to, int first)
+{
     for (int row = first; row < RowCount(); ++row)
         At({ row, to }) = Cell(At({ row, from }));
     for (int row = first; row < RowCount(); ++row)

@@ -80,6 +80,7 @@ private:
     void RemoveSpansAt(Place place);
     void SetSpan(Place place, i16 span, bool isColumns);
     void CopySpan(Place from, Place to);
+    void CopyCol(int from, int to, int firstRow);
     void DropSelectedCells();
     void ForgetCurrentOutside();
 

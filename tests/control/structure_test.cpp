@@ -705,7 +705,7 @@ TEST_F(Structure, AnEditorThatIsEmptiedTellsSoWhereverItIs)
     Filled(3, 2);
     Grid().SetCellMode(0, 0, vxTextBox);
     std::vector<i16> told;
-    handlers.TextChange = [&](i16 Row, i16) { told.push_back(Row); };
+    handlers.OnTextChange = [&](i16 Row, i16) { told.push_back(Row); };
     for (const i16 row : { i16(0), i16(2) }) {
         Grid().SetText(0, 0, u"text");
         Grid().CurrentPos(0, 0);
@@ -720,7 +720,7 @@ TEST_F(Structure, AHandlerOfTheEmptiedEditorMayTakeTheRowAway)
 {
     Filled(3, 2);
     Grid().SetCellMode(2, 0, vxTextBox);
-    handlers.TextChange = [&](i16, i16) { Grid().SetRows(1); };
+    handlers.OnTextChange = [&](i16, i16) { Grid().SetRows(1); };
     Grid().CurrentPos(2, 0);
     Grid().EnterEdit();
     Grid().ClearRow(2);
@@ -761,7 +761,7 @@ TEST_F(Structure, NothingIsToldOfACellThatWasUnderThePointerAndIsGone)
 {
     Filled(5, 2);
     std::vector<i16> left;
-    handlers.CellOut = [&](i16 Row, i16) { left.push_back(Row); };
+    handlers.OnCellOut = [&](i16 Row, i16) { left.push_back(Row); };
     const i32 y = 4 * Grid().DefaultHeight() + 5;
     host->MouseMove(5, static_cast<float>(y));
     Grid().DeleteRows(1, 4);

@@ -590,16 +590,16 @@ public:
     float GetScaleHeight() const;
 
     // -- Fitting to the text --
-    // Sizes in pixels that follow from what the cells hold, in their fonts and formats. No row grows beyond the area that
-    // shows it, and no column but with smooth scrolling; the host has the last word in ResizeRow or ResizeCol. A hidden
-    // line takes the size for the time it is shown, a size below 0 counts as 0. Error 6 for a size beyond 16 bits, error
-    // 9 for a line that is not there. Lay out anew.
+    // Sizes in pixels that follow from what the cells hold, in their fonts and formats. AdjustHeight and AdjustWidth do not
+    // go beyond the area that shows the line, but for columns that scroll by pixels; the host has the last word on what
+    // they offer in ResizeRow or ResizeCol. A hidden line takes the size for the time it is shown, a size below 0 counts
+    // as 0. Error 6 for a size beyond 16 bits, error 9 for a line that is not there. What changes a size lays out anew.
 
     // The size that the text of one cell needs, with its padding, at the column's present width and the row's height.
     // Words break only where the cell breaks them. Changes nothing.
     void CalcRectText(i16 Row, i16 Col, i32& Width, i32& Height) const;
     // The height for the cells of a row, or for the one in column `Col`. With `AlsoWidth` a column that is too narrow
-    // for a word is widened on the way, without an event. Raises ResizeRow.
+    // for what does not break is widened on the way, without an event. Raises ResizeRow.
     void AdjustHeight(i16 Row, i16 Col = NoIndex, bool AlsoWidth = false);
     // The width for the cells of a column, or for the one in row `Row`. The title is not measured: alone it changes
     // nothing. Raises ResizeCol.
@@ -652,7 +652,8 @@ public:
     void CopyToClipboard(i16 Row1, i16 Col1, i16 Row2, i16 Col2);
     // The plain text on the clipboard as texts of a rectangle, corners in any order, from its first cell on. What does not
     // fit is dropped, cells for which there is nothing keep their text, an empty line leaves its row alone. A field that
-    // begins with an odd number of double quotes goes on, over lines too, to one that ends with an odd number. Repaints
+    // begins with an odd number of double quotes goes on, over lines too, to one that ends with an odd number or to the
+    // end; with more fields behind it in its first line it ends there. Repaints
     // once; no event, mask or validation, and no new rows. Error 6 for a corner beyond 16 bits, 9 for a cell outside the
     // table, after the cells ahead of it.
     void PasteFromClipboard(i16 Row1, i16 Col1, i16 Row2, i16 Col2);

@@ -34,7 +34,7 @@ void Vornix::LoadFromArray(const VariantArray& Arr, bool IsNullTest)
         return;
     GridStore& store = control->store;
     const int oldRows = store.Rows();
-    const CellIndex first { store.FixedRows() + oldRows, store.FixedCols() };
+    const int firstRow = store.FixedRows() + oldRows;
     {
         const RedrawGate::Closed closed(control->gate);
         SetCols(ToI16(shape.columns));
@@ -45,8 +45,8 @@ void Vornix::LoadFromArray(const VariantArray& Arr, bool IsNullTest)
             return;
     }
     const NullElements nulls = IsNullTest ? NullElements::Skip : NullElements::Convert;
-    WriteArray(store, Arr, shape, first, nulls, control->container.GetLocale());
-    // A repaint alone: the counts were laid out behind the closed gate, so the bars follow at the next layout.
+    WriteArray(store, Arr, shape, { firstRow, store.FixedCols() }, nulls, control->container.GetLocale());
+    // A repaint alone: the closed gate kept the layout from running, so the bars follow at the next one.
     control->funnel.RepaintUnderGate();
 }
 

@@ -84,7 +84,7 @@ void Mouse::Down(i16 button, i16 shift, float x, float y)
     context_.container.SetTimer(0, false);
     button_ = button;
     shift_ = shift;
-    isArmed_ = false;
+    isArmed_ = inDblClick_ = false;
     isAbandoned_ = false;
     isButtonCell_ = false;
     context_.current.HostMovedCurrent = false;

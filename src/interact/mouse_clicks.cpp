@@ -116,11 +116,14 @@ bool Mouse::ActOnCurrent()
 
 void Mouse::DblClick()
 {
+    isAbandoned_ = false;
+    inDblClick_ = true;
     if (isClickArmed_)
         context_.mover.BringIntoView();
-    if (context_.sizing.IsCursorShown())
+    if (!isAbandoned_ && context_.sizing.IsCursorShown())
         FitLine();
-    inDblClick_ = true;
+    if (isAbandoned_)
+        return;
     if (!isOffCells_ && downHit_ != Nowhere)
         Raise(&VornixEvents::CellDblClick, downHit_);
     context_.events.DblClick();

@@ -98,11 +98,13 @@ int AutoSize::RoomForText(CellIndex parent) const
 void AutoSize::OfferHeight(int row, int height)
 {
     i16 newHeight = ToI16(height);
+    const bool wasFiller = row == context_.store.MaxRow();
     {
         const RedrawGate::Closed closed(context_.gate);
         context_.events.ResizeRow(ToI16(row - context_.store.FixedRows()), newHeight);
     }
-    if (context_.store.ContainsRow(row))
+    // What a handler has left of the table: a filler that came in the line's place is not it.
+    if (context_.store.ContainsRow(row) && (row == context_.store.MaxRow()) == wasFiller)
         StoreHeight(row, std::max<i16>(newHeight, 0));
     context_.layout.MarkMetricsDirty();
     context_.repainter.RecalcLayout(false);
@@ -171,11 +173,12 @@ int AutoSize::WidthFor(TextMeasure& measure, int col, CellIndex parent) const
 void AutoSize::OfferWidth(int col, int width)
 {
     i16 newWidth = ToI16(width);
+    const bool wasFiller = col == context_.store.MaxCol();
     {
         const RedrawGate::Closed closed(context_.gate);
         context_.events.ResizeCol(ToI16(col - context_.store.FixedCols()), newWidth);
     }
-    if (context_.store.ContainsCol(col))
+    if (context_.store.ContainsCol(col) && (col == context_.store.MaxCol()) == wasFiller)
         StoreWidth(col, std::max<i16>(newWidth, 0));
     context_.repainter.RecalcLayout(false);
 }

@@ -211,6 +211,31 @@ std::map<std::string, Calling> LineCallings()
     };
 }
 
+// Each is called with ones: the second row and column, and one of them.
+std::map<std::string, Calling> StructureCallings()
+{
+    const auto marks = [](int row, int col) { return Writes("Text", { Integer(row), Integer(col), Text(u"marked") }); };
+    const auto isMarked = [](int row, int col) { return Reads("Text", { Integer(row), Integer(col) }, "text marked"); };
+    const auto isEmpty = Reads("Text", { Integer(1), Integer(1) }, "text ");
+    const auto bold = Writes("CellFontBold", { Integer(1), Integer(1), Boolean(true) });
+    return {
+        { "InsertRows", { "empty", {}, marks(1, 1), isMarked(2, 1) } },
+        { "DeleteRows", { "empty", {}, marks(2, 1), isMarked(1, 1) } },
+        { "InsertCols", { "empty", {}, marks(1, 1), isMarked(1, 2) } },
+        { "DeleteCols", { "empty", {}, marks(1, 2), isMarked(1, 1) } },
+        { "MoveRow", { "empty", {}, marks(1, 1), isMarked(1, 1) } },
+        { "MoveCol", { "empty", {}, marks(1, 1), isMarked(1, 1) } },
+        { "SwapRows", { "empty", {}, marks(1, 1), isMarked(1, 1) } },
+        { "SwapCols", { "empty", {}, marks(1, 1), isMarked(1, 1) } },
+        { "CopyCell", { "empty", {}, marks(1, 1), isMarked(1, 1) } },
+        { "CopyRow", { "empty", {}, marks(1, 1), isMarked(1, 1) } },
+        { "CopyCol", { "empty", {}, marks(1, 1), isMarked(1, 1) } },
+        { "ClearRow", { "empty", {}, marks(1, 1), isEmpty } },
+        { "ClearCol", { "empty", {}, marks(1, 1), isEmpty } },
+        { "ResetCells", { "empty", {}, bold, Reads("CellFontBold", { Integer(1), Integer(1) }, "false") } },
+    };
+}
+
 std::map<std::string, Calling> ExchangeCallings()
 {
     const auto setClipboard = [](vornix_grid* grid) { EXPECT_EQ(vornix_host_set_clipboard(grid, View(u"pasted")), 0); };
@@ -388,8 +413,9 @@ std::map<std::string, Calling> SortSearchCallings()
 std::map<std::string, Calling> AllCallings()
 {
     std::map<std::string, Calling> all;
-    for (auto&& part : { SpanCallings(), LineCallings(), ExchangeCallings(), SelectionCallings(), PlaceCallings(),
-             FittingCallings(), PointerCallings(), LookCallings(), EditingCallings(), SortSearchCallings() })
+    for (auto&& part :
+        { SpanCallings(), LineCallings(), StructureCallings(), ExchangeCallings(), SelectionCallings(), PlaceCallings(),
+            FittingCallings(), PointerCallings(), LookCallings(), EditingCallings(), SortSearchCallings() })
         all.insert(part.begin(), part.end());
     return all;
 }

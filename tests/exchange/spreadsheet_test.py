@@ -141,7 +141,7 @@ def copied(table: Table) -> str:
 
 
 def pasted(text: str, rows: int, cols: int) -> Table:
-    """The cells of an empty table into which a text was pasted, its lines ended as a window does it: where there is no
+    """The cells of an empty table into which a text was pasted, its lines ended much as a window does it: where there is no
     CR LF, each line feed outside of quotes becomes one."""
     if "\r\n" not in text:
         text = re.sub(r'"(?:[^"]|"")*"|\n', lambda m: "\r\n" if m.group() == "\n" else m.group(), text)

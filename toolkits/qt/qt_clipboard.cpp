@@ -57,7 +57,8 @@ std::u16string WithLineEnds(std::u16string_view text)
 std::u16string ClipboardPlainText()
 {
     const QMimeData* const content = QGuiApplication::clipboard()->mimeData();
-    if (!content)
+    // Without it Qt would give the addresses of files for a text.
+    if (!content || !content->hasFormat(QStringLiteral("text/plain")))
         return {};
     const std::u16string text = FromQString(content->text());
     return content->hasFormat(OwnTextMark()) ? text : WithLineEnds(text);

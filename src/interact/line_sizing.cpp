@@ -108,6 +108,8 @@ bool LineSizing::Begin(int x, int y)
         return false;
     }
     const LayoutEngine& layout = context_.layout;
+    // A double click fits the line of this press, and none that an earlier one has caught.
+    col_ = row_ = NoIndex;
     if (acrossCols) {
         col_ = candidate;
         originX_ = layout.CellOriginAt(0, col_).x;

@@ -211,7 +211,7 @@ std::map<std::string, Calling> LineCallings()
     };
 }
 
-// Each is called with ones: the second row and column, and one of them.
+// Called with the second row and column; they move to the first, and change places with the third.
 std::map<std::string, Calling> StructureCallings()
 {
     const auto marks = [](int row, int col) { return Writes("Text", { Integer(row), Integer(col), Text(u"marked") }); };
@@ -223,10 +223,10 @@ std::map<std::string, Calling> StructureCallings()
         { "DeleteRows", { "empty", {}, marks(2, 1), isMarked(1, 1) } },
         { "InsertCols", { "empty", {}, marks(1, 1), isMarked(1, 2) } },
         { "DeleteCols", { "empty", {}, marks(1, 2), isMarked(1, 1) } },
-        { "MoveRow", { "empty", {}, marks(1, 1), isMarked(1, 1) } },
-        { "MoveCol", { "empty", {}, marks(1, 1), isMarked(1, 1) } },
-        { "SwapRows", { "empty", {}, marks(1, 1), isMarked(1, 1) } },
-        { "SwapCols", { "empty", {}, marks(1, 1), isMarked(1, 1) } },
+        { "MoveRow", { "empty", {}, marks(1, 1), isMarked(0, 1) } },
+        { "MoveCol", { "empty", {}, marks(1, 1), isMarked(1, 0) } },
+        { "SwapRows", { "empty", {}, marks(1, 1), isMarked(2, 1) } },
+        { "SwapCols", { "empty", {}, marks(1, 1), isMarked(1, 2) } },
         { "CopyCell", { "empty", {}, marks(1, 1), isMarked(1, 1) } },
         { "CopyRow", { "empty", {}, marks(1, 1), isMarked(1, 1) } },
         { "CopyCol", { "empty", {}, marks(1, 1), isMarked(1, 1) } },

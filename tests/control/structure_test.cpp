@@ -728,21 +728,6 @@ TEST_F(Structure, AHandlerOfTheEmptiedEditorMayTakeTheRowAway)
     EXPECT_EQ(Grid().Text(0, 0), u"0,0");
 }
 
-TEST_F(Structure, NothingOfAnEmptiedFormComesBack)
-{
-    Filled(2, 2);
-    Grid().SetColMask(0, u"####");
-    Grid().SetColMode(0, vxTextBox);
-    Grid().SetText(0, 0, u"1234");
-    Grid().CurrentPos(0, 0);
-    Grid().EnterEdit();
-    Grid().ClearRow(0);
-    EXPECT_EQ(Grid().Text(0, 0), u"");
-    host->Type(u"9");
-    EXPECT_EQ(Grid().Text(0, 0).substr(0, 1), u"9");
-    EXPECT_EQ(Grid().Text(0, 0).find(u'2'), std::u16string::npos);
-}
-
 TEST_F(Structure, ExchangedRowsCloseAnEditorFirst)
 {
     Filled(3, 2);

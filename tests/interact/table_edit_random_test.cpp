@@ -106,7 +106,9 @@ void RandomEdits::EditCells()
         plain.SwapRows(from.row, to.row);
         break;
     case 4:
-        if (plain.HasSpanAcrossCol(from.col) || plain.HasSpanAcrossCol(to.col) || from.col == to.col)
+        // A title stays, and so does what it covers of a span below it.
+        if (plain.HasSpanAcrossCol(from.col) || plain.HasSpanAcrossCol(to.col) || from.col == to.col
+            || (plain.hasTitle && plain.HasSpanAcrossRow(0)))
             break;
         edit.SwapCols(from.col, to.col);
         plain.SwapCols(from.col, to.col);

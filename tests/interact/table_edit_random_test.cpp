@@ -148,13 +148,13 @@ void RandomEdits::SelectAndMove()
         plain.currentCol = current.Col();
         break;
     case 1: {
-        const auto [first, last] = std::minmax(AnyRow(), AnyRow());
+        const auto [first, last] = std::minmax({ AnyRow(), AnyRow() });
         selection.Ranges().AddRows(false, first, last);
         plain.selection.AddRows(false, first, last);
         break;
     }
     case 2: {
-        const auto [first, last] = std::minmax(AnyCol(), AnyCol());
+        const auto [first, last] = std::minmax({ AnyCol(), AnyCol() });
         selection.Ranges().AddCols(false, first, last);
         plain.selection.AddCols(false, first, last);
         break;

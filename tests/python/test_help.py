@@ -25,7 +25,7 @@ class TestHelp(GridTest):
     def test_a_method(self) -> None:
         text = help_on(self.g.InsertRows)
         self.assertIn("InsertRows(Row: int, Rows: int = 1) -> None", text)
-        self.assertIn("New rows in front of a row.", text)
+        self.assertIn("New rows in front of a row;", text)
         self.assertIn("Rows: integer, 16 bits; 1 where it is left out", text)
         self.assertIn("9 (subscript out of range)", text)
 

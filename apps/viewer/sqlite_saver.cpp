@@ -2,11 +2,11 @@
 
 #include "cell_content.h"
 #include "loading.h"
+#include "sqlite_steps.h"
 #include "unicode.h"
 #include "value_text.h"
 
 #include "vornix/sqlite/database.h"
-#include "vornix/sqlite/transaction.h"
 
 #include <charconv>
 #include <cmath>
@@ -71,16 +71,23 @@ struct Encoder {
     std::string operator()(const sqlite::Blob& blob) const { return "b" + BytesOf(blob.bytes.size()) + blob.bytes; }
 };
 
-void RequireDifferent(const std::map<int, std::vector<sqlite::Value>>& keys, const Changes& changes)
+std::string Encoded(const std::vector<sqlite::Value>& key)
+{
+    std::string all;
+    for (const sqlite::Value& value : key)
+        all += std::visit(Encoder(), value);
+    return all;
+}
+
+// Encoded.
+std::set<std::string> RequireDifferent(const std::map<int, std::vector<sqlite::Value>>& keys, const Changes& changes)
 {
     std::set<std::string> known;
     for (const auto& [row, key] : keys) {
-        std::string all;
-        for (const sqlite::Value& value : key)
-            all += std::visit(Encoder(), value);
-        if (!known.insert(std::move(all)).second)
+        if (!known.insert(Encoded(key)).second)
             throw SaveError(changes.NameOf(row) + ": it would have the key of another changed row");
     }
+    return known;
 }
 
 } // namespace
@@ -114,25 +121,25 @@ SaveOutcome SqliteSaver::Save(const Changes& changes)
         RequireShort(changes, addition.record, changes.CellsOf(addition));
     try {
         sqlite::Database database(path_, sqlite::Access::Write);
-        sqlite::Transaction transaction(database);
+        SqliteSteps steps(database, changes);
         const std::int64_t changesBefore = CountChanges(database);
         const std::map<int, Types> types = RequireUnchanged(database, changes);
-        RemoveAll(database, changes);
-        Keys keys = UpdateAll(database, changes, types);
-        AddAll(database, changes, keys);
-        RequireDifferent(keys, changes);
+        RemoveAll(database, changes, steps);
+        Keys keys = UpdateAll(database, changes, types, steps);
+        AddAll(database, changes, keys, steps);
+        const std::set<std::string> taken = RequireDifferent(keys, changes);
         std::vector<ReadRow> saved;
         for (const auto& [row, key] : keys)
             saved.push_back(Read(database, changes, row, key));
         const auto own = static_cast<std::int64_t>(keys.size() + changes.Removed().size());
         const bool hasChangedOthers = CountChanges(database) - changesBefore != own;
-        OtherRows others = hasChangedOthers ? FindOtherRows(database, changes) : OtherRows();
+        OtherRows others = hasChangedOthers ? FindOtherRows(database, changes, taken) : OtherRows();
         for (const int row : others.changed)
             saved.push_back(Read(database, changes, row, rows_.Row(row).key));
         // Whatever can fail comes before the database has the changes.
         DatabaseRows rows = rows_;
         SaveOutcome outcome = TakeOver(rows, std::move(saved), std::move(others.gone), changes);
-        transaction.Commit();
+        steps.Commit();
         rows_ = std::move(rows);
         return outcome;
     } catch (const sqlite::Error& error) {
@@ -184,31 +191,10 @@ std::map<int, SqliteSaver::Types> SqliteSaver::RequireUnchanged(
     return types;
 }
 
-// What the database refuses now, it may take once others have had their turn.
-void SqliteSaver::InAnyOrder(std::vector<int> rows, const Changes& changes, const RowStep& step)
-{
-    while (!rows.empty()) {
-        std::vector<int> refused;
-        std::string reason;
-        for (const int row : rows) {
-            try {
-                step(row);
-            } catch (const sqlite::Error& error) {
-                if (refused.empty())
-                    reason = error.what();
-                refused.push_back(row);
-            }
-        }
-        if (refused.size() == rows.size())
-            throw SaveError(changes.NameOf(refused.front()) + ": " + reason);
-        rows = std::move(refused);
-    }
-}
-
 // One that is gone went with another.
-void SqliteSaver::RemoveAll(const sqlite::Database& database, const Changes& changes) const
+void SqliteSaver::RemoveAll(const sqlite::Database& database, const Changes& changes, SqliteSteps& steps) const
 {
-    InAnyOrder(changes.Removed(), changes, [&](int row) {
+    steps.ForEach(changes.Removed(), [&](int row) {
         sqlite::Statement remove = database.Prepare(rows_.Delete());
         BindAll(remove, 1, rows_.Row(row).key);
         remove.Next();
@@ -224,19 +210,21 @@ void SqliteSaver::RemoveAll(const sqlite::Database& database, const Changes& cha
 
 // All rows have been looked at before the first is changed, and each is again before its own turn comes, since changing
 // one may change others by itself.
-SqliteSaver::Keys SqliteSaver::UpdateAll(
-    const sqlite::Database& database, const Changes& changes, std::map<int, Types> types) const
+SqliteSaver::Keys SqliteSaver::UpdateAll(const sqlite::Database& database, const Changes& changes,
+    const std::map<int, Types>& types, SqliteSteps& steps) const
 {
+    std::vector<int> rows;
+    for (const auto& [row, cells] : changes.Changed())
+        rows.push_back(row);
     Keys keys;
-    sqlite::Statement select = database.Prepare(rows_.SelectOne());
-    for (const auto& [row, cells] : changes.Changed()) {
-        RequireNotChangedHere(select, changes, row);
-        keys[row] = Update(database, changes, row, cells, types[row]);
-    }
+    steps.ForEach(std::move(rows), [&](int row) {
+        RequireNotChangedHere(database, changes, row);
+        keys[row] = Update(database, changes, row, types.at(row));
+    });
     return keys;
 }
 
-void SqliteSaver::AddAll(const sqlite::Database& database, const Changes& changes, Keys& keys) const
+void SqliteSaver::AddAll(const sqlite::Database& database, const Changes& changes, Keys& keys, SqliteSteps& steps) const
 {
     std::map<int, const Edits::RowEdits*> cells;
     std::vector<int> rows;
@@ -244,24 +232,23 @@ void SqliteSaver::AddAll(const sqlite::Database& database, const Changes& change
         rows.push_back(addition.record);
         cells[addition.record] = &changes.CellsOf(addition);
     }
-    InAnyOrder(std::move(rows), changes, [&](int row) {
+    steps.ForEach(std::move(rows), [&](int row) {
         keys[row] = Add(database, *cells[row]);
         if (keys[row].empty())
             throw SaveError(changes.NameOf(row) + ": the database does not take it");
     });
 }
 
-void SqliteSaver::RequireNotChangedHere(sqlite::Statement& select, const Changes& changes, int row) const
+void SqliteSaver::RequireNotChangedHere(const sqlite::Database& database, const Changes& changes, int row) const
 {
-    select.Reset();
+    sqlite::Statement select = database.Prepare(rows_.SelectOne());
     BindAll(select, 1, rows_.Row(row).key);
-    const bool isSame = select.Next() && rows_.Read(select).print == rows_.Row(row).print;
-    select.Reset();
-    if (!isSame)
+    if (!select.Next() || rows_.Read(select).print != rows_.Row(row).print)
         throw SaveError(changes.NameOf(row) + ": the database changes it when another changed row is saved");
 }
 
-SqliteSaver::OtherRows SqliteSaver::FindOtherRows(const sqlite::Database& database, const Changes& changes) const
+SqliteSaver::OtherRows SqliteSaver::FindOtherRows(
+    const sqlite::Database& database, const Changes& changes, const std::set<std::string>& taken) const
 {
     OtherRows others;
     const std::set<int> removed(changes.Removed().begin(), changes.Removed().end());
@@ -271,7 +258,7 @@ SqliteSaver::OtherRows SqliteSaver::FindOtherRows(const sqlite::Database& databa
             continue;
         select.Reset();
         BindAll(select, 1, rows_.Row(row).key);
-        if (!select.Next())
+        if (taken.contains(Encoded(rows_.Row(row).key)) || !select.Next())
             others.gone.push_back(row);
         else if (rows_.Read(select).print != rows_.Row(row).print)
             others.changed.push_back(row);
@@ -280,28 +267,24 @@ SqliteSaver::OtherRows SqliteSaver::FindOtherRows(const sqlite::Database& databa
 }
 
 // Gives the row's key, which may be what was changed.
-SqliteSaver::Key SqliteSaver::Update(const sqlite::Database& database, const Changes& changes, int row,
-    const Edits::RowEdits& cells, const Types& types) const
+SqliteSaver::Key SqliteSaver::Update(
+    const sqlite::Database& database, const Changes& changes, int row, const Types& types) const
 {
     std::vector<int> columns;
     std::vector<sqlite::Value> values;
-    for (const auto& [column, text] : cells) {
+    for (const auto& [column, text] : changes.Changed().at(row)) {
         columns.push_back(column);
         values.push_back(ValueFor(column, text, types.at(column)));
     }
-    try {
-        sqlite::Statement update = database.Prepare(rows_.Update(columns));
-        BindAll(update, 1, values);
-        BindAll(update, static_cast<int>(values.size()) + 1, rows_.Row(row).key);
-        if (!update.Next())
-            throw SaveError(changes.NameOf(row) + ": the database does not take the change");
-        Key key = KeyIn(update);
-        if (update.Next())
-            throw SaveError(changes.NameOf(row) + ": its key is that of other rows too");
-        return key;
-    } catch (const sqlite::Error& error) {
-        throw SaveError(changes.NameOf(row) + ": " + error.what());
-    }
+    sqlite::Statement update = database.Prepare(rows_.Update(columns));
+    BindAll(update, 1, values);
+    BindAll(update, static_cast<int>(values.size()) + 1, rows_.Row(row).key);
+    if (!update.Next())
+        throw SaveError(changes.NameOf(row) + ": the database does not take the change");
+    Key key = KeyIn(update);
+    if (update.Next())
+        throw SaveError(changes.NameOf(row) + ": its key is that of other rows too");
+    return key;
 }
 
 // Empty when the database has not added it.

@@ -4,7 +4,6 @@
 #include "database_rows.h"
 #include "saver.h"
 
-#include <functional>
 #include <map>
 #include <set>
 #include <string>
@@ -16,14 +15,18 @@ class Database;
 
 namespace vornix::viewer {
 
+class SqliteSteps;
+
 // All changes are one transaction. A row that is gone, or of which anything was changed since it was read, is an error
 // that names it; so is one that the change of another one changes. What the database changes by itself is read again. A
-// text that could not be read again is an error. A column makes of a text what its type says, as for any program that writes a text; where it takes
-// anything, a cell that held a number, or stands in a column of numbers, gets a number where the text is one. Without a
-// text a cell of a text column holds an empty one, and any other a null, as does one that refers to another table.
+// text that could not be read again is an error. A column makes of a text what its type says, as for any program that
+// writes a text; where it takes anything, a cell that held a number, or stands in a column of numbers, gets a number where
+// the text is one. Without a text a cell of a text column holds an empty one, and any other a null, as does one that refers
+// to another table.
 //
-// Rows are removed first and added last; of each, those that refer to others of them find their turn. A new row's cells
-// without a text get what the table gives them. A row that goes with a removed one is told as removed.
+// Rows are removed first and added last; of each kind, those that the database takes only behind others find their turn.
+// Foreign keys count when all is done. A new row's cells without a text get what the table gives them. A row that goes with
+// a removed one is told as removed.
 class SqliteSaver final : public Saver {
 public:
     // The table is what ReadChangeableTable has made of `rows`; it must outlive this. A reason not to change anything
@@ -48,20 +51,17 @@ private:
     using Types = std::map<int, sqlite::ValueType>; // by column
     using Key = std::vector<sqlite::Value>;
     using Keys = std::map<int, Key>; // by row
-    // Does a step for one row, which raises sqlite::Error where the database refuses it.
-    using RowStep = std::function<void(int row)>;
 
     void RequireShort(const Changes& changes, int row, int column, std::u16string_view text) const;
     void RequireShort(const Changes& changes, int row, const Edits::RowEdits& cells) const;
     Types RequireUnchanged(const Changes& changes, sqlite::Statement& select, int row) const;
     std::map<int, Types> RequireUnchanged(const sqlite::Database& database, const Changes& changes) const;
-    static void InAnyOrder(std::vector<int> rows, const Changes& changes, const RowStep& step);
-    void RemoveAll(const sqlite::Database& database, const Changes& changes) const;
-    Keys UpdateAll(const sqlite::Database& database, const Changes& changes, std::map<int, Types> types) const;
-    void AddAll(const sqlite::Database& database, const Changes& changes, Keys& keys) const;
-    void RequireNotChangedHere(sqlite::Statement& select, const Changes& changes, int row) const;
-    Key Update(const sqlite::Database& database, const Changes& changes, int row, const Edits::RowEdits& cells,
-        const Types& types) const;
+    void RemoveAll(const sqlite::Database& database, const Changes& changes, SqliteSteps& steps) const;
+    Keys UpdateAll(const sqlite::Database& database, const Changes& changes, const std::map<int, Types>& types,
+        SqliteSteps& steps) const;
+    void AddAll(const sqlite::Database& database, const Changes& changes, Keys& keys, SqliteSteps& steps) const;
+    void RequireNotChangedHere(const sqlite::Database& database, const Changes& changes, int row) const;
+    Key Update(const sqlite::Database& database, const Changes& changes, int row, const Types& types) const;
     Key Add(const sqlite::Database& database, const Edits::RowEdits& cells) const;
     ReadRow Read(const sqlite::Database& database, const Changes& changes, int row, const Key& key) const;
     sqlite::Value ValueFor(int column, std::u16string_view text, sqlite::ValueType oldType) const;
@@ -71,7 +71,9 @@ private:
         std::vector<int> changed;
         std::vector<int> gone;
     };
-    OtherRows FindOtherRows(const sqlite::Database& database, const Changes& changes) const;
+    // One whose key is `taken` by a row that was changed or added is gone.
+    OtherRows FindOtherRows(
+        const sqlite::Database& database, const Changes& changes, const std::set<std::string>& taken) const;
     SaveOutcome TakeOver(
         DatabaseRows& rows, std::vector<ReadRow> saved, std::vector<int> gone, const Changes& changes) const;
 

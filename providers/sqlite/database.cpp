@@ -237,4 +237,17 @@ void Database::Execute(std::string_view sql)
         continue;
 }
 
+bool Database::IsInTransaction() const
+{
+    return sqlite3_get_autocommit(connection_.get()) == 0;
+}
+
+bool Database::HasBrokenReferences() const
+{
+    int hasAny = 0;
+    int unused = 0;
+    sqlite3_db_status(connection_.get(), SQLITE_DBSTATUS_DEFERRED_FKS, &hasAny, &unused, 0);
+    return hasAny != 0;
+}
+
 } // namespace vornix::sqlite

@@ -80,6 +80,8 @@ Error ErrorOf(sqlite3* connection, int resultCode)
         return SystemError(connection, { ErrorKind::Damaged, "the database is damaged (" + message + ")" });
     case SQLITE_FULL:
         return { ErrorKind::NoRoom, "there is no room on the disk" };
+    case SQLITE_CONSTRAINT:
+        return { ErrorKind::Constraint, message };
     case SQLITE_TOOBIG:
         return { ErrorKind::TooLong, "a value of the database is too long" };
     case SQLITE_INTERRUPT:

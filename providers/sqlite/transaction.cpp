@@ -9,23 +9,49 @@ Transaction::Transaction(Database& database)
 {
     database_.Execute("PRAGMA foreign_keys = ON"); // without effect inside a transaction
     database_.Execute("BEGIN IMMEDIATE");
+    database_.Execute("PRAGMA defer_foreign_keys = ON"); // until its end
 }
 
 Transaction::~Transaction()
 {
-    if (!isOpen_)
+    if (isCommitted_)
         return;
     try {
-        database_.Execute("ROLLBACK");
+        if (IsOpen())
+            database_.Execute("ROLLBACK");
+        // Where writing has failed, the file is set right when it is read again.
+        database_.Execute("SELECT count(*) FROM sqlite_schema");
     } catch (const Error&) {
-        // Some errors have taken it back already; otherwise closing the connection does.
+        // The next one who opens it for writing does so.
     }
+}
+
+void Transaction::Do(const std::function<void()>& step)
+{
+    if (!IsOpen())
+        throw Error(ErrorKind::Other, "the changes were taken back");
+    database_.Execute("SAVEPOINT step");
+    try {
+        step();
+    } catch (...) {
+        if (IsOpen()) {
+            database_.Execute("ROLLBACK TO step");
+            database_.Execute("RELEASE step");
+        }
+        throw;
+    }
+    database_.Execute("RELEASE step");
+}
+
+bool Transaction::IsOpen() const
+{
+    return database_.IsInTransaction();
 }
 
 void Transaction::Commit()
 {
     database_.Execute("COMMIT");
-    isOpen_ = false;
+    isCommitted_ = true;
 }
 
 } // namespace vornix::sqlite

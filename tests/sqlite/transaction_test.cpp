@@ -3,6 +3,8 @@
 #include "vornix/sqlite/database.h"
 #include "vornix/sqlite/transaction.h"
 
+#include <stdexcept>
+
 using namespace vornix;
 using namespace vornix::sqlite;
 
@@ -51,6 +53,62 @@ TEST(Transaction, MindsForeignKeysUpToItsEnd)
     EXPECT_EQ(MessageOf([&] { transaction.Commit(); }), "FOREIGN KEY constraint failed");
     database.Execute("INSERT INTO t VALUES(7)");
     transaction.Commit();
+    EXPECT_EQ(CountOf(made.Path()), 1);
+}
+
+TEST(Transaction, HasTimeForItsReferencesUpToItsEnd)
+{
+    const MadeDatabase made("CREATE TABLE t(a INTEGER PRIMARY KEY); CREATE TABLE u(b REFERENCES t ON DELETE RESTRICT);"
+                            "INSERT INTO t VALUES(1); INSERT INTO u VALUES(1);");
+    Database database(made.Path(), Access::Write);
+    {
+        Transaction transaction(database);
+        EXPECT_FALSE(database.HasBrokenReferences());
+        database.Execute("DELETE FROM t");
+        EXPECT_TRUE(database.HasBrokenReferences());
+        EXPECT_EQ(MessageOf([&] { transaction.Commit(); }), "FOREIGN KEY constraint failed");
+        database.Execute("INSERT INTO u VALUES(7)");
+        database.Execute("UPDATE u SET b = 7");
+        database.Execute("INSERT INTO t VALUES(7)");
+        EXPECT_FALSE(database.HasBrokenReferences());
+        transaction.Commit();
+    }
+    Transaction another(database);
+    database.Execute("DELETE FROM t");
+    EXPECT_THROW(another.Commit(), Error) << "in each one anew";
+}
+
+TEST(Transaction, KeepsNothingOfAStepThatFails)
+{
+    const MadeDatabase made("CREATE TABLE t(a UNIQUE); INSERT INTO t VALUES(1);"
+                            "CREATE TRIGGER f AFTER INSERT ON t WHEN new.a = 2 BEGIN SELECT RAISE(FAIL, 'no'); END;");
+    Database database(made.Path(), Access::Write);
+    Transaction transaction(database);
+    EXPECT_EQ(MessageOf([&] { transaction.Do([&] { database.Execute("INSERT INTO t VALUES(2)"); }); }), "no");
+    EXPECT_TRUE(transaction.IsOpen());
+    EXPECT_THROW(transaction.Do([&] {
+        database.Execute("INSERT INTO t VALUES(3)");
+        throw std::runtime_error("anything");
+    }),
+        std::runtime_error);
+    transaction.Do([&] { database.Execute("INSERT INTO t VALUES(4)"); });
+    transaction.Commit();
+    EXPECT_EQ(CountOf(made.Path()), 2);
+}
+
+TEST(Transaction, EndsWhereAnErrorTakesItBack)
+{
+    const MadeDatabase made("CREATE TABLE t(a); INSERT INTO t VALUES(1);"
+                            "CREATE TRIGGER r BEFORE DELETE ON t BEGIN SELECT RAISE(ROLLBACK, 'no'); END;");
+    Database database(made.Path(), Access::Write);
+    {
+        Transaction transaction(database);
+        transaction.Do([&] { database.Execute("INSERT INTO t VALUES(2)"); });
+        EXPECT_EQ(MessageOf([&] { transaction.Do([&] { database.Execute("DELETE FROM t"); }); }), "no");
+        EXPECT_FALSE(transaction.IsOpen());
+        EXPECT_THROW(transaction.Do([&] { database.Execute("INSERT INTO t VALUES(3)"); }), Error);
+        EXPECT_THROW(transaction.Commit(), Error);
+    }
     EXPECT_EQ(CountOf(made.Path()), 1);
 }
 

@@ -1,9 +1,14 @@
 // Rows that are added to a table of a database and removed from it.
+#include "as_ordinary_user.h"
 #include "document.h"
 #include "saved_database.h"
 #include "sqlite/made_database.h"
 
 #include <gmock/gmock.h>
+
+#include <chrono>
+#include <csignal>
+#include <sys/resource.h>
 
 using namespace vornix;
 using namespace vornix::viewer;
@@ -120,6 +125,9 @@ TEST(SqliteRows, MindForeignKeys)
     EXPECT_THAT(Rows(made.Path(), "SELECT count(*) FROM countries"), ElementsAre("2"));
     countries.RestoreRow(1);
     EXPECT_EQ(MessageOfSave(countries), "saved");
+    countries.RemoveRow(1);
+    Add(countries, { u"ch" });
+    EXPECT_EQ(MessageOfSave(countries), "saved") << "the new one takes its place";
     Document cities = Opened(made.Path(), "cities");
     Add(cities, { u"Wien", u"at" });
     EXPECT_EQ(MessageOfSave(cities), "row +1: FOREIGN KEY constraint failed");
@@ -139,6 +147,82 @@ TEST(SqliteRows, ThatReferToOneAnotherFindTheirTurn)
     EXPECT_THAT(Rows(made.Path(), "SELECT * FROM t ORDER BY id"), ElementsAre("4|NULL", "10|NULL", "11|10", "12|11"));
 }
 
+TEST(SqliteRows, ReferAsTheyShouldOnlyWhenAllIsDone)
+{
+    const MadeDatabase made("CREATE TABLE t(id INTEGER PRIMARY KEY, parent INTEGER REFERENCES t,"
+                            " friend INTEGER REFERENCES t ON DELETE RESTRICT);"
+                            "INSERT INTO t VALUES(1, NULL, NULL), (2, 1, 1), (3, 2, NULL), (4, NULL, NULL);");
+    Document document = Opened(made.Path());
+    document.RemoveRow(0);
+    document.Change(1, 1, u"40");
+    document.Change(1, 2, u"11");
+    document.Change(2, 1, u"40");
+    document.Change(3, 0, u"40");
+    document.Change(3, 1, u"2");
+    Add(document, { u"10", u"11" });
+    Add(document, { u"11", u"10" });
+    EXPECT_EQ(MessageOfSave(document), "saved");
+    EXPECT_THAT(Rows(made.Path(), "SELECT * FROM t ORDER BY id"),
+        ElementsAre("2|40|11", "3|40|NULL", "10|11|NULL", "11|10|NULL", "40|2|NULL"));
+}
+
+TEST(SqliteRows, ThatReferToNothingAreNamed)
+{
+    const MadeDatabase made("CREATE TABLE t(id INTEGER PRIMARY KEY, parent INTEGER REFERENCES t);"
+                            "INSERT INTO t VALUES(1, NULL), (2, 1), (3, NULL);");
+    Document document = Opened(made.Path());
+    document.RemoveRow(0);
+    document.Change(1, 1, u"11");
+    document.Change(2, 1, u"2");
+    Add(document, { u"10", u"11" });
+    Add(document, { u"11", u"" });
+    const int bad = Add(document, { u"12", u"7" });
+    EXPECT_EQ(MessageOfSave(document), "row +3: FOREIGN KEY constraint failed") << "the others are right in the end";
+    EXPECT_THAT(Rows(made.Path(), "SELECT * FROM t"), ElementsAre("1|NULL", "2|1", "3|NULL"));
+    EXPECT_EQ(document.ChangeCount(), 6u);
+    document.Change(bad, 1, u"12");
+    EXPECT_EQ(MessageOfSave(document), "saved");
+    EXPECT_THAT(Rows(made.Path(), "SELECT * FROM t"), ElementsAre("2|11", "3|2", "10|11", "11|NULL", "12|12"));
+}
+
+TEST(SqliteRows, FindTheirTurnHoweverTheyFollowOneAnother)
+{
+    const MadeDatabase made("CREATE TABLE t(n INTEGER); WITH RECURSIVE c(n) AS"
+                            " (VALUES(1) UNION ALL SELECT n + 1 FROM c WHERE n < 20) INSERT INTO t SELECT n FROM c;"
+                            "CREATE TRIGGER d BEFORE DELETE ON t WHEN EXISTS(SELECT 1 FROM t WHERE n = old.n + 1)"
+                            " BEGIN SELECT RAISE(ABORT, 'the next one is there'); END;"
+                            "CREATE TRIGGER u BEFORE UPDATE ON t WHEN EXISTS(SELECT 1 FROM t WHERE n = new.n)"
+                            " BEGIN SELECT RAISE(FAIL, 'it is taken'); END;"
+                            "CREATE TRIGGER i BEFORE INSERT ON t WHEN NOT EXISTS(SELECT 1 FROM t WHERE n = new.n - 1)"
+                            " BEGIN SELECT RAISE(ABORT, 'the one before is not there'); END;");
+    Document document = Opened(made.Path());
+    for (int row = 10; row < 20; ++row)
+        document.RemoveRow(row);
+    for (int row = 0; row < 10; ++row)
+        document.Change(row, 0, document.Text(row + 1, 0));
+    for (const char16_t* text : { u"14", u"13", u"12" })
+        Add(document, { text });
+    EXPECT_EQ(MessageOfSave(document), "saved");
+    EXPECT_THAT(Rows(made.Path(), "SELECT count(*), min(n), max(n) FROM t"), ElementsAre("13|2|14"));
+}
+
+TEST(SqliteRows, OfALongChainFindTheirTurnSoon)
+{
+    constexpr int count = 4000;
+    const MadeDatabase made("CREATE TABLE t(n INTEGER);"
+                            "CREATE TRIGGER d BEFORE DELETE ON t WHEN EXISTS(SELECT 1 FROM t WHERE rowid ="
+                            " old.rowid + 1) BEGIN SELECT RAISE(ABORT, 'the next one is there'); END;"
+                            "WITH RECURSIVE c(n) AS (VALUES(1) UNION ALL SELECT n + 1 FROM c WHERE n < "
+        + std::to_string(count) + ") INSERT INTO t SELECT n FROM c;");
+    Document document = Opened(made.Path());
+    for (int row = 0; row < count; ++row)
+        document.RemoveRow(row);
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(MessageOfSave(document), "saved");
+    const auto taken = std::chrono::steady_clock::now() - start;
+    EXPECT_LT(std::chrono::duration_cast<std::chrono::seconds>(taken).count(), 10);
+}
+
 TEST(SqliteRows, ThatGoWithOthersAreGone)
 {
     const MadeDatabase made("CREATE TABLE t(id INTEGER PRIMARY KEY, parent INTEGER REFERENCES t ON DELETE CASCADE);"
@@ -154,6 +238,22 @@ TEST(SqliteRows, ThatGoWithOthersAreGone)
     document.RemoveRow(3);
     document.Change(4, 1, u"4");
     EXPECT_EQ(MessageOfSave(document), "row 2: FOREIGN KEY constraint failed");
+}
+
+TEST(SqliteRows, AreGoneWhereANewOneHasTheirKey)
+{
+    const MadeDatabase made("CREATE TABLE t(id INTEGER PRIMARY KEY, parent INTEGER REFERENCES t ON DELETE CASCADE,"
+                            " n TEXT); INSERT INTO t VALUES(1, NULL, 'a'), (2, 3, 'b'), (3, NULL, 'c');");
+    Document document = Opened(made.Path());
+    document.RemoveRow(2);
+    const int added = Add(document, { u"", u"", u"new" });
+    EXPECT_THAT(document.Save(), ElementsAre(CellText { added, 0, u"2" }));
+    EXPECT_THAT(document.Rows(), ElementsAre(0, added));
+    document.RemoveRow(0);
+    document.Change(added, 2, u"newer");
+    Add(document, { u"3", u"", u"d" });
+    EXPECT_EQ(MessageOfSave(document), "saved");
+    EXPECT_THAT(Rows(made.Path(), "SELECT * FROM t"), ElementsAre("2|NULL|'newer'", "3|NULL|'d'"));
 }
 
 TEST(SqliteRows, ShowWhatRemovingChangesInOthers)
@@ -210,4 +310,69 @@ TEST(SqliteRows, WithoutAKeyStay)
     Document document = Opened(made.Path());
     EXPECT_FALSE(document.CanRemove(0));
     EXPECT_TRUE(document.CanRemove(1));
+}
+
+// What a trigger raises, and whether saving the others goes on.
+class SqliteRowsRefused : public testing::TestWithParam<const char*> { };
+
+TEST_P(SqliteRowsRefused, ByATriggerChangeNothing)
+{
+    const std::string raise = std::string("BEGIN SELECT RAISE(") + GetParam() + ", 'no'); END;";
+    const MadeDatabase made("CREATE TABLE t(n INTEGER, price INTEGER);"
+                            "INSERT INTO t VALUES(1, 10), (2, -10), (3, 30), (4, 40);"
+                            "CREATE TRIGGER i BEFORE INSERT ON t WHEN new.price < 0 "
+        + raise + "CREATE TRIGGER a AFTER INSERT ON t WHEN new.price = 0 " + raise
+        + "CREATE TRIGGER d AFTER DELETE ON t WHEN old.price < 0 " + raise
+        + "CREATE TRIGGER u AFTER UPDATE ON t WHEN new.price < 0 " + raise);
+    const std::vector<std::string> before = Rows(made.Path(), "SELECT * FROM t");
+    const auto expectRefused = [&](Document& document, const char* row) {
+        const std::size_t changes = document.ChangeCount();
+        EXPECT_EQ(MessageOfSave(document), std::string(row) + ": no");
+        EXPECT_EQ(document.ChangeCount(), changes) << "they are still here";
+        EXPECT_EQ(Rows(made.Path(), "SELECT * FROM t"), before);
+    };
+    Document document = Opened(made.Path());
+    const int bad = Add(document, { u"5", u"-1" });
+    Add(document, { u"6", u"60" });
+    Add(document, { u"7", u"70" });
+    expectRefused(document, "row +1");
+    document.Change(bad, 1, u"0");
+    expectRefused(document, "row +1");
+    document.RemoveRow(bad);
+    for (const int row : { 0, 1, 2 })
+        document.RemoveRow(row);
+    expectRefused(document, "row 2");
+    document.RestoreRow(1);
+    document.Change(1, 0, u"20");
+    document.Change(3, 0, u"40");
+    document.Change(3, 1, u"41");
+    expectRefused(document, "row 2");
+    document.Change(1, 1, u"20");
+    EXPECT_EQ(MessageOfSave(document), "saved");
+    EXPECT_THAT(Rows(made.Path(), "SELECT * FROM t"), ElementsAre("20|20", "40|41", "6|60", "7|70"));
+}
+
+INSTANTIATE_TEST_SUITE_P(, SqliteRowsRefused, testing::Values("ABORT", "FAIL", "ROLLBACK"),
+    [](const auto& way) { return std::string(way.param); });
+
+TEST(SqliteRows, AreAddedAllOrNoneWhenTheDiskIsFull)
+{
+    MadeDatabase made(ManyRows(2000));
+    made.CloseWriter();
+    std::filesystem::permissions(made.Folder(), std::filesystem::perms(0777));
+    std::filesystem::permissions(made.Path(), std::filesystem::perms(0666));
+    const std::string message = AsOrdinaryUser([&] {
+        Document document = Opened(made.Path());
+        for (int row = 0; row < 6000; ++row) // more than the engine keeps in memory
+            Add(document, { std::u16string(1, u'1'), std::u16string(400, u'x') });
+        ::signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit { 400'000, 400'000 };
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        const std::string told = MessageOfSave(document);
+        return (told.ends_with("(disk I/O error)") ? "failed" : told)
+            + "; changes: " + std::to_string(document.ChangeCount());
+    });
+    EXPECT_EQ(message, "failed; changes: 6000");
+    EXPECT_THAT(Rows(made.Path(), "SELECT count(*), max(length(text)) FROM t"), ElementsAre("2000|100"));
+    EXPECT_THAT(Rows(made.Path(), "SELECT * FROM pragma_integrity_check"), ElementsAre("'ok'"));
 }

@@ -60,6 +60,10 @@ public:
     Statement Prepare(std::string_view sql) const;
     // A statement that gives no rows worth reading.
     void Execute(std::string_view sql);
+    // Some errors end a transaction and take all of it back; what is changed after that is changed at once.
+    bool IsInTransaction() const;
+    // In a transaction, whether a foreign key refers to nothing so far.
+    bool HasBrokenReferences() const;
 
 private:
     struct Closer {

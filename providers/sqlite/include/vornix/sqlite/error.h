@@ -16,6 +16,7 @@ enum class ErrorKind {
     NotAQuery, // the statement is fine but gives no rows to show, or would change something
     TooLong, // a value is longer than the library can hand over
     NoRoom, // the disk is full
+    Constraint, // the table, a foreign key or a trigger does not take the change
     Stopped, // the progress function said so
     Other,
 };

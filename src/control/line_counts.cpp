@@ -1,19 +1,9 @@
 // How many rows and columns there are. Lines come and go at the end; fixed ones at the outside.
 #include "automation/checked.h"
 #include "control/control.h"
+#include "control/line_count.h"
 
 namespace vornix {
-
-namespace {
-
-// Fixed lines cannot be fewer than none: their lines would have to come from before the table.
-void RequireCount(i16 count)
-{
-    if (count < 0)
-        RaiseError(ErrorNumber::SubscriptOutOfRange);
-}
-
-} // namespace
 
 i16 Vornix::Rows() const
 {

@@ -43,25 +43,31 @@ Size AutoSize::CalcRectText(int row, int col) const
 
 void AutoSize::AdjustHeight(int row, std::optional<int> col, bool alsoWidth)
 {
-    const GridStore& store = context_.store;
     LayoutEngine& layout = context_.layout;
-    TextMeasure measure(store, context_.container);
-    const int last = col.value_or(store.LastColIndex());
-    int best = 0;
     bool widened = false;
-    for (int at = col.value_or(0); at <= last; ++at) {
-        const CellIndex parent = context_.spans.ParentOf(row, at);
-        best = std::max(best, HeightFor(measure, row, parent, alsoWidth, widened));
-        at = LastCovered(at, CellAt(parent).ColSpan());
-    }
+    const int needed = NeededHeight(row, col, alsoWidth, widened);
     layout.MeasureIfDirty();
-    best = std::min(best, layout.HeightLimit(row));
-    if (widened || row < store.FixedRows())
+    const int best = std::min(needed, layout.HeightLimit(row));
+    if (widened || row < context_.store.FixedRows())
         layout.MarkMetricsDirty();
     if (best != 0)
         OfferHeight(row, best);
     else if (widened)
         context_.repainter.RecalcLayout(false);
+}
+
+int AutoSize::NeededHeight(int row, std::optional<int> col, bool alsoWidth, bool& widened)
+{
+    const GridStore& store = context_.store;
+    TextMeasure measure(store, context_.container);
+    const int last = col.value_or(store.LastColIndex());
+    int best = 0;
+    for (int at = col.value_or(0); at <= last; ++at) {
+        const CellIndex parent = context_.spans.ParentOf(row, at);
+        best = std::max(best, HeightFor(measure, row, parent, alsoWidth, widened));
+        at = LastCovered(at, CellAt(parent).ColSpan());
+    }
+    return best;
 }
 
 int AutoSize::HeightFor(TextMeasure& measure, int row, CellIndex parent, bool alsoWidth, bool& widened)
@@ -73,7 +79,8 @@ int AutoSize::HeightFor(TextMeasure& measure, int row, CellIndex parent, bool al
     measure.MeasureCellText(parent.row, parent.col, store.ColumnAt(parent.col).Format, rect);
     // The span's other rows carry part of the text.
     int height = rect.bottom;
-    for (int other = parent.row; other <= LastCoveredCell(store, parent.row, parent.col).row; ++other) {
+    const int lastRow = LastCoveredCell(store, parent.row, parent.col).row;
+    for (int other = parent.row; other <= lastRow; ++other) {
         if (other != row)
             height -= store.HeightOf(other);
     }
@@ -123,26 +130,32 @@ void AutoSize::StoreHeight(int row, i16 height)
 
 void AutoSize::AdjustWidth(int col, std::optional<int> row)
 {
-    const GridStore& store = context_.store;
     LayoutEngine& layout = context_.layout;
-    const bool isTitled = layout.Settings.CaptionEnabled;
-    if (isTitled && row == 0)
+    if (layout.Settings.CaptionEnabled && row == 0)
         return;
+    const int needed = NeededWidth(col, row);
+    if (needed == 0)
+        return;
+    layout.MeasureIfDirty();
+    if (col < layout.FirstScrollCol())
+        layout.MarkMetricsDirty();
+    OfferWidth(col, std::min(needed, layout.WidthLimit(col)));
+}
+
+// Without a row of all of them, but for the title's.
+int AutoSize::NeededWidth(int col, std::optional<int> row) const
+{
+    const GridStore& store = context_.store;
     TextMeasure measure(store, context_.container);
+    const int first = context_.layout.Settings.CaptionEnabled ? 1 : 0;
     const int last = row.value_or(store.LastRowIndex());
     int best = 0;
-    for (int at = row.value_or(isTitled ? 1 : 0); at <= last; ++at) {
+    for (int at = row.value_or(first); at <= last; ++at) {
         const CellIndex parent = context_.spans.ParentOf(at, col);
         best = std::max(best, WidthFor(measure, col, parent));
         at = LastCovered(at, CellAt(parent).RowSpan());
     }
-    if (best == 0)
-        return;
-    layout.MeasureIfDirty();
-    best = std::min(best, layout.WidthLimit(col));
-    if (col < layout.FirstScrollCol())
-        layout.MarkMetricsDirty();
-    OfferWidth(col, best);
+    return best;
 }
 
 int AutoSize::WidthFor(TextMeasure& measure, int col, CellIndex parent) const
@@ -163,7 +176,8 @@ int AutoSize::WidthFor(TextMeasure& measure, int col, CellIndex parent) const
     }
     width = rect.right + SidesOf(cell);
     // The span's other columns carry part of the text.
-    for (int other = parent.col; other <= LastCoveredCell(store, parent.row, parent.col).col; ++other) {
+    const int lastCol = LastCoveredCell(store, parent.row, parent.col).col;
+    for (int other = parent.col; other <= lastCol; ++other) {
         if (other != col)
             width -= store.WidthOf(other);
     }
@@ -199,8 +213,8 @@ void AutoSize::AutoSizeRows(int lines)
     if (lines < 1)
         return;
     GridStore& store = context_.store;
-    TextMeasure measure(store, context_.container);
-    const int needed = measure.HeightOfLines(store.Defaults.Font, lines) + SmallestExtent;
+    const int needed
+        = TextMeasure(store, context_.container).HeightOfLines(store.Defaults.Font, lines) + SmallestExtent;
     if (needed > 0)
         store.Defaults.DefaultHeight = ToI16(needed);
     const i16 height = store.Defaults.DefaultHeight;

@@ -1,7 +1,8 @@
 // Rows and columns that take the size of what their cells hold, as the host has the last word on. Pixels; internal
 // indices, those outside the store are error 9.
 //
-// Handlers of ResizeRow and ResizeCol may do anything, closing the control included: the line is tested anew behind them.
+// Handlers of ResizeRow and ResizeCol may do anything, closing the control included: the line is tested anew behind
+// them.
 #pragma once
 
 #include "layout/layout_engine.h"
@@ -43,6 +44,10 @@ public:
     void AutoSizeRows(int lines);
 
 private:
+    // The most that the cells ask for; the surface that they are measured on is gone behind it, as the host may change
+    // the table then.
+    int NeededHeight(int row, std::optional<int> col, bool alsoWidth, bool& widened);
+    int NeededWidth(int col, std::optional<int> row) const;
     // What one cell of a row or column asks of it, measured at its span's parent.
     int HeightFor(TextMeasure& measure, int row, CellIndex parent, bool alsoWidth, bool& widened);
     int WidthFor(TextMeasure& measure, int col, CellIndex parent) const;

@@ -8,7 +8,7 @@ namespace vornix {
 
 namespace {
 
-// Underline, strike-through and character set are left out: they do not change a text's size.
+// Underline, strike-through and character set are left out of what is measured.
 FontDescription PlainFont(std::u16string_view face, int points, bool bold, bool italic, int twipsPerPixelY)
 {
     FontDescription font;

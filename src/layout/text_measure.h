@@ -18,8 +18,8 @@ public:
     TextMeasure(const GridStore& store, Container& container);
 
     // Lays the text of a cell out in `rect`, after what `pattern` makes of it unless it is empty: the right and bottom
-    // edges take what the text needs. Without the word ellipsis, which would make every text fit. Raises what formatting
-    // the text raises.
+    // edges take what the text needs. Without the word ellipsis, which would make every text fit. Raises what
+    // formatting the text raises.
     void MeasureCellText(int row, int col, std::u16string_view pattern, Rect& rect);
     // The text measured last once more, in this rectangle and with no flag at all: nothing is measured.
     void DrawAgain(Rect& rect) { surface_->DrawText(text_, rect, 0); }

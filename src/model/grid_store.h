@@ -9,6 +9,7 @@
 #include "model/cell_block.h"
 #include "model/column_settings.h"
 #include "model/format_table.h"
+#include "model/gap_array.h"
 #include "model/grid_defaults.h"
 #include "vornix/types.h"
 
@@ -137,6 +138,12 @@ public:
     void ShiftColsUp(int position, int count);
     // Hidden and SavedHeight of the rows stay as they were.
     void InitRows(int first, int last);
+    // New rows, as InitRows makes them, in front of one that is not fixed, or of the filler; Hidden and SavedHeight
+    // stay with the places, for the rows that move up take theirs along as well. `Rows` counts them. Failing changes
+    // nothing.
+    void InsertRows(int position, int count);
+    // One and more rows from `position` on, not the filler; `Rows` counts them no more. Needs no memory.
+    void DeleteRows(int position, int count);
     void InitFixedRows(int first, int last);
     // Key and span of the cells stay.
     void InitCols(int first, int last);
@@ -158,6 +165,7 @@ private:
     CellBlock NewRowCells();
     CellBlock NewFixedRowCells();
     void ResetLine(Row& row, i16 height) const;
+    void MakeNew(Row& row, const CellBlock& cells) const;
     void ResetLine(Column& column, i16 width) const;
     void BuildColumns();
     void BuildRows();
@@ -169,7 +177,7 @@ private:
     // Frees the numbers of formats that nothing uses any more, when many new ones have come.
     void SweepFormats();
 
-    std::vector<Row> rows_;
+    GapArray<Row> rows_;
     std::vector<Column> columns_;
     FormatTable formats_;
     ColumnSettings* columnSettings_ = nullptr;

@@ -32,7 +32,7 @@ void GridStore::InitGridStore(const SystemColors& colors)
     if (maxRow < 0 || maxCol < 0 || fixedRowCount_ < 0)
         RaiseError(ErrorNumber::SubscriptOutOfRange);
     OrOutOfMemory([&] {
-        std::vector<Row> rows(static_cast<std::size_t>(maxRow) + 1);
+        GapArray<Row> rows(static_cast<std::size_t>(maxRow) + 1);
         std::vector<Column> columns(static_cast<std::size_t>(maxCol) + 1);
         const CellBlock blank(maxCol + 1);
         for (Row& row : rows)
@@ -123,13 +123,16 @@ void GridStore::InitRows(int first, int last)
     if (first > last || first < fixedRowCount_)
         return;
     const CellBlock cells = NewRowCells();
-    for (int index = first; index <= last; ++index) {
-        Row& row = RowAt(index);
-        ResetLine(row, Defaults.DefaultHeight);
-        row.RecordPos = 0;
-        row.NextSkip = row.PrevSkip = 0;
-        row.Cells = cells;
-    }
+    for (int row = first; row <= last; ++row)
+        MakeNew(RowAt(row), cells);
+}
+
+void GridStore::MakeNew(Row& row, const CellBlock& cells) const
+{
+    ResetLine(row, Defaults.DefaultHeight);
+    row.RecordPos = 0;
+    row.NextSkip = row.PrevSkip = 0;
+    row.Cells = cells;
 }
 
 void GridStore::InitFixedRows(int first, int last)

@@ -70,14 +70,9 @@ void GridStore::ResizeRowStore(int newMaxRow)
     const std::size_t oldTop = Subscript(maxRow_, RowArraySize());
     if (newTop < oldTop) {
         rows_[newTop] = std::move(rows_[oldTop]);
-        rows_.resize(newTop + 1);
-        if (rows_.capacity() > rows_.size() * 4)
-            rows_.shrink_to_fit();
+        rows_.Resize(newTop + 1);
     } else if (newTop > oldTop) {
-        OrOutOfMemory([&] {
-            rows_.reserve(newTop + 1); // no slack: a count that changes is rarely followed by another
-            rows_.resize(newTop + 1);
-        });
+        OrOutOfMemory([&] { rows_.Resize(newTop + 1); });
         rows_[newTop] = rows_[oldTop];
         // The rows between have cells from the start, whatever these show until the caller fills them.
         for (std::size_t row = oldTop + 1; row < newTop; ++row)
@@ -127,6 +122,34 @@ void GridStore::ShiftRowsDown(int destination, int source)
 void GridStore::ShiftRowsUp(int position, int count)
 {
     ShiftUp(rows_, position, count);
+}
+
+void GridStore::InsertRows(int position, int count)
+{
+    const i16 rows = ToI16(rowCount_ + count);
+    const i16 maxRow = ToI16(fixedRowCount_ + rows);
+    const CellBlock cells = NewRowCells();
+    OrOutOfMemory([&] { rows_.Insert(Subscript(position, RowArraySize()), static_cast<std::size_t>(count)); });
+    for (int row = position; row < position + count; ++row) {
+        MakeNew(RowAt(row), cells);
+        if (row > maxRow_)
+            continue;
+        const Row& here = RowAt(row + count);
+        RowAt(row).Hidden = here.Hidden;
+        RowAt(row).SavedHeight = here.SavedHeight;
+    }
+    rowCount_ = rows;
+    maxRow_ = maxRow;
+    RefreshLastIndices();
+}
+
+void GridStore::DeleteRows(int position, int count)
+{
+    CheckedIndex(position + count - 1, maxRow_);
+    rows_.Remove(Subscript(position, RowArraySize()), static_cast<std::size_t>(count));
+    rowCount_ = ToI16(rowCount_ - count);
+    maxRow_ = ToI16(fixedRowCount_ + rowCount_);
+    RefreshLastIndices();
 }
 
 void GridStore::ShiftColsDown(int destination, int source)

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <unordered_map>
-#include <vector>
 
 namespace vornix {
 
@@ -52,7 +51,7 @@ inline constexpr int NoPrefetch = -1;
 // Runs `rewrite` on the cells of rows first..last, up to the end of the array and then with error 9. `prefetchCol` is
 // the one column that is touched, if it is one.
 template <typename Rewrite>
-void RewriteBlocks(std::vector<Row>& rows, int first, int last, int prefetchCol, const Rewrite& rewrite)
+void RewriteBlocks(GapArray<Row>& rows, int first, int last, int prefetchCol, const Rewrite& rewrite)
 {
     // Far enough ahead to cover a trip to memory.
     constexpr int PrefetchDistance = 64;

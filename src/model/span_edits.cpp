@@ -60,7 +60,7 @@ void SpanEdits::Rebuild(const SpanDirection& along, CellIndex parent, int length
     for (int across = firstAcross; across < endAcross; ++across)
         for (int place = along.Place(parent); place < end; ++place)
             LinkToParent(store_, along.At(across, place), parent);
-    along.Store(store_.EditCell(parent.row, parent.col), ToI16(length));
+    along.Store(store_.EditCell(parent.row, parent.col), ToI16(end - along.Place(parent)));
 }
 
 void SpanEdits::GrowOver(const SpanDirection& along, int position, int count)

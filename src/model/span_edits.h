@@ -37,7 +37,7 @@ private:
     int Length(const SpanDirection& along, CellIndex parent) const;
     int LengthAcross(const SpanDirection& along, CellIndex parent) const;
     int End(const SpanDirection& along, CellIndex parent) const;
-    // Stores another length, and the way to the parent in all cells of the rectangle.
+    // Stores another length, as far as the store goes, and the way to the parent in all cells of the rectangle.
     void Rebuild(const SpanDirection& along, CellIndex parent, int length);
 
     GridStore& store_;

@@ -11,11 +11,7 @@ namespace vornix {
 
 void StructureEdit::InsertRows(int position, int count)
 {
-    const i16 rows = ToI16(store_.Rows() + count);
-    store_.ResizeRowStore(ToI16(store_.FixedRows() + rows));
-    store_.StoreRows(rows);
-    store_.ShiftRowsUp(position, count);
-    store_.InitRows(position, position + count - 1);
+    store_.InsertRows(position, count);
     spanEdits_.GrowOverRows(position, count);
     hidden_.RelinkRows(position, position + count - 1);
 }
@@ -36,18 +32,16 @@ void StructureEdit::InsertCols(int position, int count)
 
 void StructureEdit::DeleteRows(int position, int count)
 {
-    CheckedIndex(ToI16(position + count - 1), store_.MaxRow());
+    CheckedIndex(position + count - 1, store_.MaxRow());
     const std::vector<CellIndex> crossing = spanEdits_.CutRows(position, count);
-    store_.ShiftRowsDown(position, position + count);
-    store_.StoreRows(ToI16(store_.Rows() - count));
-    store_.ResizeRowStore(store_.FixedRows() + store_.Rows());
+    store_.DeleteRows(position, count);
     spanEdits_.CloseOverRows(crossing, count);
     hidden_.RelinkRows(position, position - 1);
 }
 
 void StructureEdit::DeleteCols(int position, int count)
 {
-    CheckedIndex(ToI16(position + count - 1), store_.MaxCol());
+    CheckedIndex(position + count - 1, store_.MaxCol());
     const std::vector<CellIndex> crossing = spanEdits_.CutCols(position, count);
     store_.ShiftColsDown(position, position + count);
     store_.StoreCols(ToI16(store_.Cols() - count));

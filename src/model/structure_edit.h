@@ -17,9 +17,9 @@ public:
     {
     }
 
-    // `count` new lines in front of a line that is not fixed, or of the filler. New rows keep the mark Hidden that stands
-    // in their places, new columns all that InitCols does not write; neither keeps merged cells. Error 6 for more lines
-    // than 16 bits count, before anything has changed.
+    // `count` new lines in front of a line that is not fixed, or of the filler. New rows keep the mark Hidden that
+    // stands in their places, new columns all that InitCols does not write; neither keeps merged cells. Error 6 for
+    // more lines than 16 bits count, before anything has changed.
     void InsertRows(int position, int count);
     void InsertCols(int position, int count);
     // Lines that are not fixed; error 9, and nothing has changed, where they go on behind the last one.

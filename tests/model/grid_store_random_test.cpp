@@ -74,6 +74,20 @@ protected:
         }
     }
 
+    void InsertOrDeleteRows()
+    {
+        const int position = random_.Between(slow_->fixedRows, slow_->UpperRow());
+        const int count = random_.Between(0, random_.OneIn(10) ? 100 : 3);
+        if (random_.OneIn(2) && slow_->rowCount < 200) {
+            store_.InsertRows(position, count);
+            return slow_->InsertRows(position, count);
+        }
+        if (count == 0 || position + count > slow_->UpperRow())
+            return;
+        store_.DeleteRows(position, count);
+        slow_->DeleteRows(position, count);
+    }
+
     void Init()
     {
         const int row = AnyRow();
@@ -210,7 +224,9 @@ protected:
 
     void Step()
     {
-        switch (random_.Between(0, 9)) {
+        switch (random_.Between(0, 10)) {
+        case 10:
+            return InsertOrDeleteRows();
         case 0:
             return ChangeACount();
         case 1:

@@ -110,6 +110,25 @@ TEST(OutOfMemoryTest, ResizingRows)
     EXPECT_EQ(FailuresOf([](GridStore& store) { ChangeRows(store, 2); }), 0) << "fewer rows need no memory";
 }
 
+TEST(OutOfMemoryTest, InsertingAndDeletingRows)
+{
+    EXPECT_GT(FailuresOf([](GridStore& store) { store.InsertRows(2, 500); }), 1);
+    EXPECT_EQ(FailuresOf([](GridStore& store) { store.DeleteRows(2, 3); }), 0) << "fewer rows need no memory";
+    for (int allocations = 0; allocations < 2; ++allocations) {
+        const auto store = FilledStore();
+        const int before = store->MaxRow();
+        ASSERT_EQ(ErrorOf([&] {
+            const LimitedMemory limited(allocations);
+            store->InsertRows(2, 500);
+        }),
+            ErrorNumber::OutOfMemory)
+            << allocations;
+        EXPECT_EQ(store->MaxRow(), before);
+        EXPECT_EQ(store->Rows(), before - store->FixedRows());
+        EXPECT_EQ(store->CellAt(3, 1).Text(), u"a text that is long enough for the heap");
+    }
+}
+
 TEST(OutOfMemoryTest, ResizingColumns)
 {
     EXPECT_GT(FailuresOf([](GridStore& store) { store.ResizeColStore(20); }), 3);

@@ -54,6 +54,21 @@ void SlowStore::ChangeRows(int n)
     rowCount = n;
 }
 
+void SlowStore::InsertRows(int position, int n)
+{
+    rowCount += n;
+    ResizeRowStore(fixedRows + rowCount);
+    ShiftRowsUp(position, n);
+    InitRows(position, position + n - 1);
+}
+
+void SlowStore::DeleteRows(int position, int n)
+{
+    ShiftRowsDown(position, position + n);
+    rowCount -= n;
+    ResizeRowStore(fixedRows + rowCount);
+}
+
 void SlowStore::ChangeCols(int n)
 {
     const int old = colCount;

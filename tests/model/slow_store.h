@@ -68,6 +68,8 @@ public:
     SlowCell& CellAt(int row, int col) { return RowAt(row).cells.at(static_cast<std::size_t>(col)); }
 
     void ChangeRows(int n);
+    void InsertRows(int position, int n);
+    void DeleteRows(int position, int n);
     void ChangeCols(int n);
     void ChangeFixedRows(int n);
     void ChangeFixedCols(int n);

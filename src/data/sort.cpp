@@ -22,26 +22,26 @@ i16 GapAbove(int rows)
 }
 
 // One pass: every row walks forward over those, a gap apart, that belong behind it.
-void InsertByGap(RowOrder& rows, const SortKeys& keys, int gap)
+void InsertByGap(RowOrder& rows, int gap)
 {
     const auto at = [&](int place) -> RowSortKey& { return rows[static_cast<std::size_t>(place)]; };
     const int count = static_cast<int>(rows.size());
     for (int i = gap; i < count; ++i) {
         const RowSortKey pivot = at(i);
         int j = i - gap;
-        for (; j >= 0 && keys.IsBehind(at(j), pivot); j -= gap)
+        for (; j >= 0 && at(j).IsBehind(pivot); j -= gap)
             at(j + gap) = at(j);
         at(j + gap) = pivot;
     }
 }
 
-void ShellSort(RowOrder& rows, const SortKeys& keys, int firstRow)
+void ShellSort(RowOrder& rows, int firstRow)
 {
     i16 gap = GapAbove(static_cast<int>(rows.size()));
     do {
         gap /= 3;
         ToI16(firstRow + gap); // where the pass begins
-        InsertByGap(rows, keys, gap);
+        InsertByGap(rows, gap);
     } while (gap != 1);
 }
 
@@ -57,15 +57,15 @@ std::vector<bool> PartingRows(const RowOrder& rows, int firstRow)
     return isParting;
 }
 
-// The spans whose children lie in this row and whose parents above it. Rows that were exchanged may hold links that lead
-// nowhere: these stay as they are.
+// The spans whose children lie in this row and whose parents above it. Rows that were exchanged may hold links that
+// lead nowhere: these stay as they are.
 void RemoveSpansFromAbove(const GridStore& store, Spans& spans, int row)
 {
     for (int col = 0; col < store.MaxCol(); ++col) {
         if (store.CellAt(row, col).ParentRow() >= 0)
             continue;
         const CellIndex parent = spans.ParentOf(row, col);
-        if (store.ContainsRow(parent.row) && store.ContainsCol(parent.col))
+        if (parent != CellIndex { row, col })
             spans.RemoveSpan(parent.row, parent.col);
     }
 }
@@ -107,9 +107,8 @@ void MoveRows(GridStore& store, RowOrder& rows, int firstRow)
 void SortRows(GridStore& store, Spans& spans, HiddenLines& hidden, std::span<const i16> cols, const Locale& locale)
 {
     const int firstRow = store.FixedRows();
-    const SortKeys keys(store, cols, locale);
-    RowOrder rows = keys.Rows();
-    ShellSort(rows, keys, firstRow);
+    RowOrder rows = SortKeysOf(store, cols, locale);
+    ShellSort(rows, firstRow);
     RemoveTornSpans(store, spans, rows, firstRow);
     MoveRows(store, rows, firstRow);
     hidden.RebuildChain();

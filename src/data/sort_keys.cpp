@@ -7,11 +7,10 @@
 
 #include <algorithm>
 #include <bit>
-#include <iterator>
 #include <limits>
 #include <string>
 #include <string_view>
-#include <unordered_set>
+#include <utility>
 
 namespace vornix {
 
@@ -33,7 +32,8 @@ void SortKeyList::Put(int col, int position)
 
 namespace {
 
-using Numbers = std::vector<std::uint64_t>;
+// Places in an order, from 0, one for each row; the same where values are equal.
+using Places = std::vector<std::uint32_t>;
 
 // Stands for every text that is no date.
 constexpr std::u16string_view NoDateText = u"0000-01-01";
@@ -50,133 +50,153 @@ double NumberOrZero(std::u16string_view text, const Locale& locale)
     return NumberIn(text, locale).value_or(0);
 }
 
-// A number that is larger exactly when the value is.
-std::uint64_t Ordered(double value)
+template <typename Value> Places PlacesOf(const std::vector<Value>& values)
 {
-    constexpr std::uint64_t sign = std::uint64_t { 1 } << 63;
-    const auto bits = std::bit_cast<std::uint64_t>(value == 0 ? 0.0 : value); // there are two zeros
-    return bits & sign ? ~bits : bits | sign;
+    std::vector<Value> order = values;
+    std::sort(order.begin(), order.end());
+    order.erase(std::unique(order.begin(), order.end()), order.end());
+    Places places;
+    places.reserve(values.size());
+    for (const Value value : values)
+        places.push_back(static_cast<std::uint32_t>(std::ranges::lower_bound(order, value) - order.begin()));
+    return places;
 }
 
-// One column's values, row by row.
-class ColumnValues {
+// What the rows hold in one column, one text behind the other in one piece of memory.
+class ColumnTexts {
 public:
-    ColumnValues(const GridStore& store, int col, const Locale& locale)
-        : store_(store)
-        , locale_(locale)
+    ColumnTexts(const Column& column, i16 col, std::size_t rowCount)
+        : column_(column)
         , col_(col)
-        , column_(store.ColumnAt(col))
     {
+        ends_.reserve(rowCount);
     }
 
-    Numbers Build()
+    void Take(const CellBlock& cells)
+    {
+        const Cell& cell = cells.At(col_);
+        pool_ += column_.SortUseKey ? cell.Key() : cell.TextView(scratch_);
+        ends_.push_back(pool_.size());
+    }
+
+    Places PlacesOfRows(const Locale& locale)
     {
         switch (column_.SortType) {
         case vxAlphaNum:
-            return Texts();
+            for (char16_t& unit : pool_)
+                unit = locale.ToLower(unit);
+            return TextRanks(Views(), locale);
         case vxNumeric:
-            return Parsed(NumberOrZero);
+            return PlacesByValue(NumberOrZero, locale);
         case vxDate:
-            return Parsed(DateIn);
+            return PlacesByValue(DateIn, locale);
         default:
-            return Numbers(static_cast<std::size_t>(store_.Rows()));
+            return Places(ends_.size());
         }
     }
+
+    bool IsDescending() const { return column_.SortCriteria == vxDesc; }
 
 private:
-    // Holds until the next call.
-    std::u16string_view SourceText(int row)
-    {
-        const Cell& cell = store_.CellAt(row, col_);
-        return column_.SortUseKey ? cell.Key() : cell.TextView(scratch_);
-    }
-
     // Each different text is parsed once.
-    template <typename Parse> Numbers Parsed(const Parse& parse)
+    Places PlacesByValue(double (*parse)(std::u16string_view, const Locale&), const Locale& locale) const
     {
-        const DistinctTexts distinct(ReadTexts([](char16_t unit) { return unit; }));
-        Numbers parsed;
-        parsed.reserve(distinct.texts.size());
+        const DistinctTexts distinct(Views());
+        std::vector<double> values;
+        values.reserve(distinct.texts.size());
         for (const std::u16string_view text : distinct.texts)
-            parsed.push_back(Ordered(parse(text, locale_)));
-        Numbers numbers;
-        numbers.reserve(distinct.numberOf.size());
+            values.push_back(parse(text, locale));
+        const Places placesOfTexts = PlacesOf(values);
+        Places places;
+        places.reserve(ends_.size());
         for (const std::uint32_t number : distinct.numberOf)
-            numbers.push_back(parsed[number]);
-        return numbers;
+            places.push_back(placesOfTexts[number]);
+        return places;
     }
 
-    Numbers Texts()
+    std::vector<std::u16string_view> Views() const
     {
-        const auto ranks = TextRanks(ReadTexts([&](char16_t unit) { return locale_.ToLower(unit); }), locale_);
-        return { ranks.begin(), ranks.end() };
-    }
-
-    // All in one piece of memory; views are made once it does not move any more.
-    template <typename Change> std::vector<std::u16string_view> ReadTexts(const Change& change)
-    {
-        std::vector<std::size_t> ends;
-        ends.reserve(static_cast<std::size_t>(store_.Rows()));
-        for (int row = store_.FixedRows(); row < store_.MaxRow(); ++row) {
-            for (const char16_t unit : SourceText(row))
-                pool_ += change(unit);
-            ends.push_back(pool_.size());
-        }
-        std::vector<std::u16string_view> texts;
-        texts.reserve(ends.size());
+        std::vector<std::u16string_view> views;
+        views.reserve(ends_.size());
         std::size_t begin = 0;
-        for (const std::size_t end : ends) {
-            texts.push_back(std::u16string_view(pool_).substr(begin, end - begin));
-            begin = end;
-        }
-        return texts;
+        for (const std::size_t end : ends_)
+            views.push_back(std::u16string_view(pool_).substr(std::exchange(begin, end), end - begin));
+        return views;
     }
 
-    const GridStore& store_;
-    const Locale& locale_;
-    int col_;
     const Column& column_;
+    i16 col_;
     std::u16string scratch_;
     std::u16string pool_;
+    std::vector<std::size_t> ends_;
 };
 
-// Each column once: where it comes again, rows that it can tell apart have been told apart.
-std::vector<i16> WithoutRepeats(std::span<const i16> cols)
+// Each column once: where it comes again, rows that it can tell apart have been told apart. All are read in one walk
+// over the rows.
+std::vector<ColumnTexts> ReadTexts(const GridStore& store, std::span<const i16> cols)
 {
-    std::vector<i16> once;
-    std::unordered_set<i16> known;
-    std::copy_if(cols.begin(), cols.end(), std::back_inserter(once), [&](i16 col) { return known.insert(col).second; });
-    return once;
+    const auto rowCount = static_cast<std::size_t>(store.Rows());
+    std::vector<ColumnTexts> columns;
+    for (std::size_t key = 0; key < cols.size(); ++key) {
+        const Column& column = store.ColumnAt(cols[key]);
+        const std::span<const i16> before = cols.first(key);
+        if (std::ranges::find(before, cols[key]) == before.end())
+            columns.emplace_back(column, cols[key], rowCount);
+    }
+    for (int row = store.FixedRows(); row < store.MaxRow(); ++row)
+        for (ColumnTexts& column : columns)
+            column.Take(store.RowAt(row).Cells);
+    return columns;
 }
+
+// A row's places in several columns, one above the other in the bits of one number.
+class PackedPlaces {
+public:
+    explicit PackedPlaces(std::size_t rowCount)
+        : numbers_(rowCount)
+    {
+    }
+
+    // Of a column less significant than those before.
+    void Append(const Places& places, bool isDescending)
+    {
+        const std::uint32_t last = *std::ranges::max_element(places);
+        const auto bits = static_cast<int>(std::bit_width(last));
+        if (usedBits_ + bits > std::numeric_limits<std::uint64_t>::digits)
+            Condense();
+        for (std::size_t row = 0; row < numbers_.size(); ++row)
+            numbers_[row] = numbers_[row] << bits | (isDescending ? last - places[row] : places[row]);
+        usedBits_ += bits;
+    }
+
+    std::uint64_t operator[](std::size_t row) const { return numbers_[row]; }
+
+private:
+    // The order alone needs no more bits than the number of rows.
+    void Condense()
+    {
+        const Places places = PlacesOf(numbers_);
+        numbers_.assign(places.begin(), places.end());
+        usedBits_ = static_cast<int>(std::bit_width(*std::ranges::max_element(numbers_)));
+    }
+
+    std::vector<std::uint64_t> numbers_;
+    int usedBits_ = 0;
+};
 
 } // namespace
 
-SortKeys::SortKeys(const GridStore& store, std::span<const i16> cols, const Locale& locale)
-    : firstRow_(store.FixedRows())
-    , rowCount_(static_cast<std::size_t>(store.Rows()))
+std::vector<RowSortKey> SortKeysOf(const GridStore& store, std::span<const i16> cols, const Locale& locale)
 {
-    if (rowCount_ == 0)
-        return;
-    OrOutOfMemory([&] {
-        const std::vector<i16> keyCols = WithoutRepeats(cols);
-        keyCount_ = keyCols.size();
-        numbers_.resize(rowCount_ * keyCount_);
-        for (std::size_t key = 0; key < keyCount_; ++key) {
-            const Numbers values = ColumnValues(store, keyCols[key], locale).Build();
-            // The complement turns an order around.
-            const bool isDescending = store.ColumnAt(keyCols[key]).SortCriteria == vxDesc;
-            for (std::size_t row = 0; row < rowCount_; ++row)
-                numbers_[row * keyCount_ + key] = isDescending ? ~values[row] : values[row];
-        }
-    });
-}
-
-std::vector<RowSortKey> SortKeys::Rows() const
-{
+    if (store.Rows() == 0)
+        return {};
     return OrOutOfMemory([&] {
-        std::vector<RowSortKey> rows(rowCount_);
-        for (std::size_t row = 0; row < rowCount_; ++row)
-            rows[row] = { ToI16(firstRow_ + static_cast<int>(row)), numbers_.data() + row * keyCount_ };
+        std::vector<RowSortKey> rows(static_cast<std::size_t>(store.Rows()));
+        PackedPlaces packed(rows.size());
+        for (ColumnTexts& column : ReadTexts(store, cols))
+            packed.Append(column.PlacesOfRows(locale), column.IsDescending());
+        for (std::size_t row = 0; row < rows.size(); ++row)
+            rows[row] = { packed[row], ToI16(store.FixedRows() + static_cast<int>(row)) };
         return rows;
     });
 }

@@ -10,8 +10,8 @@
 
 namespace vornix {
 
-// The columns of a sort, the most significant first, by the internal indices they had when they were named. Columns that
-// come and go later are not followed.
+// The columns of a sort, the most significant first, by the internal indices they had when they were named. Columns
+// that come and go later are not followed.
 class SortKeyList {
 public:
     bool IsEmpty() const { return cols_.empty(); }
@@ -28,35 +28,17 @@ private:
 
 // One row while rows are sorted.
 struct RowSortKey {
+    // What it holds in all columns of the sort: larger the further behind the row belongs, the same for rows that none
+    // of the columns tells apart.
+    std::uint64_t Key = 0;
     // Where the row was when the sort began.
     i16 SourceRow = 0;
-    // A number for each column of the sort, the most significant first.
-    const std::uint64_t* Keys = nullptr;
+
+    bool IsBehind(const RowSortKey& pivot) const { return Key > pivot.Key; }
 };
 
-// What the rows that are not fixed hold in the columns of a sort, made once. Each value is a number that is larger the
-// further behind the value belongs, by type and direction of its column; a column of an unknown type has one for all.
-class SortKeys {
-public:
-    // Error 9 when there are rows to sort and a column is not there.
-    SortKeys(const GridStore& store, std::span<const i16> cols, const Locale& locale);
-
-    // One for each row, in the order of the rows. They point into this.
-    std::vector<RowSortKey> Rows() const;
-    // Whether a row belongs behind the other.
-    bool IsBehind(const RowSortKey& row, const RowSortKey& pivot) const
-    {
-        for (std::size_t key = 0; key < keyCount_; ++key)
-            if (row.Keys[key] != pivot.Keys[key])
-                return row.Keys[key] > pivot.Keys[key];
-        return false;
-    }
-
-private:
-    int firstRow_;
-    std::size_t rowCount_;
-    std::size_t keyCount_ = 0;
-    std::vector<std::uint64_t> numbers_; // those of a row together
-};
+// One for each row that is not fixed, in the order of the rows: what the columns hold, the most significant first, by
+// the type and the direction of each. Error 9 when there are rows to sort and a column is not there.
+std::vector<RowSortKey> SortKeysOf(const GridStore& store, std::span<const i16> cols, const Locale& locale);
 
 } // namespace vornix

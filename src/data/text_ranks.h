@@ -18,9 +18,9 @@ struct DistinctTexts {
     std::vector<std::uint32_t> numberOf;
 };
 
-// For each text its place among all of them: first by the beginnings of three units, then by the whole, both in the word
-// order of the locale. In that order the beginning may decide otherwise than the whole. Texts that count as equal have
-// the same place.
+// For each text its place among all of them: first by the beginnings of three units, then by the whole, both in the
+// word order of the locale. In that order the beginning may decide otherwise than the whole. Texts that count as equal
+// have the same place.
 std::vector<std::uint32_t> TextRanks(std::span<const std::u16string_view> texts, const Locale& locale);
 
 } // namespace vornix

@@ -1,10 +1,13 @@
 #include "data/sort_keys.h"
 
+#include "automation/comma_locale.h"
 #include "data/text_ranks.h"
 #include "model/store_support.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <string>
 
 namespace vornix {
 namespace {
@@ -87,9 +90,8 @@ protected:
         store->EditCell(1, 1).SetText(a);
         store->EditCell(2, 1).SetText(b);
         const i16 cols[] = { 1 };
-        const SortKeys keys(*store, cols, BuiltinLocale());
-        const std::vector<RowSortKey> rows = keys.Rows();
-        return { keys.IsBehind(rows[0], rows[1]), keys.IsBehind(rows[1], rows[0]) };
+        const std::vector<RowSortKey> rows = SortKeysOf(*store, cols, *locale);
+        return { rows[0].IsBehind(rows[1]), rows[1].IsBehind(rows[0]) };
     }
     Column& Kind() { return store->ColumnAt(1); }
 
@@ -98,13 +100,13 @@ protected:
     static constexpr std::pair<bool, bool> Equal { false, false };
 
     std::unique_ptr<GridStore> store = BuildStore(2, 2, 1, 1);
+    const Locale* locale = &BuiltinLocale();
 };
 
 TEST_F(SortKeysTest, RowsKnowWhereTheyCameFrom)
 {
     const i16 cols[] = { 1 };
-    const SortKeys keys(*store, cols, BuiltinLocale());
-    const std::vector<RowSortKey> rows = keys.Rows();
+    const std::vector<RowSortKey> rows = SortKeysOf(*store, cols, BuiltinLocale());
     ASSERT_EQ(rows.size(), 2u);
     EXPECT_EQ(rows[0].SourceRow, 1);
     EXPECT_EQ(rows[1].SourceRow, 2);
@@ -185,20 +187,57 @@ TEST_F(SortKeysTest, TheFirstDifferenceDecides)
     store->EditCell(1, 1).SetText(u"b");
     store->EditCell(2, 1).SetText(u"a");
     const i16 cols[] = { 0, 1, 0 };
-    const SortKeys keys(*store, cols, BuiltinLocale());
-    const std::vector<RowSortKey> rows = keys.Rows();
-    EXPECT_TRUE(keys.IsBehind(rows[0], rows[1]));
-    EXPECT_FALSE(keys.IsBehind(rows[1], rows[0]));
+    const std::vector<RowSortKey> rows = SortKeysOf(*store, cols, BuiltinLocale());
+    EXPECT_TRUE(rows[0].IsBehind(rows[1]));
+    EXPECT_FALSE(rows[1].IsBehind(rows[0]));
+}
+
+TEST_F(SortKeysTest, TheLocaleReadsNumbersAndDates)
+{
+    const CommaLocale comma;
+    Kind().SortType = vxNumeric;
+    EXPECT_EQ(Behind(u"1,5", u"1,25"), No) << "15 and 125";
+    locale = &comma;
+    EXPECT_EQ(Behind(u"1,5", u"1,25"), Yes);
+}
+
+// More columns than have room in the bits of one number side by side.
+TEST_F(SortKeysTest, ManyColumnsOfManyValues)
+{
+    constexpr int Cols = 12;
+    constexpr int Rows = 300;
+    const auto table = BuildStore(Rows, Cols, 0, 0);
+    std::vector<i16> cols;
+    for (int col = 0; col < Cols; ++col) {
+        cols.push_back(static_cast<i16>(col));
+        table->ColumnAt(col).SortType = vxNumeric;
+        table->ColumnAt(col).SortCriteria = col % 2 == 0 ? vxAsc : vxDesc;
+        for (int row = 0; row < Rows; ++row) {
+            const std::string digits = std::to_string(row);
+            table->EditCell(row, col).SetText(std::u16string(digits.begin(), digits.end()));
+        }
+    }
+    // Rows 0 and 1 differ in one column.
+    for (int col = 0; col < Cols; ++col) {
+        SCOPED_TRACE(col);
+        for (int other = 0; other < Cols; ++other)
+            table->EditCell(1, other).SetText(u"0");
+        table->EditCell(1, col).SetText(u"7");
+        const std::vector<RowSortKey> rows = SortKeysOf(*table, cols, BuiltinLocale());
+        EXPECT_EQ(rows[1].IsBehind(rows[0]), col % 2 == 0);
+        EXPECT_EQ(rows[0].IsBehind(rows[1]), col % 2 != 0);
+        EXPECT_TRUE(rows[Rows - 1].IsBehind(rows[1]));
+    }
 }
 
 TEST_F(SortKeysTest, AColumnThatIsNotThereIsAnError)
 {
     const i16 missing[] = { 1, 4 };
-    EXPECT_EQ(ErrorOf([&] { SortKeys(*store, missing, BuiltinLocale()); }), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(ErrorOf([&] { SortKeysOf(*store, missing, BuiltinLocale()); }), ErrorNumber::SubscriptOutOfRange);
     const i16 filler[] = { 3 };
-    EXPECT_EQ(ErrorOf([&] { SortKeys(*store, filler, BuiltinLocale()); }), 0);
+    EXPECT_EQ(ErrorOf([&] { SortKeysOf(*store, filler, BuiltinLocale()); }), 0);
     ChangeRows(*store, 0);
-    EXPECT_EQ(ErrorOf([&] { SortKeys(*store, missing, BuiltinLocale()); }), 0) << "no row asks for it";
+    EXPECT_EQ(ErrorOf([&] { SortKeysOf(*store, missing, BuiltinLocale()); }), 0) << "no row asks for it";
 }
 
 } // namespace

@@ -252,7 +252,7 @@ TEST_F(SortTest, ASpanAcrossRowsThatPartIsTakenBack)
     }
 }
 
-// As rows that were exchanged leave them behind.
+// As rows that were exchanged leave them behind: they stay as they are.
 TEST_F(SortTest, LinksThatLeadNowhereAreNoError)
 {
     Fill({ u"c", u"a", u"b" });
@@ -261,6 +261,9 @@ TEST_F(SortTest, LinksThatLeadNowhereAreNoError)
     store->EditCell(3, 2).SetRowSpan(9);
     EXPECT_EQ(ErrorOf([&] { Sort(); }), 0);
     EXPECT_THAT(Column(), ElementsAre(u"a", u"b", u"c"));
+    EXPECT_EQ(store->CellAt(3, 2).ParentRow(), -5);
+    EXPECT_EQ(store->CellAt(1, 2).ParentRow(), -1);
+    EXPECT_EQ(store->CellAt(2, 2).RowSpan(), 9);
 }
 
 } // namespace

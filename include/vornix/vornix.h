@@ -76,9 +76,9 @@ public:
     // value is the last argument. The result is empty where nothing comes back. Errors 438 for a name or a kind that
     // the control does not have, 450 for a wrong number of arguments, 445 for members that are not built yet.
     Variant Invoke(std::string_view name, InvokeKind kind, std::span<Variant> args);
-    // The last arguments by name: names[i] is that of args[args.size() - names.size() + i]. The value that a property is
-    // written with is called Value. Error 448 for a name that
-    // the member does not have, 450 for one that is given twice. By-reference arguments come back where they were given.
+    // The last arguments by name: names[i] is that of args[args.size() - names.size() + i]. The value that a property
+    // is written with is called Value. Error 448 for a name that the member does not have, 450 for one that is given
+    // twice. By-reference arguments come back where they were given.
     Variant Invoke(
         std::string_view name, InvokeKind kind, std::span<Variant> args, std::span<const std::string_view> names);
     // A member that FindMember gave, for calls that are made often.
@@ -95,8 +95,8 @@ public:
     // Come after the release.
     void Click();
     void DblClick();
-    // A code that the handlers do not set to 0 is then the grid's: arrows, Home, End and Page keys, Space and F2. They may
-    // raise ValidateRow, CellChange, Scroll and TextChange.
+    // A code that the handlers do not set to 0 is then the grid's: arrows, Home, End and Page keys, Space and F2. They
+    // may raise ValidateRow, CellChange, Scroll and TextChange.
     void KeyDown(i16& KeyCode, i16& Shift);
     void KeyPress(i16& KeyAscii);
     void KeyUp(i16& KeyCode, i16& Shift);
@@ -353,8 +353,8 @@ public:
     void SetCellsFont(i16 Row1, i16 Col1, i16 Row2, i16 Col2, const FontPtr& Value);
 
     // -- Templates --
-    // What new columns and new fixed cells start with. At design time (ambient UserMode false) existing cells are written
-    // too. Each reports itself; where nothing else is said, each also repaints, whether Redraw is on or not.
+    // What new columns and new fixed cells start with. At design time (ambient UserMode false) existing cells are
+    // written too. Each reports itself; where nothing else is said, each also repaints, whether Redraw is on or not.
 
     OleColor DefaultBkColor() const;
     void SetDefaultBkColor(OleColor Value);
@@ -439,8 +439,8 @@ public:
     void ClearVisualCell();
 
     // -- Structure --
-    // All that refers to a place follows: spans, selection, current cell, first visible lines, and the title, which keeps
-    // its cell. Selected cells are not selected any more where lines come, go or move.
+    // All that refers to a place follows: spans, selection, current cell, first visible lines, and the title, which
+    // keeps its cell. Selected cells are not selected any more where lines come, go or move.
 
     // New rows in front of a row, or with Row = Rows at the end; a span around them grows over them, and they are not
     // selected. A negative row, one behind the end and a count of 0 do nothing; a negative count is error 9. Lays out
@@ -449,20 +449,21 @@ public:
     // A new column holds in its record what stood at its place, size and look excepted: its Order is that of the column
     // it pushed aside.
     void InsertCols(i16 Col, i16 Cols = 1);
-    // Spans shrink; what a span has left below the rows gets its first cell as a parent. A negative row, one that there is
-    // not and a count of 0 do nothing; a count beyond the last row is error 9, and nothing has changed. Lays out anew.
+    // Spans shrink; what a span has left below the rows gets its first cell as a parent. A negative row, one that there
+    // is not and a count of 0 do nothing; a count beyond the last row is error 9, and nothing has changed. Lays out
+    // anew.
     void DeleteRows(i16 Row, i16 Rows = 1);
     // Without columns there is no title: CaptionEnabled is off then.
     void DeleteCols(i16 Col, i16 Cols = 1);
-    // At the end the row has the index ToRow, and those between have closed up. Height, colour and record go along, marks
-    // of hidden rows stay at their places, columns take all along. Negative indices do nothing, lines that there are not
-    // are error 9. Lay out anew.
+    // At the end the row has the index ToRow, and those between have closed up. Height, colour and record go along,
+    // marks of hidden rows stay at their places, columns take all along. Negative indices do nothing, lines that there
+    // are not are error 9. Lay out anew.
     void MoveRow(i16 Row, i16 ToRow);
     void MoveCol(i16 Col, i16 ToCol);
     // Fixed lines too. The links of merged cells go along as they are: a line leaves a span across it. The selection
-    // follows the lines, the current cell stays, an editor closes with AfterEdit. Lines before the fixed ones do nothing,
-    // those behind the last are error 9. SwapRows repaints, SwapCols lays out anew, as SwapRows does where fixed rows have
-    // another height then.
+    // follows the lines, the current cell stays, an editor closes with AfterEdit, SwapRows's before the rows change
+    // places. Lines before the fixed ones do nothing, those behind the last are error 9. SwapRows repaints, SwapCols
+    // lays out anew, as SwapRows does where fixed rows have another height then.
     void SwapRows(i16 Row1, i16 Row2);
     void SwapCols(i16 Col1, i16 Col2);
     // Text, key, picture and look; then the spans, which remove older ones in the way. Repaints.
@@ -471,29 +472,29 @@ public:
     // out where its column is written. Lay out anew.
     void CopyRow(i16 Row, i16 ToRow);
     void CopyCol(i16 Col, i16 ToCol);
-    // Texts and keys, those of fixed cells only when asked for. An open editor is emptied too, wherever it is, and writes
-    // that to its cell: raises TextChange. Refreshes the line.
+    // Texts and keys, those of fixed cells only when asked for. An open editor is emptied too, wherever it is, and
+    // writes that to its cell: raises TextChange. Refreshes the line.
     void ClearRow(i16 Row, bool AlsoFixedCells = false);
     void ClearCol(i16 Col, bool AlsoFixedCells = false);
-    // Looks and sizes of the rectangle go back to the defaults, and all that its columns say of themselves (names, masks,
-    // formats, sorting, hidden marks); contents and spans stay. Corners in any order. Lays out anew.
+    // Looks and sizes of the rectangle go back to the defaults, and all that its columns say of themselves (names,
+    // masks, formats, sorting, hidden marks); contents and spans stay. Corners in any order. Lays out anew.
     void ResetCells(i16 Row1, i16 Col1, i16 Row2, i16 Col2);
 
     // -- Selection --
-    // Rectangles of cells, ranges of columns or ranges of rows: one kind at a time. Selecting another kind drops what was
-    // selected. Ranges are not joined: a line in two of them counts twice, and is unselected only once. Lines that the
-    // table does not have may be selected, too.
+    // Rectangles of cells, ranges of columns or ranges of rows: one kind at a time. Selecting another kind drops what
+    // was selected. Ranges are not joined: a line in two of them counts twice, and is unselected only once. Lines that
+    // the table does not have may be selected, too.
 
     // False for fixed cells, and for cells of selected columns and rows.
     bool CellSelected(i16 Row, i16 Col) const;
-    // True adds a range of one line, and does nothing for a fixed line; false takes the line out of the first range that
-    // holds it. Always written; repaint.
+    // True adds a range of one line, and does nothing for a fixed line; false takes the line out of the first range
+    // that holds it. Always written; repaint.
     bool ColSelected(i16 Col) const;
     void SetColSelected(i16 Col, bool Value);
     bool RowSelected(i16 Row) const;
     void SetRowSelected(i16 Row, bool Value);
-    // True adds a range; false takes the rows out of all ranges, be it of rows or of columns. Ends in any order; a fixed
-    // row among them does nothing. Repaints.
+    // True adds a range; false takes the rows out of all ranges, be it of rows or of columns. Ends in any order; a
+    // fixed row among them does nothing. Repaints.
     void SetRowsSelected(i16 Row1, i16 Row2, bool Value);
     // Of what is selected; 0 where that is of another kind. A cell or line that lies in two ranges counts twice.
     i32 SelectCountCell() const;
@@ -513,8 +514,8 @@ public:
     // The selected line at a place among all of them; 0 where there is none. To be asked for 0 first and upward from
     // there: a smaller place than the latest gives a line in front of its range.
     i32 SelectItem(i32 index) const;
-    // Selects the lines that are not selected, of the kind that is; those that were are not any more. False, and nothing
-    // done, without selected columns or rows. Repaints.
+    // Selects the lines that are not selected, of the kind that is; those that were are not any more. False, and
+    // nothing done, without selected columns or rows. Repaints.
     bool InvertSelect();
     // Selects nothing. Lays out anew.
     void DeselectAll();
@@ -590,10 +591,11 @@ public:
     float GetScaleHeight() const;
 
     // -- Fitting to the text --
-    // Sizes in pixels that follow from what the cells hold, in their fonts and formats. AdjustHeight and AdjustWidth do not
-    // go beyond the area that shows the line, but for columns that scroll by pixels; the host has the last word on what
-    // they offer in ResizeRow or ResizeCol. A hidden line takes the size for the time it is shown, a size below 0 counts
-    // as 0. Error 6 for a size beyond 16 bits, error 9 for a line that is not there. What changes a size lays out anew.
+    // Sizes in pixels that follow from what the cells hold, in their fonts and formats. AdjustHeight and AdjustWidth do
+    // not go beyond the area that shows the line, but for columns that scroll by pixels; the host has the last word on
+    // what they offer in ResizeRow or ResizeCol. A hidden line takes the size for the time it is shown, a size below 0
+    // counts as 0. Error 6 for a size beyond 16 bits, error 9 for a line that is not there. What changes a size lays
+    // out anew.
 
     // The size that the text of one cell needs, with its padding, at the column's present width and the row's height.
     // Words break only where the cell breaks them. Changes nothing.
@@ -616,8 +618,8 @@ public:
     void SetFirstRow(i16 Value);
     i16 FirstCol() const;
     void SetFirstCol(i16 Value);
-    // Last line that is whole on the screen, from the latest paint. Written, the view moves so that the line comes last;
-    // a line that there is not is ignored. Repaints.
+    // Last line that is whole on the screen, from the latest paint. Written, the view moves so that the line comes
+    // last; a line that there is not is ignored. Repaints.
     i16 LastRow() const;
     void SetLastRow(i16 Value);
     i16 LastCol() const;
@@ -645,17 +647,17 @@ public:
 
     // -- Tables in and out --
 
-    // The texts of a rectangle, corners in any order, as plain text on the clipboard: tabs between the cells of a row, CR
-    // LF between the rows and none behind the last. A text that holds a CR LF loses its CRs and stands between double
-    // quotes; other double quotes stay as they are. When all cells of the last row are empty in a single column, the
-    // clipboard stays as it is. Errors 6 and 9 for a corner outside the table.
+    // The texts of a rectangle, corners in any order, as plain text on the clipboard: tabs between the cells of a row,
+    // CR LF between the rows and none behind the last. A text that holds a CR LF loses its CRs and stands between
+    // double quotes; other double quotes stay as they are. When all cells of the last row are empty in a single column,
+    // the clipboard stays as it is. Errors 6 and 9 for a corner outside the table.
     void CopyToClipboard(i16 Row1, i16 Col1, i16 Row2, i16 Col2);
-    // The plain text on the clipboard as texts of a rectangle, corners in any order, from its first cell on. What does not
-    // fit is dropped, cells for which there is nothing keep their text, an empty line leaves its row alone. A field that
-    // begins with an odd number of double quotes goes on, over lines too, to one that ends with an odd number or to the
-    // end; with more fields behind it in its first line it ends there. Repaints
-    // once; no event, mask or validation, and no new rows. Error 6 for a corner beyond 16 bits, 9 for a cell outside the
-    // table, after the cells ahead of it.
+    // The plain text on the clipboard as texts of a rectangle, corners in any order, from its first cell on. What does
+    // not fit is dropped, cells for which there is nothing keep their text, an empty line leaves its row alone. A field
+    // that begins with an odd number of double quotes goes on, over lines too, to one that ends with an odd number or
+    // to the end; with more fields behind it in its first line it ends there. Repaints once; no event, mask or
+    // validation, and no new rows. Error 6 for a corner beyond 16 bits, 9 for a cell outside the table, after the cells
+    // ahead of it.
     void PasteFromClipboard(i16 Row1, i16 Col1, i16 Row2, i16 Col2);
     // Appends the records of an array as rows, and makes its columns the grid's: Cols becomes their number, Rows grows.
     // Every element becomes a text as conversions to text do in the container's locale. Null elements leave their cells
@@ -668,10 +670,10 @@ public:
     // Adds a text to the script, which keeps it until it is cleared. Always -1.
     i32 VXScriptAdd(std::u16string_view vxScript);
     void VXScriptClear();
-    // Runs the script: -1 when all of it was applied up to its very end, else 0, and what stands ahead of the fault stays
-    // applied. The row and column that the script sets for what follows hold over runs. Does what the properties it sets
-    // do: their errors come out and end the run, as error 6 for a number or place beyond 16 bits. Ends with 0 when the
-    // control is closed meanwhile.
+    // Runs the script: -1 when all of it was applied up to its very end, else 0, and what stands ahead of the fault
+    // stays applied. The row and column that the script sets for what follows hold over runs. Does what the properties
+    // it sets do: their errors come out and end the run, as error 6 for a number or place beyond 16 bits. Ends with 0
+    // when the control is closed meanwhile.
     i32 VXScriptExecute();
 
     // -- Current cell --
@@ -686,12 +688,13 @@ public:
     i32 MousePointer() const;
     // Whether the user is sizing a line.
     bool IsSizingMode() const;
-    // Public row, in virtual mode the place in the list, and public column; NoIndex without a current cell. Written, the
-    // editor closes without an event, the cell moves, snaps to the parent of its span and comes into view; the selection
-    // stays, and neither CellChange nor ValidateRow is raised. A hidden line, or one without a size, gives way to the next
-    // visible one in the direction of the move: where only hidden rows are left the value is ignored, while a column goes
-    // on in the row behind or before, and is ignored where there is none. Fixed lines and lines that there are not are
-    // ignored, but for the mark of the current cell, which is off until the cell is painted again.
+    // Public row, in virtual mode the place in the list, and public column; NoIndex without a current cell. Written,
+    // the editor closes without an event, the cell moves, snaps to the parent of its span and comes into view; the
+    // selection stays, and neither CellChange nor ValidateRow is raised. A hidden line, or one without a size, gives
+    // way to the next visible one in the direction of the move: where only hidden rows are left the value is ignored,
+    // while a column goes on in the row behind or before, and is ignored where there is none. Fixed lines and lines
+    // that there are not are ignored, but for the mark of the current cell, which is off until the cell is painted
+    // again.
     i32 CurrentRow() const;
     void SetCurrentRow(i32 Value);
     i16 CurrentCol() const;
@@ -702,8 +705,8 @@ public:
     bool IsCurrent(i16 Row, i16 Col) const;
 
     // -- Editing in place --
-    // A cell of mode vxTextBox, vxComboDropDownBox, vxComboListBox or vxCustom is edited by a window over it. What is typed
-    // goes into the cell at once: closing the editor only hides it, and nothing is taken back.
+    // A cell of mode vxTextBox, vxComboDropDownBox, vxComboListBox or vxCustom is edited by a window over it. What is
+    // typed goes into the cell at once: closing the editor only hides it, and nothing is taken back.
 
     // Opens the editor of the current cell: BeforeEdit, which refuses by calling ExitEdit, and BeforeCustom. A disabled
     // cell has none. A cell that is not edited comes into view, and the control takes the focus.
@@ -711,8 +714,8 @@ public:
     // Hides the editor without an event. Nothing without a current cell.
     void ExitEdit();
     bool IsEditMode() const;
-    // Of the text in the editor, in UTF-16 units; without one they are kept for the next editor that opens. Negative ones
-    // are error 5.
+    // Of the text in the editor, in UTF-16 units; without one they are kept for the next editor that opens. Negative
+    // ones are error 5.
     i32 SelStart() const;
     void SetSelStart(i32 Value);
     i32 SelLength() const;
@@ -720,8 +723,8 @@ public:
     // Writing takes the place of the selection and raises TextChange; nothing without an editor.
     std::u16string SelText() const;
     void SetSelText(std::u16string_view Value);
-    // The window that edits a vxCustom cell, by the number that the toolkit knows it under; to be written in BeforeCustom,
-    // which says where it goes.
+    // The window that edits a vxCustom cell, by the number that the toolkit knows it under; to be written in
+    // BeforeCustom, which says where it goes.
     void SetCustomhWnd(std::intptr_t Value);
     // Of the text editor: whether it grows with its text, within the client area. False closes the editor and raises
     // AfterEdit.
@@ -730,15 +733,15 @@ public:
     // Whether cells carry the literals of the column's mask.
     bool TBoxIncludeLiteral() const;
     void SetTBoxIncludeLiteral(bool Value);
-    // What empty places of the mask show ("_"), and what they are in the cell's text (NUL). The first character counts; ""
-    // leaves the one before in force.
+    // What empty places of the mask show ("_"), and what they are in the cell's text (NUL). The first character counts;
+    // "" leaves the one before in force.
     std::u16string TBoxPromptChar() const;
     void SetTBoxPromptChar(std::u16string_view Value);
     std::u16string TBoxReplaceChar() const;
     void SetTBoxReplaceChar(std::u16string_view Value);
 
-    // The list of the combo editor: one for the whole grid, to be filled in BeforeEdit or before. Rows count from 0; those
-    // outside the list are error 9.
+    // The list of the combo editor: one for the whole grid, to be filled in BeforeEdit or before. Rows count from 0;
+    // those outside the list are error 9.
     //
     // At the end without an index.
     void ComboAddItem(std::u16string_view Item, i16 index = -32767);
@@ -760,24 +763,26 @@ public:
     // -- Sort --
 
     // Sorts the rows that are not fixed by the columns of SortOrder; hidden rows too. A row moves as a whole, with its
-    // height; the current cell and the first row stay where they are. Takes back SpanRows everywhere, and spans over rows
-    // that part; a selection of rows or cells ends. Closes the editor and raises AfterEdit. Repaints. The sort is not
-    // stable: the order of rows with equal keys is the method's own, always the same. Without SortOrder a message box says
-    // so, and nothing else happens. Error 9 for a key whose column is no more, 6 for 29524 rows and more: no row has moved.
+    // height; the current cell and the first row stay where they are. Takes back SpanRows everywhere, and spans over
+    // rows that part; a selection of rows or cells ends. Closes the editor and raises AfterEdit. Repaints. The sort is
+    // not stable: the order of rows with equal keys is the method's own, always the same. Without SortOrder a message
+    // box says so, and nothing else happens. Error 9 for a key whose column is no more, 6 for 29524 rows and more: no
+    // row has moved.
     void Sort();
-    // The place of a column among the keys, from 1, the most significant; 0 for none. Writing it makes the column the last
-    // key, at that place: keys behind are dropped, so that 1 begins anew; places that open before it are taken by the
-    // outermost column. Each writing turns the column's SortCriteria around: first vxAsc, then vxDesc, vxAsc, ... Values
-    // below 1 or above the number of columns, fixed ones counted twice, and columns that are not there are ignored. The keys
-    // stay for good and do not follow columns that move.
+    // The place of a column among the keys, from 1, the most significant; 0 for none. Writing it makes the column the
+    // last key, at that place: keys behind are dropped, so that 1 begins anew; places that open before it are taken by
+    // the outermost column. Each writing turns the column's SortCriteria around: first vxAsc, then vxDesc, vxAsc, ...
+    // Values below 1 or above the number of columns, fixed ones counted twice, and columns that are not there are
+    // ignored. The keys stay for good and do not follow columns that move.
     i16 SortOrder(i16 Col) const;
     void SetSortOrder(i16 Col, i16 Value);
-    // How a column is sorted, whatever its place; they sort nothing themselves. vxOrderEnum: all but vxDesc is ascending.
+    // How a column is sorted, whatever its place; they sort nothing themselves. vxOrderEnum: all but vxDesc is
+    // ascending.
     i32 SortCriteria(i16 Col) const;
     void SetSortCriteria(i16 Col, i32 Value);
     // vxTypeColEnum. vxAlphaNum compares without regard to case, the first three characters before the whole; vxNumeric
-    // and vxDate read the values in the container's locale, 0 for what is no number and ahead of all dates what is none.
-    // Other values take no part in the order.
+    // and vxDate read the values in the container's locale, 0 for what is no number and ahead of all dates what is
+    // none. Other values take no part in the order.
     i32 SortType(i16 Col) const;
     void SetSortType(i16 Col, i32 Value);
     // By keys instead of texts.
@@ -787,13 +792,15 @@ public:
     // -- Search --
 
     // Walks a column down the rows that are not fixed, or a row across the columns that are not, hidden ones too, and
-    // raises SearchResult for each text (eType vxText) or key (vxKey) that is the one looked for, with its row or column
-    // in Pos; the walk goes on behind Pos, wherever the host moves it. Gives the number of hits. Nothing is selected or scrolled.
+    // raises SearchResult for each text (eType vxText) or key (vxKey) that is the one looked for, with its row or
+    // column in Pos; the walk goes on behind Pos, wherever the host moves it. Gives the number of hits. Nothing is
+    // selected or scrolled.
     //
     // Case does not count. A Wildcard at the front of SearchString, at its end or at both finds texts that end with the
-    // rest, begin with it or contain it; one that stands only inside finds nothing. SearchRow alone compares the ends of keys to
-    // the letter. Error 5 for a SearchString that begins and ends with the same Wildcard, 6 for more than 32767 hits and for a Pos that
-    // leaves 16 bits, 9 for a Pos outside the table.
+    // rest, begin with it or contain it; one that stands only inside finds nothing. SearchRow alone compares the ends
+    // of keys to the letter. Error 5 for a SearchString too short to hold the Wildcard at both of its ends, 6 for more
+    // than 32767 hits and for a Pos that leaves 16 bits, 9 for a Row or Col outside the table and for a Pos ahead of
+    // its first line; one behind the last line ends the walk.
     i16 SearchRow(
         i32 eType, i16 Col, std::u16string_view SearchString, i16 IdSearch, std::u16string_view Wildcard = u"");
     i16 SearchCol(

@@ -46,7 +46,7 @@ void Vornix::LoadFromArray(const VariantArray& Arr, bool IsNullTest)
     }
     const NullElements nulls = IsNullTest ? NullElements::Skip : NullElements::Convert;
     WriteArray(store, Arr, shape, { firstRow, store.FixedCols() }, nulls, control->container.GetLocale());
-    // A repaint alone: the closed gate kept the layout from running, so the bars follow at the next one.
+    // A repaint alone: behind the closed gate the bars were not laid out; they follow at the next layout.
     control->funnel.RepaintUnderGate();
 }
 

@@ -16,19 +16,6 @@ Column& ColumnOf(Control& control, i16 Col)
     return control.store.ColumnAt(control.InternalCol(Col));
 }
 
-// Equal rows that were merged; whether there were any.
-bool RemoveMergedRows(Control& control)
-{
-    bool anyMerged = false;
-    for (int col = 0; col < control.store.MaxCol(); ++col) {
-        if (!control.store.ColumnAt(col).SpanRows)
-            continue;
-        control.spans.RemoveMergedRows(col);
-        anyMerged = true;
-    }
-    return anyMerged;
-}
-
 } // namespace
 
 void Vornix::Sort()
@@ -40,12 +27,22 @@ void Vornix::Sort()
     const SelectCollection& ranges = control->selection.Ranges();
     if (ranges.CountRows() >= 1 || ranges.CountCells() >= 1)
         control->selection.Collapse();
-    if (RemoveMergedRows(*control))
-        control->funnel.RepaintUnderGate();
-    control->editor.CloseEditor();
+    // Each of them repaints, and a handler may change the columns.
+    for (int col = 0; !control->IsClosed() && col < control->store.MaxCol(); ++col)
+        if (control->store.ColumnAt(col).SpanRows)
+            RemoveSpanRows(ToI16(col - control->store.FixedCols()), 1);
+    if (!control->IsClosed())
+        control->editor.CloseEveryEditor();
     if (control->IsClosed())
         return;
-    SortRows(control->store, control->spans, control->hidden, control->sortKeys.Cols(), control->container.GetLocale());
+    try {
+        SortRows(
+            control->store, control->spans, control->hidden, control->sortKeys.Cols(), control->container.GetLocale());
+    } catch (...) {
+        // Selection and editor are gone all the same.
+        control->funnel.RepaintUnderGate();
+        throw;
+    }
     control->current.AdjustForSort(control->store);
     control->funnel.RepaintUnderGate();
 }

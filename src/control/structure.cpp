@@ -1,19 +1,13 @@
 // Lines in and out, moved, exchanged, copied, emptied; looks given back to the defaults.
 #include "automation/checked.h"
 #include "control/control.h"
+#include "control/line_count.h"
 
 #include <algorithm>
 
 namespace vornix {
 
 namespace {
-
-// A negative count has no lines.
-void RequireCount(i16 count)
-{
-    if (count < 0)
-        RaiseError(ErrorNumber::SubscriptOutOfRange);
-}
 
 CellIndex UpperLeft(CellIndex a, CellIndex b)
 {
@@ -103,11 +97,13 @@ void Vornix::MoveCol(i16 Col, i16 ToCol)
 void Vornix::SwapRows(i16 Row1, i16 Row2)
 {
     const auto control = Enter();
-    // What is typed must not go into the other row.
-    if (control->editor.IsEditorOpen())
-        control->editor.CloseEditor();
     const int first = -control->store.FixedRows();
     if (Row1 < first || Row2 < first || Row1 == Row2)
+        return;
+    CheckedIndex(control->InternalRow(std::max(Row1, Row2)), control->store.MaxRow());
+    // What is typed must not go into the other row.
+    control->editor.CloseEveryEditor();
+    if (control->IsClosed())
         return;
     if (control->tableEdit.SwapRows(control->InternalRow(Row1), control->InternalRow(Row2)))
         control->funnel.RecalcLayout(false);

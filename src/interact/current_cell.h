@@ -10,7 +10,7 @@ public:
     static constexpr int None = -1;
 
     bool IsValid() const { return valid_; }
-    // None without a current cell.
+    // None without a current cell, unless rows have been sorted since.
     int Row() const { return row_; }
     int Col() const { return col_; }
     bool IsAt(int row, int col) const { return valid_ && row == row_ && col == col_; }
@@ -68,8 +68,8 @@ public:
     // lines then is forgotten.
     void AdjustForRows(const GridStore& store, int position, int delta);
     void AdjustForCols(const GridStore& store, int position, int delta);
-    // The cell stays where it is when rows are sorted. Where there is none, the first row takes the place of the current
-    // row, and still no cell is current.
+    // The cell stays where it is when rows are sorted. Where there is none, the first row takes the place of the
+    // current row, and still no cell is current.
     void AdjustForSort(const GridStore& store);
 
 private:

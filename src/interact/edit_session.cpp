@@ -293,6 +293,13 @@ void EditSession::Close(bool repaint)
     EndSession(session);
 }
 
+void EditSession::CloseEveryEditor()
+{
+    Close(false);
+    if (isShown_)
+        Reset();
+}
+
 // Unless a handler has opened the next editor.
 void EditSession::EndSession(std::uint32_t session)
 {

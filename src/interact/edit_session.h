@@ -1,8 +1,8 @@
 // Editing in place: one editor at most, over one cell. It writes into the cell while the user types, so that closing it
 // only hides it. Internal indices.
 //
-// Handlers of the events may do anything, closing the session or the control included: what a step goes on with is tested
-// anew behind each of them. A session that has ended, or has begun anew, is never gone on with.
+// Handlers of the events may do anything, closing the session or the control included: what a step goes on with is
+// tested anew behind each of them. A session that has ended, or has begun anew, is never gone on with.
 #pragma once
 
 #include "interact/combo_cell_editor.h"
@@ -39,6 +39,8 @@ public:
     void EnterEdit() override;
     void CloseEditor() override { Close(false); }
     void CloseEditorAndRepaint() override { Close(true); }
+    // Before the cell under it changes places: one that the event opens is closed as well, without an event.
+    void CloseEveryEditor();
     // Without an event.
     void ExitEdit();
     void HideEditor() override;

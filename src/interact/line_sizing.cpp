@@ -99,6 +99,8 @@ bool LineSizing::OffersRow(int row, int col) const
 bool LineSizing::Begin(int x, int y)
 {
     End();
+    // A double click fits the line of this press, and none that an earlier one has caught.
+    col_ = row_ = NoIndex;
     const HitResult hit = HitTest(x, y);
     const bool acrossCols = cursor_ == PointerShape::SizeWE;
     const int candidate = acrossCols ? candidateCol_ : candidateRow_;
@@ -108,8 +110,6 @@ bool LineSizing::Begin(int x, int y)
         return false;
     }
     const LayoutEngine& layout = context_.layout;
-    // A double click fits the line of this press, and none that an earlier one has caught.
-    col_ = row_ = NoIndex;
     if (acrossCols) {
         col_ = candidate;
         originX_ = layout.CellOriginAt(0, col_).x;

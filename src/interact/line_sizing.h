@@ -51,8 +51,8 @@ public:
     void SizeTo(float x, float y);
     // The size is in force since the latest move: there is nothing to commit.
     void End();
-    // A double click on the boundary: the line that the press caught takes the size of what it holds. Raises ResizeCol or
-    // ResizeRow, and the events of painting.
+    // A double click on the boundary: the line that the press caught takes the size of what it holds. Raises ResizeCol
+    // or ResizeRow, and the events of painting.
     void FitLine();
 
 private:

@@ -138,6 +138,8 @@ void Mouse::FitLine()
             const RedrawGate::Closed closed(context_.gate);
             context_.sizing.FitLine();
         }
+        if (isAbandoned_)
+            return;
         context_.mover.BringIntoView();
     }
     context_.sizing.End();

@@ -66,5 +66,20 @@ TEST_F(CurrentCellTest, IsForgottenOutsideTheRealLines)
     EXPECT_FALSE(current.IsValid());
 }
 
+// Where there was none it is the first one; that is no current cell yet.
+TEST_F(CurrentCellTest, KeepsItsRowWhenRowsAreSorted)
+{
+    current.AdjustForSort(store);
+    EXPECT_EQ(current.Row(), 1);
+    EXPECT_FALSE(current.IsValid());
+    current.Set(3, 2);
+    current.AdjustForSort(store);
+    EXPECT_TRUE(current.IsAt(3, 2));
+    current.Clear();
+    store.StoreRows(0);
+    current.AdjustForSort(store);
+    EXPECT_EQ(current.Row(), -1) << "there is none";
+}
+
 } // namespace
 } // namespace vornix

@@ -92,6 +92,11 @@ TEST_F(Searching, OnlyEndsOfKeysInAColumnHaveTheirCase)
     hits.clear();
     EXPECT_EQ(Grid().SearchCol(vxKey, 1, u"*ab", 1, u"*"), 2);
     EXPECT_THAT(Places(), ElementsAre(0, 1));
+    for (const char16_t* const searchString : { u"XAB", u"XA*", u"*XA*" }) {
+        hits.clear();
+        EXPECT_EQ(Grid().SearchCol(vxKey, 1, searchString, 1, u"*"), 2);
+        EXPECT_THAT(Places(), ElementsAre(0, 1));
+    }
 }
 
 TEST_F(Searching, AnEmptyTextFindsWhatIsEmpty)
@@ -132,6 +137,10 @@ TEST_F(Searching, HiddenLinesAndCoveredCellsAreSearched)
     Grid().HideCol(1);
     Grid().SetRowSpan(3, 1, 3);
     EXPECT_THAT(Rows(u"x"), ElementsAre(0, 1, 2, 3, 4, 5));
+    for (i16 col = 0; col < 5; ++col)
+        Grid().SetText(2, col, u"y");
+    Grid().SetColSpan(2, 2, 2);
+    EXPECT_EQ(Grid().SearchCol(vxText, 2, u"y", 1), 5);
 }
 
 TEST_F(Searching, LeavesTheGridAsItIs)
@@ -171,117 +180,153 @@ TEST_F(Searching, Errors)
     EXPECT_EQ(Grid().SearchRow(vxText, 99, u"x", 1), 0) << "there is no cell to look at";
 }
 
-// -- Steered by the host --
+// -- Both methods, steered by the host --
 
-TEST_F(Searching, ThePositionThatAHandlerWritesIsTheLatest)
+// Down a column for false, across a row for true.
+class SearchingBothWays : public Searching, public testing::WithParamInterface<bool> {
+protected:
+    SearchingBothWays() { Table(6, 6, 1, 1); }
+
+    bool IsAcross() const { return GetParam(); }
+
+    // `line` is one of those that are walked over, `place` the row or column they are looked at in.
+    void SetText(i16 line, const char16_t* text, i16 place = 1)
+    {
+        IsAcross() ? Grid().SetText(place, line, text) : Grid().SetText(line, place, text);
+    }
+    void Fill(std::initializer_list<const char16_t*> texts, i16 place = 1)
+    {
+        i16 line = 0;
+        for (const char16_t* text : texts)
+            SetText(line++, text, place);
+    }
+    i16 Search(const char16_t* searchString = u"x", i16 place = 1)
+    {
+        return IsAcross() ? Grid().SearchCol(vxText, place, searchString, 1)
+                          : Grid().SearchRow(vxText, place, searchString, 1);
+    }
+    void LinedTable(i16 lines, i16 across, i16 fixedLines)
+    {
+        IsAcross() ? Table(across, lines, 1, fixedLines) : Table(lines, across, fixedLines, 1);
+    }
+    void SetLines(i16 count) { IsAcross() ? Grid().SetCols(count) : Grid().SetRows(count); }
+    void SetLinesAcross(i16 count) { IsAcross() ? Grid().SetRows(count) : Grid().SetCols(count); }
+    void SetFixedLines(i16 count) { IsAcross() ? Grid().SetFixedCols(count) : Grid().SetFixedRows(count); }
+    void SetFixedLinesAcross(i16 count) { IsAcross() ? Grid().SetFixedRows(count) : Grid().SetFixedCols(count); }
+};
+
+INSTANTIATE_TEST_SUITE_P(Searches, SearchingBothWays, testing::Bool(),
+    [](const auto& method) { return method.param ? "SearchCol" : "SearchRow"; });
+
+TEST_P(SearchingBothWays, ThePositionThatAHandlerWritesIsTheLatest)
 {
-    Table(20, 2, 1, 1);
-    for (i16 row = 0; row < 20; ++row)
-        Grid().SetText(row, 1, u"x");
+    LinedTable(20, 2, 1);
+    for (i16 line = 0; line < 20; ++line)
+        SetText(line, u"x");
     OnHit = [](i16& Pos) {
         if (Pos == 3)
             Pos = 10;
     };
-    EXPECT_EQ(Grid().SearchRow(vxText, 1, u"x", 1), 13);
+    EXPECT_EQ(Search(), 13);
     EXPECT_THAT(Places(), ElementsAre(0, 1, 2, 3, 11, 12, 13, 14, 15, 16, 17, 18, 19));
 }
 
-TEST_F(Searching, AHandlerEndsTheWalkAtTheLastIndexOrBehind)
+TEST_P(SearchingBothWays, AHandlerEndsTheWalkAtTheLastIndexOrBehind)
 {
-    FillCol(1, { u"x", u"x", u"x", u"x", u"x", u"x" });
+    Fill({ u"x", u"x", u"x", u"x", u"x", u"x" });
     for (const int end : { 5, 6, 7, 300, 32765 }) {
         OnHit = [end](i16& Pos) { Pos = static_cast<i16>(end); };
         hits.clear();
-        EXPECT_EQ(Grid().SearchRow(vxText, 1, u"x", 1), 1) << end;
+        EXPECT_EQ(Search(), 1) << end;
     }
 }
 
-TEST_F(Searching, AHandlerMayGoBack)
+TEST_P(SearchingBothWays, AHandlerMayGoBack)
 {
-    FillCol(1, { u"x", u"x", u"x", u"x", u"x", u"x" });
+    Fill({ u"x", u"x", u"x", u"x", u"x", u"x" });
     OnHit = [&](i16& Pos) {
         if (hits.size() == 3)
             Pos = 0;
     };
-    EXPECT_EQ(Grid().SearchRow(vxText, 1, u"x", 1), 8);
+    EXPECT_EQ(Search(), 8);
     EXPECT_THAT(Places(), ElementsAre(0, 1, 2, 1, 2, 3, 4, 5));
 }
 
-TEST_F(Searching, InTheFixedLinesTheWalkGoesOnFromThere)
+TEST_P(SearchingBothWays, InTheFixedLinesTheWalkGoesOnFromThere)
 {
-    Table(3, 2, 3, 1);
-    for (i16 row = -3; row < 3; ++row)
-        Grid().SetText(row, 1, u"x");
+    LinedTable(3, 2, 3);
+    for (i16 line = -3; line < 3; ++line)
+        SetText(line, u"x");
     OnHit = [&](i16& Pos) {
         if (hits.size() == 1)
             Pos = -4; // in front of the first fixed row
     };
-    EXPECT_EQ(Grid().SearchRow(vxText, 1, u"x", 1), 7);
+    EXPECT_EQ(Search(), 7);
     EXPECT_THAT(Places(), ElementsAre(0, -3, -2, -1, 0, 1, 2));
     OnHit = [](i16& Pos) { Pos = -5; };
-    EXPECT_EQ(ErrorOf([&] { Grid().SearchRow(vxText, 1, u"x", 1); }), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(ErrorOf([&] { Search(); }), ErrorNumber::SubscriptOutOfRange);
     OnHit = [](i16& Pos) { Pos = -32768; };
-    EXPECT_EQ(ErrorOf([&] { Grid().SearchRow(vxText, 1, u"x", 1); }), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(ErrorOf([&] { Search(); }), ErrorNumber::SubscriptOutOfRange);
 }
 
-TEST_F(Searching, APositionBehindSixteenBitsIsAnError)
+TEST_P(SearchingBothWays, APositionBehindSixteenBitsIsAnError)
 {
-    Grid().SetText(0, 1, u"x");
+    SetText(0, u"x");
     OnHit = [](i16& Pos) { Pos = 32767; };
-    EXPECT_EQ(ErrorOf([&] { Grid().SearchRow(vxText, 1, u"x", 1); }), ErrorNumber::Overflow);
+    EXPECT_EQ(ErrorOf([&] { Search(); }), ErrorNumber::Overflow);
     OnHit = [](i16& Pos) { Pos = 32766; }; // the index still fits, the next one does not
-    EXPECT_EQ(ErrorOf([&] { Grid().SearchRow(vxText, 1, u"x", 1); }), ErrorNumber::Overflow);
+    EXPECT_EQ(ErrorOf([&] { Search(); }), ErrorNumber::Overflow);
     OnHit = [](i16& Pos) { Pos = 32765; };
-    EXPECT_EQ(Grid().SearchRow(vxText, 1, u"x", 1), 1);
+    EXPECT_EQ(Search(), 1);
 }
 
-TEST_F(Searching, HitsBehindSixteenBitsAreAnError)
+TEST_P(SearchingBothWays, HitsBehindSixteenBitsAreAnError)
 {
-    Grid().SetText(0, 1, u"x");
+    SetText(0, u"x");
     OnHit = [](i16& Pos) { Pos = -1; };
-    EXPECT_EQ(ErrorOf([&] { Grid().SearchRow(vxText, 1, u"x", 1); }), ErrorNumber::Overflow);
+    EXPECT_EQ(ErrorOf([&] { Search(); }), ErrorNumber::Overflow);
     EXPECT_EQ(hits.size(), 32767u);
 }
 
-TEST_F(Searching, AHandlerMayAddAndTakeRows)
+TEST_P(SearchingBothWays, AHandlerMayAddAndTakeLines)
 {
-    FillCol(1, { u"x", u"x", u"x", u"x", u"x", u"x" });
+    Fill({ u"x", u"x", u"x", u"x", u"x", u"x" });
     OnHit = [&](i16& Pos) {
         if (Pos == 1)
-            Grid().SetRows(3);
+            SetLines(3);
     };
-    EXPECT_EQ(Grid().SearchRow(vxText, 1, u"x", 1), 3);
+    EXPECT_EQ(Search(), 3);
     OnHit = [&](i16& Pos) {
         if (Pos == 2) {
-            Grid().SetRows(5);
-            Grid().SetText(4, 1, u"x");
+            SetLines(5);
+            SetText(4, u"x");
         }
     };
     hits.clear();
-    EXPECT_EQ(Grid().SearchRow(vxText, 1, u"x", 1), 4);
+    EXPECT_EQ(Search(), 4);
     EXPECT_THAT(Places(), ElementsAre(0, 1, 2, 4));
-    OnHit = [&](i16&) { Grid().SetRows(0); };
-    EXPECT_EQ(Grid().SearchRow(vxText, 1, u"x", 1), 1);
+    OnHit = [&](i16&) { SetLines(0); };
+    EXPECT_EQ(Search(), 1);
 }
 
-TEST_F(Searching, AHandlerMayTakeTheColumn)
+TEST_P(SearchingBothWays, AHandlerMayTakeTheLineThatIsWalked)
 {
-    FillCol(4, { u"x", u"x", u"x", u"x", u"x", u"x" });
-    OnHit = [&](i16&) { Grid().SetCols(2); };
-    EXPECT_EQ(ErrorOf([&] { Grid().SearchRow(vxText, 4, u"x", 1); }), ErrorNumber::SubscriptOutOfRange);
+    Fill({ u"x", u"x", u"x", u"x", u"x", u"x" }, 4);
+    OnHit = [&](i16&) { SetLinesAcross(2); };
+    EXPECT_EQ(ErrorOf([&] { Search(u"x", 4); }), ErrorNumber::SubscriptOutOfRange);
     EXPECT_EQ(hits.size(), 1u);
 }
 
-TEST_F(Searching, AHandlerMayChangeTheFixedLines)
+TEST_P(SearchingBothWays, AHandlerMayChangeTheFixedLines)
 {
-    FillCol(1, { u"x", u"x", u"x", u"x", u"x", u"x" });
+    Fill({ u"x", u"x", u"x", u"x", u"x", u"x" });
     OnHit = [&](i16& Pos) {
         if (Pos == 1) {
-            Grid().SetFixedRows(3);
-            Grid().SetFixedCols(0);
+            SetFixedLines(3);
+            SetFixedLinesAcross(0);
         }
     };
-    EXPECT_EQ(Grid().SearchRow(vxText, 1, u"x", 1), 6);
+    EXPECT_EQ(Search(), 6);
     EXPECT_THAT(Places(), ElementsAre(0, 1, 2, 3, 4, 5)) << "by public indices nothing has moved";
 }
 
@@ -299,23 +344,23 @@ TEST_F(Searching, AHandlerMaySearchAndSort)
     EXPECT_EQ(inner, 3);
 }
 
-TEST_F(Searching, AHandlerMayCloseTheControl)
+TEST_P(SearchingBothWays, AHandlerMayCloseTheControl)
 {
-    FillCol(1, { u"x", u"x", u"x", u"x", u"x", u"x" });
+    Fill({ u"x", u"x", u"x", u"x", u"x", u"x" });
     OnHit = [&](i16& Pos) {
         if (Pos == 1)
             host->Close();
     };
-    EXPECT_EQ(Grid().SearchRow(vxText, 1, u"x", 1), 2);
+    EXPECT_EQ(Search(), 2);
     EXPECT_EQ(hits.size(), 2u);
     EXPECT_TRUE(Grid().IsTerminated());
 }
 
-TEST_F(Searching, AHandlersErrorEndsTheSearch)
+TEST_P(SearchingBothWays, AHandlersErrorEndsTheSearch)
 {
-    FillCol(1, { u"x", u"x" });
+    Fill({ u"x", u"x" });
     OnHit = [&](i16&) { Grid().SetText(99, 0, u""); };
-    EXPECT_EQ(ErrorOf([&] { Grid().SearchRow(vxText, 1, u"x", 1); }), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(ErrorOf([&] { Search(); }), ErrorNumber::SubscriptOutOfRange);
     EXPECT_EQ(hits.size(), 1u);
 }
 

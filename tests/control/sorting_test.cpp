@@ -1,4 +1,5 @@
 #include "control/grid_fixture.h"
+#include "support/comma_container.h"
 
 namespace vornix {
 namespace {
@@ -311,6 +312,41 @@ TEST_F(Sorting, RepaintsOnceWhileRedrawIsOn)
     EXPECT_EQ(Grid().Text(0, 0), u"b");
 }
 
+TEST_F(Sorting, RepaintsForEachColumnOfMergedRowsAsWell)
+{
+    Fill(0, { u"b", u"b", u"a" });
+    Grid().SpanRows(0);
+    Grid().SpanRows(3);
+    Grid().SetSortOrder(0, 1);
+    host->ClearLog();
+    Grid().Sort();
+    EXPECT_EQ(host->Repaints(), 3);
+}
+
+TEST_F(Sorting, ASortThatFailsShowsThatTheSelectionHasEnded)
+{
+    Grid().SetSortOrder(3, 1);
+    Grid().SetCols(2);
+    Grid().SetRowSelected(1, true);
+    host->ClearLog();
+    EXPECT_EQ(ErrorOf([&] { Grid().Sort(); }), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(Grid().SelectCountRow(), 0);
+    EXPECT_EQ(host->Repaints(), 1);
+}
+
+TEST_F(Sorting, ReadsNumbersAsTheContainersLocaleWritesThem)
+{
+    CommaContainer container;
+    Vornix& grid = container.Grid();
+    grid.SetRows(2);
+    grid.SetText(0, 0, u"1,5");
+    grid.SetText(1, 0, u"1,25");
+    grid.SetSortType(0, vxNumeric);
+    grid.SetSortOrder(0, 1);
+    grid.Sort();
+    EXPECT_EQ(grid.Text(0, 0), u"1,25");
+}
+
 TEST_F(Sorting, TheKeysOutliveTheirColumn)
 {
     Fill(0, { u"b", u"a" });
@@ -447,6 +483,22 @@ TEST_F(SortingWhileEditing, AHandlerMayCloseTheControl)
     Grid().Sort();
     EXPECT_TRUE(Grid().IsTerminated());
     EXPECT_EQ(ErrorOf([&] { Grid().Sort(); }), ErrorNumber::InvalidArgument);
+}
+
+// Its text is that of a row which is about to move.
+TEST_F(SortingWhileEditing, AnEditorThatAHandlerOpensClosesToo)
+{
+    int calls = 0;
+    handlers.OnAfterEdit = [&](i16, i16) {
+        ++calls;
+        Grid().EnterEdit();
+        EXPECT_TRUE(Grid().IsEditMode());
+    };
+    Grid().Sort();
+    EXPECT_EQ(calls, 1);
+    EXPECT_FALSE(Grid().IsEditMode());
+    host->Type(u"7");
+    EXPECT_THAT(Column(0), ElementsAre(u"9c", u"a", u"b", u"d", u"e")) << "there is nothing to type into";
 }
 
 TEST_F(SortingWhileEditing, AHandlersErrorEndsTheSort)

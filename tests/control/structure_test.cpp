@@ -213,7 +213,7 @@ TEST_F(Structure, LinesThatThereAreNotAreNotDeleted)
     EXPECT_EQ(host->Repaints(), 0);
     EXPECT_EQ(ErrorOf([&] { Grid().DeleteRows(1, 3); }), 9);
     EXPECT_EQ(ErrorOf([&] { Grid().DeleteRows(1, 30); }), 9);
-    EXPECT_EQ(ErrorOf([&] { Grid().DeleteRows(2, 32767); }), 6);
+    EXPECT_EQ(ErrorOf([&] { Grid().DeleteRows(2, 32767); }), 9);
     EXPECT_EQ(ErrorOf([&] { Grid().DeleteCols(1, 3); }), 9);
     EXPECT_THAT(ColTexts(), ElementsAre(u"0,0", u"1,0", u"2,0"));
     EXPECT_THAT(RowTexts(), ElementsAre(u"0,0", u"0,1", u"0,2"));
@@ -740,6 +740,39 @@ TEST_F(Structure, ExchangedRowsCloseAnEditorFirst)
     EXPECT_FALSE(Grid().IsEditMode());
     EXPECT_EQ(Grid().Text(2, 0), typed);
     EXPECT_EQ(Grid().Text(0, 0), u"2,0");
+}
+
+TEST_F(Structure, RowsThatStayLeaveTheEditorOpen)
+{
+    Filled(3, 2, 1);
+    Grid().SetCellMode(0, 0, vxTextBox);
+    Grid().CurrentPos(0, 0);
+    Grid().EnterEdit();
+    Grid().SwapRows(0, 0);
+    Grid().SwapRows(-2, 1);
+    EXPECT_EQ(ErrorOf([&] { Grid().SwapRows(0, 3); }), 9);
+    EXPECT_TRUE(Grid().IsEditMode());
+}
+
+TEST_F(Structure, AHandlerOfTheEditorThatClosesMayDoAnything)
+{
+    Filled(3, 2);
+    Grid().SetCellMode(0, 0, vxTextBox);
+    Grid().CurrentPos(0, 0);
+    Grid().EnterEdit();
+    handlers.OnAfterEdit = [&](i16, i16) { Grid().EnterEdit(); };
+    Grid().SwapRows(0, 2);
+    EXPECT_FALSE(Grid().IsEditMode());
+    EXPECT_EQ(Grid().Text(0, 0), u"2,0");
+    handlers.OnAfterEdit = [&](i16, i16) { Grid().SetRows(1); };
+    Grid().SetCellMode(0, 0, vxTextBox);
+    Grid().EnterEdit();
+    EXPECT_EQ(ErrorOf([&] { Grid().SwapRows(0, 2); }), 9);
+    handlers.OnAfterEdit = [&](i16, i16) { host->Close(); };
+    Grid().SetRows(3);
+    Grid().EnterEdit();
+    Grid().SwapRows(0, 2);
+    EXPECT_TRUE(Grid().IsTerminated());
 }
 
 TEST_F(Structure, NothingIsToldOfACellThatWasUnderThePointerAndIsGone)

@@ -1,5 +1,5 @@
-#include "automation/comma_locale.h"
 #include "control/grid_fixture.h"
+#include "support/comma_container.h"
 
 #include <limits>
 
@@ -44,14 +44,6 @@ public:
     }
 
     std::function<void(std::string_view)> onChange;
-};
-
-class CommaContainer : public HeadlessContainer {
-public:
-    const Locale& GetLocale() const override { return locale_; }
-
-private:
-    CommaLocale locale_;
 };
 
 class LoadFromArray : public GridTest {

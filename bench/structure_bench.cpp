@@ -56,8 +56,8 @@ void GridInsertTopShown(benchmark::State& state)
     }
 }
 
-BENCHMARK(TableInsertTop)->Name("QTableWidget/insert_top")->Unit(benchmark::kMillisecond);
-BENCHMARK(GridInsertTop)->Name("Vornix/insert_top")->Unit(benchmark::kMillisecond);
+BENCHMARK(TableInsertTop)->Name("QTableWidget/insert_top")->Unit(benchmark::kMicrosecond);
+BENCHMARK(GridInsertTop)->Name("Vornix/insert_top")->Unit(benchmark::kMicrosecond);
 BENCHMARK(TableInsertTopShown)->Name("QTableWidget/insert_top_shown")->Unit(benchmark::kMillisecond);
 BENCHMARK(GridInsertTopShown)->Name("Vornix/insert_top_shown")->Unit(benchmark::kMillisecond);
 

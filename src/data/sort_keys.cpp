@@ -6,6 +6,7 @@
 #include "data/text_ranks.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <limits>
 #include <string>
@@ -50,6 +51,16 @@ double NumberOrZero(std::u16string_view text, const Locale& locale)
     return NumberIn(text, locale).value_or(0);
 }
 
+// Most units are among the first ones, whose lower case is asked for once.
+void ToLower(std::u16string& text, const Locale& locale)
+{
+    std::array<char16_t, 128> lower;
+    for (char16_t unit = 0; unit < lower.size(); ++unit)
+        lower[unit] = locale.ToLower(unit);
+    for (char16_t& unit : text)
+        unit = unit < lower.size() ? lower[unit] : locale.ToLower(unit);
+}
+
 template <typename Value> Places PlacesOf(const std::vector<Value>& values)
 {
     std::vector<Value> order = values;
@@ -83,8 +94,7 @@ public:
     {
         switch (column_.SortType) {
         case vxAlphaNum:
-            for (char16_t& unit : pool_)
-                unit = locale.ToLower(unit);
+            ToLower(pool_, locale);
             return TextRanks(Views(), locale);
         case vxNumeric:
             return PlacesByValue(NumberOrZero, locale);

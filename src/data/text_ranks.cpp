@@ -3,8 +3,10 @@
 #include "automation/text_compare.h"
 
 #include <algorithm>
+#include <bit>
+#include <functional>
+#include <limits>
 #include <numeric>
-#include <unordered_map>
 
 namespace vornix {
 
@@ -52,16 +54,22 @@ Numbers PrefixRanks(Texts texts, const Locale& locale)
 
 } // namespace
 
+// A table of numbers of texts, each in the first free slot from the one that its hash names.
 DistinctTexts::DistinctTexts(Texts all)
 {
-    std::unordered_map<std::u16string_view, std::uint32_t> known;
-    known.reserve(all.size());
+    constexpr std::uint32_t Free = std::numeric_limits<std::uint32_t>::max();
+    Numbers slots(std::bit_ceil(2 * all.size() + 1), Free);
+    const std::size_t mask = slots.size() - 1;
     numberOf.reserve(all.size());
     for (const std::u16string_view text : all) {
-        const auto [entry, isNew] = known.emplace(text, static_cast<std::uint32_t>(texts.size()));
-        if (isNew)
+        std::size_t slot = std::hash<std::u16string_view>()(text) & mask;
+        while (slots[slot] != Free && texts[slots[slot]] != text)
+            slot = (slot + 1) & mask;
+        if (slots[slot] == Free) {
+            slots[slot] = static_cast<std::uint32_t>(texts.size());
             texts.push_back(text);
-        numberOf.push_back(entry->second);
+        }
+        numberOf.push_back(slots[slot]);
     }
 }
 

@@ -107,6 +107,27 @@ template <auto Member> void CallWithCount(Vornix& grid, FuzzInput& input)
     (grid.*Member)(takeAsItIs ? count : static_cast<i16>(count % limit));
 }
 
+// Lines in at a place, as many as there may be.
+template <auto Member, auto Count> void CallWithNewLines(Vornix& grid, FuzzInput& input)
+{
+    constexpr int Many = 60;
+    const i16 place = input.AnyI16();
+    const i16 count = input.AnyI16();
+    (grid.*Member)(place, (grid.*Count)() > Many && count > 0 ? i16 { 1 } : static_cast<i16>(count % Many));
+}
+
+// Records and columns of texts, numbers and nothing.
+void LoadAnArray(Vornix& grid, FuzzInput& input)
+{
+    VariantArray array;
+    array.columns.resize(static_cast<std::size_t>(input.Between(0, 4)));
+    const int records = input.Between(0, 6);
+    for (std::vector<Variant>& column : array.columns)
+        for (int record = 0; record < records; ++record)
+            column.push_back(input.Bool() ? Variant(input.Text(20)) : input.Bool() ? Variant(2.5) : Variant());
+    grid.LoadFromArray(array, input.Bool());
+}
+
 constexpr MemberCall acting[] = {
     Call<&Vornix::SetRedraw>,
     Call<&Vornix::Refresh>,
@@ -245,6 +266,42 @@ constexpr MemberCall acting[] = {
     Call<&Vornix::SetScrollHBar>,
     Call<&Vornix::SetScrollVBar>,
     Call<&Vornix::SetScrollBarSize>,
+    CallWithNewLines<&Vornix::InsertRows, &Vornix::Rows>,
+    CallWithNewLines<&Vornix::InsertCols, &Vornix::Cols>,
+    Call<&Vornix::DeleteRows>,
+    Call<&Vornix::DeleteCols>,
+    Call<&Vornix::MoveRow>,
+    Call<&Vornix::MoveCol>,
+    Call<&Vornix::SwapRows>,
+    Call<&Vornix::SwapCols>,
+    Call<&Vornix::CopyCell>,
+    Call<&Vornix::CopyRow>,
+    Call<&Vornix::CopyCol>,
+    Call<&Vornix::ClearRow>,
+    Call<&Vornix::ClearCol>,
+    Call<&Vornix::ResetCells>,
+    Call<&Vornix::Sort>,
+    Call<&Vornix::SetSortOrder>,
+    Call<&Vornix::SetSortCriteria>,
+    Call<&Vornix::SetSortType>,
+    Call<&Vornix::SetSortUseKey>,
+    Call<&Vornix::SearchRow>,
+    Call<&Vornix::SearchCol>,
+    Call<&Vornix::CopyToClipboard>,
+    Call<&Vornix::PasteFromClipboard>,
+    LoadAnArray,
+    Call<&Vornix::VXScriptAdd>,
+    Call<&Vornix::VXScriptClear>,
+    Call<&Vornix::VXScriptExecute>,
+    Call<&Vornix::SetColSelected>,
+    Call<&Vornix::SetRowSelected>,
+    Call<&Vornix::SetSelectedCells>,
+    Call<&Vornix::InvertSelect>,
+    Call<&Vornix::DeselectAll>,
+    Call<&Vornix::CurrentPos>,
+    Call<&Vornix::EnterEdit>,
+    Call<&Vornix::ExitEdit>,
+    Call<&Vornix::SetSelText>,
 };
 
 constexpr MemberCall queries[] = {
@@ -368,6 +425,12 @@ constexpr MemberCall queries[] = {
     Call<&Vornix::CurrentCol>,
     Call<&Vornix::VirtualPageSize>,
     Call<&Vornix::VirtualOffset>,
+    Call<&Vornix::SortOrder>,
+    Call<&Vornix::SortType>,
+    Call<&Vornix::CellSelected>,
+    Call<&Vornix::ColSelected>,
+    Call<&Vornix::RowSelected>,
+    Call<&Vornix::IsEditMode>,
 };
 
 } // namespace

@@ -1,4 +1,4 @@
-// Members of the control with wild arguments, also from inside DrawCell: nothing but an AutomationError comes out.
+// Members of the control with wild arguments, also from inside events: nothing but an AutomationError comes out.
 #include "control_members.h"
 #include "fuzz_input.h"
 #include "vornix/automation.h"
@@ -37,19 +37,37 @@ public:
 
     void DrawCell(i16, i16, Hdc& PictureHdc, bool& bCancel) override
     {
-        if (depth_ >= DeepestCall || nestedCalls_ >= MostNestedCalls || input_.IsEmpty())
-            return;
-        ++nestedCalls_;
-        const u8 kind = input_.Byte();
+        const u8 kind = React();
         bCancel = kind % 16 == 1;
         if (kind % 16 == 2)
             PictureHdc = input_.AnyI16();
+    }
+    void AfterEdit(i16, i16) override { React(); }
+    void TextChange(i16, i16) override { React(); }
+    void ResizeRow(i16, i16& NewHeight) override { Change(NewHeight); }
+    void ResizeCol(i16, i16& NewWidth) override { Change(NewWidth); }
+    void SearchResult(i16, i16& Pos) override { Change(Pos); }
+
+private:
+    // A call from inside an event, or none any more; the byte that says which.
+    u8 React()
+    {
+        if (depth_ >= DeepestCall || nestedCalls_ >= MostNestedCalls || input_.IsEmpty())
+            return 0;
+        ++nestedCalls_;
+        const u8 kind = input_.Byte();
         ++depth_;
         NestedCall(kind);
         --depth_;
+        return kind;
     }
 
-private:
+    void Change(i16& value)
+    {
+        if (React() % 16 == 1)
+            value = input_.AnyI16();
+    }
+
     HeadlessOptions Options(FuzzInput& input)
     {
         constexpr double scales[] = { 1, 1.25, 1.5, 2 };

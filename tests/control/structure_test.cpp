@@ -716,6 +716,26 @@ TEST_F(Structure, AnEditorThatIsEmptiedTellsSoWhereverItIs)
     EXPECT_THAT(told, ElementsAre(0, 0)) << "once for each text that went";
 }
 
+TEST_F(Structure, AnEditorWithAMaskIsEmptiedToItsPlaces)
+{
+    Filled(3, 2);
+    Grid().SetColMask(0, u"00-00");
+    Grid().SetColMode(0, vxTextBox);
+    Grid().SetText(1, 0, u"12-34");
+    Grid().CurrentPos(1, 0);
+    Grid().EnterEdit();
+    int told = 0;
+    handlers.OnTextChange = [&](i16, i16) { ++told; };
+    Grid().ClearRow(1);
+    EXPECT_EQ(Grid().Text(1, 0), u"");
+    EXPECT_EQ(told, 1);
+    EXPECT_TRUE(Grid().IsEditMode());
+    host->Press("Home");
+    host->Type(u"56");
+    EXPECT_EQ(Grid().Text(1, 0).substr(0, 2), u"56") << "nothing of what was there comes back";
+    EXPECT_EQ(Grid().Text(1, 0).find(u"4"), std::u16string::npos);
+}
+
 TEST_F(Structure, AHandlerOfTheEmptiedEditorMayTakeTheRowAway)
 {
     Filled(3, 2);

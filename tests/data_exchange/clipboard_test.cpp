@@ -225,4 +225,35 @@ TEST_F(Clipboard, AHandlerOfTheRepaintMayCloseTheControl)
     EXPECT_EQ(ErrorOf([&] { Grid().PasteFromClipboard(0, 0, 0, 0); }), 5);
 }
 
+// A clipboard that waits for another program lets the own one run meanwhile.
+class ClosingContainer : public HeadlessContainer {
+public:
+    std::u16string ClipboardText() const override
+    {
+        const_cast<ClosingContainer*>(this)->Close();
+        return u"a\tb";
+    }
+    void SetClipboardText(std::u16string_view text) override
+    {
+        HeadlessContainer::SetClipboardText(text);
+        Close();
+    }
+};
+
+TEST(ClosingClipboard, EndsAPasteWithoutAnError)
+{
+    ClosingContainer container;
+    EXPECT_EQ(ErrorOf([&] { container.Grid().PasteFromClipboard(0, 0, 0, 0); }), std::nullopt);
+    EXPECT_TRUE(container.Grid().IsTerminated());
+}
+
+TEST(ClosingClipboard, HasWhatWasCopied)
+{
+    ClosingContainer container;
+    container.Grid().SetText(0, 0, u"text");
+    EXPECT_EQ(ErrorOf([&] { container.Grid().CopyToClipboard(0, 0, 0, 0); }), std::nullopt);
+    EXPECT_TRUE(container.Grid().IsTerminated());
+    EXPECT_EQ(container.HeadlessContainer::ClipboardText(), u"text");
+}
+
 } // namespace vornix

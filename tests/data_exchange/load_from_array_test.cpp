@@ -338,6 +338,42 @@ TEST_F(LoadFromArray, RaisesNoEventOfItsOwn)
     EXPECT_TRUE(host->Log().empty());
 }
 
+TEST_F(LoadFromArray, ClosesAnOpenEditor)
+{
+    Table(2, 2);
+    Grid().SetCellMode(1, 0, vxTextBox);
+    Grid().CurrentPos(1, 0);
+    Grid().EnterEdit();
+    Grid().SetSelText(u"typed");
+    std::vector<CellPlace> closed;
+    handlers.OnAfterEdit = [&](i16 Row, i16 Col) {
+        closed.push_back({ Row, Col });
+        Grid().EnterEdit();
+    };
+    Grid().LoadFromArray(MakeArray(2, 1));
+    EXPECT_THAT(closed, ElementsAre(CellPlace { 1, 0 }));
+    EXPECT_EQ(Grid().Text(1, 0), u"typed");
+    EXPECT_EQ(Grid().Text(2, 0), u"a0");
+    EXPECT_TRUE(Grid().IsEditMode()) << "the handler has opened it anew, on a row that stays";
+    Grid().SetSelText(u"more ");
+    EXPECT_EQ(Grid().Text(1, 0), u"typedmore ");
+}
+
+TEST_F(LoadFromArray, AHandlerOfTheEditorThatClosesMayEmptyOrCloseTheControl)
+{
+    for (const bool closes : { false, true }) {
+        Table(2, 2);
+        Grid().SetCellMode(1, 0, vxTextBox);
+        Grid().CurrentPos(1, 0);
+        Grid().EnterEdit();
+        handlers.OnAfterEdit = [&](i16, i16) { closes ? host->Close() : Grid().SetRows(0); };
+        // The rows that were there are counted no more.
+        EXPECT_EQ(ErrorOf([&] { Grid().LoadFromArray(MakeArray(3, 2)); }), std::nullopt) << closes;
+        EXPECT_EQ(Grid().IsTerminated(), closes);
+        handlers.OnAfterEdit = {};
+    }
+}
+
 TEST_F(LoadFromArray, AClosedControlIsErrorFive)
 {
     host->Close();

@@ -1,13 +1,10 @@
 #include "column_content.h"
 
+#include "blanks.h"
+
 namespace vornix::viewer {
 
 namespace {
-
-bool IsBlank(std::u16string_view text)
-{
-    return text.find_first_not_of(u" \t\u00A0") == std::u16string_view::npos;
-}
 
 bool IsPlaceholder(std::u16string_view text)
 {

@@ -1,5 +1,6 @@
 #include "column_inputs.h"
 
+#include "blanks.h"
 #include "typed_date.h"
 
 #include <algorithm>
@@ -12,11 +13,6 @@ constexpr int FewestTexts = 8; // in a column, for a list of them to be worth it
 constexpr int MostChoices = 20;
 constexpr int UsesOfEach = 3; // on average
 constexpr std::size_t LongestChoice = 60; // UTF-16 units; the field of a list does not grow with its text
-
-bool IsBlank(std::u16string_view text)
-{
-    return text.find_first_not_of(u" \t\u00A0") == std::u16string_view::npos;
-}
 
 bool FitsList(std::u16string_view text)
 {

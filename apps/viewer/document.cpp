@@ -47,11 +47,11 @@ void Document::Change(int row, int column, std::u16string_view text)
     edits_.Set(row, column, WithLineBreaksOf(old, text, source_.saver->LineBreak()));
 }
 
-std::optional<std::string> Document::WhyNoMoreRows() const
+std::optional<std::string> Document::WhyNoMoreRows(int count) const
 {
     if (whyReadOnly_)
         return whyReadOnly_;
-    if (RowCount() >= LoadLimits().maxRows)
+    if (RowCount() + count > LoadLimits().maxRows)
         return "the grid holds no more than " + Counted(static_cast<std::uint64_t>(LoadLimits().maxRows), "row");
     return {};
 }

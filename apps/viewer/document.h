@@ -43,15 +43,15 @@ public:
     void Change(int row, int column, std::u16string_view text);
     std::u16string_view Text(int row, int column) const { return edits_.Text(row, column); }
 
-    // Why no row can be added, in one line; nothing when one can.
-    std::optional<std::string> WhyNoMoreRows() const;
+    // Why so many rows more cannot be, in one line; nothing when they can.
+    std::optional<std::string> WhyNoMoreRows(int count = 1) const;
     // Beside one that is there, or as the first of all beside -1; gives its number. Throws std::logic_error when none can
     // be added.
     int AddRow(int neighbour, Records::Side side);
     bool CanRemove(int row) const;
     // Throws std::logic_error when it cannot be removed.
     void RemoveRow(int row);
-    // With its texts. False when the removal has been saved.
+    // With its texts, where there is room for it. False when the removal has been saved.
     bool RestoreRow(int row) { return records_.Restore(row); }
 
     bool IsChanged() const { return ChangeCount() > 0; }

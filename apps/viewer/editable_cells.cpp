@@ -82,6 +82,25 @@ bool IsBeingEdited(const Vornix& grid, int row, int column)
     return grid.IsEditMode() && grid.CurrentRow() == row && grid.CurrentCol() == column;
 }
 
+bool IsTruthValue(std::u16string_view text)
+{
+    return text == u"-1" || text == u"0";
+}
+
+void Show(Vornix& grid, const Document& document, const ColumnInputs& inputs, i16 Row, const CellText& cell, bool isBox)
+{
+    if (IsBeingEdited(grid, Row, cell.column))
+        grid.ExitEdit();
+    const i16 Col = static_cast<i16>(cell.column);
+    if ((grid.CellMode(Row, Col) == vxCheckBox) != isBox)
+        grid.SetCellMode(Row, Col, isBox ? vxCheckBox : vxTextBox);
+    if (isBox)
+        grid.SetCellChecked(Row, Col, cell.text == u"-1");
+    else
+        grid.SetText(Row, Col, cell.text);
+    CellOpener(grid, document, inputs).OpenCell(Row, cell.row, Col);
+}
+
 } // namespace
 
 void MakeEditable(Vornix& grid, const Document& document, const ColumnInputs& inputs)
@@ -116,25 +135,16 @@ void FillList(Vornix& grid, const ColumnInputs& inputs, i16 Row, i16 Col)
 
 void ShowText(Vornix& grid, const Document& document, const ColumnInputs& inputs, i16 Row, const CellText& cell)
 {
-    if (IsBeingEdited(grid, Row, cell.column))
-        grid.ExitEdit();
-    const i16 Col = static_cast<i16>(cell.column);
-    if (grid.CellMode(Row, Col) == vxCheckBox && (cell.text == u"-1" || cell.text == u"0"))
-        grid.SetCellChecked(Row, Col, cell.text == u"-1");
-    else
-        grid.SetText(Row, Col, cell.text);
-    CellOpener(grid, document, inputs).OpenCell(Row, cell.row, Col);
+    const ColumnKind kind = document.Saved().Columns()[static_cast<std::size_t>(cell.column)].kind;
+    Show(grid, document, inputs, Row, cell, kind == ColumnKind::Boolean && IsTruthValue(cell.text));
 }
 
 void ShowCell(Vornix& grid, const Document& document, const ColumnInputs& inputs, i16 Row, int row, int column)
 {
-    const i16 Col = static_cast<i16>(column);
     const std::u16string text(document.Text(row, column));
-    const bool isTruthValue = text == u"-1" || text == u"0";
-    // In a new row of the grid all of them are boxes.
-    if (grid.CellMode(Row, Col) == vxCheckBox && !isTruthValue)
-        grid.SetCellMode(Row, Col, vxTextBox);
-    ShowText(grid, document, inputs, Row, { row, column, text });
+    // In a new row of the grid all of them are boxes. What was typed elsewhere is a text until it is saved.
+    const bool isBox = grid.CellMode(Row, static_cast<i16>(column)) == vxCheckBox && IsTruthValue(text);
+    Show(grid, document, inputs, Row, { row, column, text }, isBox);
 }
 
 void ShowRow(Vornix& grid, const Document& document, const ColumnInputs& inputs, i16 Row, int row)

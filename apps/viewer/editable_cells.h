@@ -14,7 +14,8 @@ void MakeEditable(Vornix& grid, const Document& document, const ColumnInputs& in
 // Fills the list of a cell that has one, before its editor opens.
 void FillList(Vornix& grid, const ColumnInputs& inputs, i16 Row, i16 Col);
 
-// A cell of the grid that now reads otherwise, without an event. Its editor closes if it has one.
+// A cell of the grid that now reads otherwise, without an event. Its editor closes if it has one. In a column of truth
+// values it is a check box where it has one.
 void ShowText(Vornix& grid, const Document& document, const ColumnInputs& inputs, i16 Row, const CellText& cell);
 
 // The same for a cell, or all cells and the name, of a row of the document, as they are now.

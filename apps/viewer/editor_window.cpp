@@ -136,8 +136,10 @@ void EditorWindow::BeginEditing(i16 Row, i16 Col)
 
 void EditorWindow::EndEditing()
 {
-    if (!date_.Unfinished().empty())
+    if (!date_.Unfinished().empty()) {
         notice_ = OneLine(ToUtf8(date_.Unfinished())) + " is no date and was not taken";
+        SearchAgainSoon(); // the old one comes back
+    }
     date_.End();
     TellChanges();
     TellStateLater();
@@ -164,7 +166,7 @@ bool EditorWindow::TakeKey(i16 KeyCode, i16 Shift)
     case 'V': {
         // What fills several cells is for no editor.
         const TextBlock block = BlockOf(QApplication::clipboard()->text().toStdU16String());
-        return (block.size() > 1 || (!block.empty() && block.front().size() > 1)) && (Paste(), true);
+        return (block.size() > 1 || (!block.empty() && block.front().size() > 1)) && (PasteBlock(block), true);
     }
     default:
         return false;
@@ -179,8 +181,12 @@ void EditorWindow::Cut()
 
 void EditorWindow::Paste()
 {
+    PasteBlock(BlockOf(QApplication::clipboard()->text().toStdU16String()));
+}
+
+void EditorWindow::PasteBlock(const TextBlock& block)
+{
     FinishEditing();
-    const TextBlock block = BlockOf(QApplication::clipboard()->text().toStdU16String());
     Changed(editor_.Paste(SelectedCellsOf(Grid()), block));
 }
 
@@ -215,14 +221,13 @@ void EditorWindow::AddRows(Records::Side side)
 void EditorWindow::RemoveRows()
 {
     FinishEditing();
-    Changed(editor_.RemoveRows(SelectedCellsOf(Grid())));
+    Changed(editor_.RemoveRows(SelectedRowsOf(Grid())));
 }
 
 void EditorWindow::RestoreRows()
 {
     FinishEditing();
-    editor_.RestoreRows();
-    Changed({});
+    Changed(editor_.RestoreRows());
 }
 
 void EditorWindow::Changed(const std::string& line)
@@ -292,6 +297,7 @@ bool EditorWindow::Save()
         const std::vector<CellText> others = document_.Save();
         if (document_.RowCount() != rows)
             FinishEditing(); // rows go with those that were deleted
+        SearchAgainSoon();
         editor_.ShowSaved(others);
         date_.Saved();
     } catch (const std::bad_alloc&) {

@@ -47,6 +47,7 @@ private:
     void EndEditing();
     // Whether a key that an editor has heard is for the whole cell.
     bool TakeKey(i16 KeyCode, i16 Shift);
+    void PasteBlock(const TextBlock& block);
     void TakeChange(i16 Row, i16 Col);
     void TakeDate();
     void AddRows(Records::Side side);

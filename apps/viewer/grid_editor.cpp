@@ -7,6 +7,7 @@
 #include "unicode.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace vornix::viewer {
 
@@ -93,11 +94,11 @@ std::string GridEditor::Line(const Refusals& refusals, int cells, const char* do
 
 std::string GridEditor::AddRows(Records::Side side, i16& first)
 {
-    const SelectedCells cells = SelectedCellsOf(grid_);
-    const bool isTop = cells.IsEmpty();
-    const int count = grid_.SelectCountRow() > 0 ? static_cast<int>(cells.Rows.size()) : 1;
+    const std::vector<i16> Rows = SelectedRowsOf(grid_);
+    const bool isTop = Rows.empty();
+    const int count = grid_.SelectCountRow() > 0 ? static_cast<int>(Rows.size()) : 1;
     const bool isBefore = isTop || side == Records::Side::Before;
-    const int beside = isTop ? 0 : (isBefore ? cells.Rows.front() : cells.Rows.back());
+    const int beside = isTop ? 0 : (isBefore ? Rows.front() : Rows.back());
     int neighbour = rows_.At(beside); // -1 in an empty table
     Records::Side next = isBefore ? Records::Side::Before : Records::Side::Behind;
     std::vector<int> added;
@@ -125,11 +126,11 @@ void GridEditor::Insert(int Row, const std::vector<int>& rows)
         ShowRow(grid_, document_, inputs_, static_cast<i16>(Row + static_cast<int>(place)), rows[place]);
 }
 
-std::string GridEditor::RemoveRows(const SelectedCells& cells)
+std::string GridEditor::RemoveRows(const std::vector<i16>& Rows)
 {
     std::vector<RemovedRow> removed;
     std::vector<int> places;
-    for (const i16 Row : cells.Rows) {
+    for (const i16 Row : Rows) {
         const int row = rows_.At(Row);
         if (!document_.CanRemove(row))
             continue;
@@ -140,7 +141,7 @@ std::string GridEditor::RemoveRows(const SelectedCells& cells)
     Remove(places);
     if (!removed.empty())
         removed_.push_back(removed);
-    const std::size_t left = cells.Rows.size() - removed.size();
+    const std::size_t left = Rows.size() - removed.size();
     return left == 0 ? std::string() : Counted(left, "row") + " cannot be deleted";
 }
 
@@ -152,28 +153,32 @@ void GridEditor::Remove(const std::vector<int>& Rows)
     ForEachRunFromTheEnd(Rows, [this](int Row, int count) { rows_.Remove(Row, count); });
 }
 
-bool GridEditor::RestoreRows()
+std::string GridEditor::RestoreRows()
 {
     if (removed_.empty())
-        return false;
-    const std::vector<RemovedRow> last = std::move(removed_.back());
+        return {};
+    if (const auto reason = document_.WhyNoMoreRows(static_cast<int>(removed_.back().size())))
+        return "no rows undeleted: " + *reason;
+    std::vector<RemovedRow> last = std::move(removed_.back());
     removed_.pop_back();
+    std::erase_if(last, [this](const RemovedRow& removed) { return !document_.RestoreRow(removed.row); });
     const RedrawPause pause(grid_);
     for (std::size_t begin = 0; begin < last.size();) {
         std::vector<int> run;
         for (std::size_t place = begin;
-             place < last.size() && last[place].Row == last[begin].Row + static_cast<int>(run.size()); ++place) {
-            document_.RestoreRow(last[place].row);
+             place < last.size() && last[place].Row == last[begin].Row + static_cast<int>(run.size()); ++place)
             run.push_back(last[place].row);
-        }
         Insert(std::min(last[begin].Row, rows_.Count()), run);
         begin += run.size();
     }
-    return true;
+    return {};
 }
 
 void GridEditor::ShowSaved(const std::vector<CellText>& others)
 {
+    std::optional<RedrawPause> pause;
+    if (!grid_.IsEditMode()) // which it would end
+        pause.emplace(grid_);
     removed_.clear();
     std::vector<int> gone;
     for (int Row = 0; Row < rows_.Count(); ++Row) {
@@ -181,12 +186,15 @@ void GridEditor::ShowSaved(const std::vector<CellText>& others)
             gone.push_back(Row);
     }
     Remove(gone);
+    std::vector<i16> places(static_cast<std::size_t>(document_.Saved().RowCount()), NoIndex);
+    for (int Row = 0; Row < rows_.Count(); ++Row) {
+        places.at(static_cast<std::size_t>(rows_.At(Row))) = static_cast<i16>(Row);
+        ShowName(grid_, document_, static_cast<i16>(Row), rows_.At(Row));
+    }
     for (const CellText& cell : others) {
-        if (const i16 Row = rows_.PlaceOf(cell.row); Row != NoIndex)
+        if (const i16 Row = places.at(static_cast<std::size_t>(cell.row)); Row != NoIndex)
             ShowText(grid_, document_, inputs_, Row, cell);
     }
-    for (int Row = 0; Row < rows_.Count(); ++Row)
-        ShowName(grid_, document_, static_cast<i16>(Row), rows_.At(Row));
 }
 
 } // namespace vornix::viewer

@@ -31,12 +31,12 @@ public:
     std::string Paste(const SelectedCells& cells, const TextBlock& block);
     std::string Clear(const SelectedCells& cells);
 
-    // As many as the selection has whole rows, or one, beside the selection or the current cell; at the top where that is
-    // in the header. `first` is where the first of them is shown, NoIndex without any.
+    // As many as the selection has whole rows, or one, beside the selected rows or the current one; at the top where that
+    // is in the header. `first` is where the first of them is shown, NoIndex without any.
     std::string AddRows(Records::Side side, i16& first);
-    std::string RemoveRows(const SelectedCells& cells);
-    // Those that were removed last come back. False when there are none.
-    bool RestoreRows();
+    std::string RemoveRows(const std::vector<i16>& Rows);
+    // Those that were removed last come back, all or none.
+    std::string RestoreRows();
     bool CanRestoreRows() const { return !removed_.empty(); }
 
     // What saving has made of the cells, and of the rows. An editor stays open unless its cell reads otherwise.

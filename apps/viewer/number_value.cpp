@@ -1,5 +1,7 @@
 #include "number_value.h"
 
+#include "blanks.h"
+
 #include <algorithm>
 #include <array>
 
@@ -7,7 +9,6 @@ namespace vornix::viewer {
 
 namespace {
 
-constexpr std::u16string_view Blanks = u" \t\u00A0\u202F";
 constexpr std::u16string_view CurrencySigns = u"$€£¥₹₽₩₪₺฿";
 constexpr std::size_t CodeLength = 3; // EUR, USD
 constexpr int LargestExponent = 9999;
@@ -71,7 +72,7 @@ std::optional<int> ExponentIn(std::u16string_view text)
 std::optional<DecimalNumber> PlainNumberIn(std::u16string_view text, DecimalMark mark)
 {
     const char16_t decimal = mark == DecimalMark::Point ? u'.' : u',';
-    constexpr std::u16string_view groups = u".,' \u00A0\u202F\u2019";
+    constexpr std::u16string_view groups = u".,' \u00A0\u202F\u2009\u2019";
     DecimalNumber number;
     bool hasMark = false;
     bool hasDigits = false;

@@ -48,8 +48,8 @@ public:
     // How the source breaks lines; empty where it has no way of its own.
     virtual std::u16string_view LineBreak() const { return {}; }
     // Saves all of the changes or, raising SaveError, none; the source is then as it was. Gives the cells that do not read
-    // as the changes say: what the source has made of a text, what a new row has got without one, and what was changed
-    // besides.
+    // as the changes say: what the source has made of a text, a truth value where there was none, what a new row has got
+    // without one, and what was changed besides.
     virtual SaveOutcome Save(const Changes& changes) = 0;
 };
 

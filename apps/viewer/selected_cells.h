@@ -18,8 +18,11 @@ struct SelectedCells {
     bool IsEmpty() const { return Rows.empty() || Cols.empty(); }
 };
 
-// Whole rows, whole columns or a rectangle; without a selection, the current cell.
+// Whole rows, whole columns or a rectangle, as far as the table goes; without a selection, the current cell.
 SelectedCells SelectedCellsOf(Vornix& grid);
+
+// Those that are selected as whole rows or in a rectangle; without any, the current one. None where that is in the header.
+std::vector<i16> SelectedRowsOf(Vornix& grid);
 
 // Their texts, with those of the columns for truth values.
 TextBlock TextsOf(const Vornix& grid, const std::vector<Column>& columns, const SelectedCells& cells);

@@ -42,12 +42,6 @@ int ShownRows::At(int Row) const
     return Row < 0 || Row >= Count() ? -1 : rows_[static_cast<std::size_t>(Row)];
 }
 
-i16 ShownRows::PlaceOf(int row) const
-{
-    const auto found = std::find(rows_.begin(), rows_.end(), row);
-    return found == rows_.end() ? NoIndex : static_cast<i16>(found - rows_.begin());
-}
-
 void ShownRows::Sort(const SortList& sort, const std::vector<int>& order)
 {
     const RedrawPause pause(grid_);

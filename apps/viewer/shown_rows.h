@@ -19,8 +19,6 @@ public:
 
     // -1 of the header.
     int At(int Row) const;
-    // NoIndex where it is not shown.
-    i16 PlaceOf(int row) const;
     int Count() const { return static_cast<int>(rows_.size()); }
 
     // By the columns and then by `order`, which has all that are shown; without columns by that alone. Kinds of columns

@@ -1,5 +1,6 @@
 #include "sort_key.h"
 
+#include "blanks.h"
 #include "cell_content.h"
 
 #include <algorithm>
@@ -79,7 +80,7 @@ DayOrder SortKeyMaker::Order() const
 
 std::u16string SortKeyMaker::KeyOf(std::u16string_view text) const
 {
-    if (text.find_first_not_of(u" \t\u00A0") == std::u16string_view::npos)
+    if (IsBlank(text))
         return {};
     if (HasNumbers()) {
         if (const auto number = NumberIn(text, Mark()))
@@ -87,8 +88,9 @@ std::u16string SortKeyMaker::KeyOf(std::u16string_view text) const
     } else if (HasDates()) {
         if (const auto moment = MomentIn(NormalizedValue(text), Order()))
             return KeyOfMoment(*moment);
-    } else if (kind_ == ColumnKind::Boolean && (text == u"-1" || text == u"0")) {
-        return Beginning(text == u"0" ? Class::Zero : Class::Positive);
+    } else if (kind_ == ColumnKind::Boolean) {
+        if (const auto value = text == u"-1" ? std::optional(true) : TruthValueOf(text)) // typed it may be a word
+            return Beginning(*value ? Class::Positive : Class::Zero);
     }
     return Beginning(Class::Text) + std::u16string(text);
 }

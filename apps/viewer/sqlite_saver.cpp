@@ -354,7 +354,9 @@ SaveOutcome SqliteSaver::TakeOver(
         for (int column = 0; column < table_.ColumnCount(); ++column) {
             const auto index = static_cast<std::size_t>(column);
             rows.SetLocked(read.row, column, read.isLocked[index]);
-            if (read.texts[index] != changes.Text(read.row, column))
+            const bool isNewTruth = table_.Columns()[index].kind == ColumnKind::Boolean
+                && (read.texts[index] == u"-1" || read.texts[index] == u"0") && !table_.HasTruthValue(read.row, column);
+            if (isNewTruth || read.texts[index] != changes.Text(read.row, column))
                 others.push_back({ read.row, column, std::move(read.texts[index]) });
         }
     }

@@ -384,7 +384,7 @@ void ViewerWindow::FindPrevious()
 
 void ViewerWindow::GoTo(std::optional<FoundCell> cell)
 {
-    if (!cell)
+    if (!cell || rows_.At(cell->Row) < 0)
         return;
     FinishEditing();
     SelectCell(cell->Row, cell->Col);

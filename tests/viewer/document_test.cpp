@@ -248,6 +248,7 @@ TEST(Document, AddsNoMoreRowsThanTheGridHolds)
     EXPECT_THROW(document.AddRow(0, Records::Side::Before), std::logic_error);
     document.RemoveRow(5);
     EXPECT_EQ(document.WhyNoMoreRows(), std::nullopt);
+    EXPECT_EQ(document.WhyNoMoreRows(2), "the grid holds no more than 32,765 rows");
 }
 
 TEST(Document, IsReadOnlyWhereItsSourceIs)

@@ -117,6 +117,22 @@ TEST(EditableCells, ShowWhatTheSourceHasMadeOfThem)
     EXPECT_EQ(desk.grid.CellMode(0, 2), vxCheckBox);
 }
 
+TEST(EditableCells, AreCheckBoxesOnceTheyHaveATruthValue)
+{
+    Desk desk;
+    desk.document.Change(1, 2, u"0");
+    ShowCell(desk.grid, desk.document, desk.inputs, 1, 1, 2);
+    EXPECT_EQ(desk.grid.CellMode(1, 2), vxTextBox) << "a text that was typed";
+    ShowText(desk.grid, desk.document, desk.inputs, 1, { 1, 2, u"-1" });
+    EXPECT_EQ(desk.grid.CellMode(1, 2), vxCheckBox);
+    EXPECT_TRUE(desk.grid.CellChecked(1, 2));
+    ShowText(desk.grid, desk.document, desk.inputs, 1, { 1, 2, u"" });
+    EXPECT_EQ(desk.grid.CellMode(1, 2), vxTextBox) << "none any more";
+    ShowText(desk.grid, desk.document, desk.inputs, 0, { 0, 0, u"-1" });
+    EXPECT_EQ(desk.grid.Text(0, 0), u"-1") << "a number";
+    EXPECT_EQ(desk.grid.CellMode(0, 0), vxTextBox);
+}
+
 TEST(EditableCells, CloseTheEditorOfACellThatReadsOtherwiseOnly)
 {
     Desk desk;

@@ -385,6 +385,34 @@ TEST_F(EditorWindowTest, CopiesCutsAndClearsCells)
     EXPECT_EQ(Grid().Text(2, 0), u"");
 }
 
+TEST_F(EditorWindowTest, CopiesEmptyCellsToo)
+{
+    Grid().CurrentPos(2, 2);
+    Grid().SetSelectedCells(2, 2, 2, 2);
+    ASSERT_EQ(Grid().Text(2, 2), u"");
+    Type(Qt::Key_C, Qt::ControlModifier);
+    Grid().SetSelectedCells(0, 0, 1, 0);
+    Type(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(document.Text(0, 0), u"");
+    EXPECT_EQ(document.Text(1, 0), u"");
+    Grid().SetSelectedCells(1, 2, 2, 2);
+    Type(Qt::Key_C, Qt::ControlModifier);
+    Grid().SetSelectedCells(0, 3, 2, 3);
+    Type(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(document.Text(0, 3), u"no");
+    EXPECT_EQ(document.Text(1, 3), u"") << "the second of two";
+    EXPECT_EQ(document.Text(2, 3), u"d") << "and no more";
+}
+
+TEST_F(EditorWindowTest, DeletesTheCurrentRowWhereAColumnIsSelected)
+{
+    Grid().CurrentPos(1, 0);
+    Grid().SetColSelected(0, true);
+    Type(Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(Grid().Rows(), 2);
+    EXPECT_EQ(Grid().Text(1, 0), u"Bern");
+}
+
 TEST_F(EditorWindowTest, LeavesAnOpenEditorItsKeys)
 {
     Type(Qt::Key_F2);
@@ -530,6 +558,19 @@ TEST_F(EditorWindowOfJobsTest, SaysThatAnUnfinishedDateWasNotTaken)
     EXPECT_EQ(Grid().Text(1, 1), u"2024-02-29");
 }
 
+TEST_F(EditorWindowOfJobsTest, FindsTheOldDateWhereTheNewOneWasNotTaken)
+{
+    Type(Qt::Key_F, Qt::ControlModifier);
+    QTest::keyClicks(window.findChild<QWidget*>(QStringLiteral("findText")), QStringLiteral("2024-12-31"));
+    EXPECT_EQ(Label("findCount"), "1 of 1");
+    window.GridWidget().setFocus();
+    Open(0, 1);
+    Type(Qt::Key_Delete);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Label("findCount") == "not found"; }));
+    Type(Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Label("findCount") == "1 of 1"; }));
+}
+
 TEST_F(EditorWindowOfJobsTest, TakesAnEmptiedDateForNone)
 {
     Open(0, 1);
@@ -660,22 +701,58 @@ TEST(EditorWindow, KeepsANameThatLooksLikeTheMark)
     EXPECT_EQ(window.windowTitle(), QStringLiteral("a[*][*].csv[*] - Vornix"));
 }
 
-// Saves everything, and then tells of a cell that the table does not have.
-class ForgetfulSaver final : public Saver {
+// Saves everything, and then tells this.
+class FakeSaver final : public Saver {
 public:
+    explicit FakeSaver(SaveOutcome outcome)
+        : outcome_(std::move(outcome))
+    {
+    }
+
     std::optional<std::string> WhyReadOnly() const override { return {}; }
     bool CanChange(int, int) const override { return true; }
-    SaveOutcome Save(const Changes&) override { return { { { 99, 0, u"" } } }; }
+    SaveOutcome Save(const Changes&) override { return outcome_; }
+
+private:
+    SaveOutcome outcome_;
 };
 
-TEST(EditorWindow, TellsOfChangesThatAreSavedButCannotBeShown)
+// Of one column.
+Document DocumentOf(const std::vector<Field>& texts, SaveOutcome outcome)
 {
     auto table = std::make_unique<Table>();
     table->SetName(u"file.csv");
     table->Columns() = { { u"a" } };
-    table->AppendRow(std::vector<Field> { { u"one" } });
-    table->SetTotalRows(1);
-    Document document(ChangeableSource { std::move(table), std::make_unique<ForgetfulSaver>() });
+    for (const Field& text : texts)
+        table->AppendRow({ &text, 1 });
+    table->SetTotalRows(texts.size());
+    return Document(ChangeableSource { std::move(table), std::make_unique<FakeSaver>(std::move(outcome)) });
+}
+
+TEST(EditorWindow, FindsNothingInRowsThatSavingHasRemoved)
+{
+    Document document
+        = DocumentOf({ { u"one" }, { u"two" }, { u"two" } }, { .others = { { 0, 0, u"two" } }, .removed = { 1, 2 } });
+    EditorWindow window(document);
+    window.show();
+    window.OpenFindBar();
+    const auto count = [&] { return window.findChild<QLabel*>(QStringLiteral("findCount"))->text().toStdString(); };
+    QTest::keyClicks(window.findChild<QWidget*>(QStringLiteral("findText")), QStringLiteral("two"));
+    EXPECT_EQ(count(), "1 of 2");
+    document.Change(0, 0, u"2");
+    EXPECT_TRUE(window.Save());
+    for (int time = 0; time < 2; ++time) {
+        window.FindNext();
+        EXPECT_EQ(count(), "1 of 1");
+        EXPECT_EQ(window.GridWidget().Grid().CurrentRow(), 0);
+        window.Copy();
+        EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("two"));
+    }
+}
+
+TEST(EditorWindow, TellsOfChangesThatAreSavedButCannotBeShown)
+{
+    Document document = DocumentOf({ { u"one" } }, { { { 99, 0, u"" } } }); // of a cell that is not there
     EditorWindow window(document);
     window.show();
     document.Change(0, 0, u"two");

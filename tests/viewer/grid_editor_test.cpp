@@ -168,6 +168,19 @@ TEST(GridEditor, AddsAsManyRowsAsAreSelected)
     EXPECT_THAT(desk.document.Rows(), ElementsAre(0, 1, 2, 4, 5, 3));
 }
 
+TEST(GridEditor, AddsRowsBesideTheCurrentOneWhereColumnsAreSelected)
+{
+    Desk desk;
+    desk.grid.CurrentPos(1, 0);
+    desk.grid.SetColSelected(2, true);
+    i16 first = 0;
+    desk.editor.AddRows(Side::Behind, first);
+    EXPECT_EQ(first, 2);
+    desk.editor.AddRows(Side::Before, first);
+    EXPECT_EQ(first, 1);
+    EXPECT_EQ(desk.Names(), u"1 +2 2 +1 3 4");
+}
+
 TEST(GridEditor, AddsNoMoreRowsThanTheGridHolds)
 {
     Desk desk;
@@ -188,26 +201,55 @@ TEST(GridEditor, RemovesRowsAndBringsThemBack)
 {
     Desk desk;
     desk.document.Change(2, 0, u"changed");
-    EXPECT_EQ(desk.editor.RemoveRows({ { 0, 2, 3 }, { 0 } }), "1 row cannot be deleted");
+    EXPECT_EQ(desk.editor.RemoveRows({ 0, 2, 3 }), "1 row cannot be deleted");
     EXPECT_EQ(desk.Names(), u"2 4");
     EXPECT_TRUE(desk.editor.CanRestoreRows());
-    EXPECT_EQ(desk.editor.RemoveRows({ { 0 }, { 0 } }), "");
+    EXPECT_EQ(desk.editor.RemoveRows({ 0 }), "");
     EXPECT_EQ(desk.Names(), u"4");
-    EXPECT_TRUE(desk.editor.RestoreRows());
+    EXPECT_EQ(desk.editor.RestoreRows(), "");
     EXPECT_EQ(desk.Names(), u"2 4");
-    EXPECT_TRUE(desk.editor.RestoreRows());
+    EXPECT_EQ(desk.editor.RestoreRows(), "");
     EXPECT_EQ(desk.Names(), u"1 2 3 4");
     EXPECT_EQ(desk.Column(0), u"A B changed D");
     EXPECT_TRUE(desk.grid.CellChecked(2, 2));
-    EXPECT_FALSE(desk.editor.RestoreRows());
+    EXPECT_FALSE(desk.editor.CanRestoreRows());
+    EXPECT_EQ(desk.editor.RestoreRows(), "");
     EXPECT_EQ(desk.document.ChangeCount(), 1u);
+}
+
+TEST(GridEditor, BringsBackNoMoreRowsThanTheGridHolds)
+{
+    Desk desk;
+    desk.editor.RemoveRows({ 0, 2 });
+    while (desk.document.RowCount() < LoadLimits().maxRows - 1)
+        desk.document.AddRow(1, Side::Behind); // not shown, which does not matter here
+    EXPECT_EQ(desk.editor.RestoreRows(), "no rows undeleted: the grid holds no more than 32,765 rows");
+    EXPECT_EQ(desk.document.RowCount(), LoadLimits().maxRows - 1) << "all or none";
+    EXPECT_EQ(desk.Names(), u"2 4");
+    EXPECT_TRUE(desk.editor.CanRestoreRows());
+    desk.document.RemoveRow(4);
+    EXPECT_EQ(desk.editor.RestoreRows(), "");
+    EXPECT_EQ(desk.Names(), u"1 2 3 4");
+}
+
+TEST(GridEditor, BringsBackNoRowsWhoseEndWasSaved)
+{
+    Desk desk;
+    desk.editor.RemoveRows({ 0 });
+    desk.saver->outcome.others = { { 99, 0, u"no such cell" } };
+    EXPECT_THROW(desk.document.Save(), std::out_of_range) << "so that it cannot be shown";
+    desk.editor.RemoveRows({ 0 });
+    EXPECT_EQ(desk.editor.RestoreRows(), "");
+    EXPECT_EQ(desk.editor.RestoreRows(), "");
+    EXPECT_EQ(desk.Column(0), u"B C D");
+    EXPECT_FALSE(desk.editor.CanRestoreRows());
 }
 
 TEST(GridEditor, FillsAnEmptyTable)
 {
     Desk desk;
     desk.saver->outcome.removed = { 3 };
-    desk.editor.RemoveRows({ { 0, 1, 2 }, { 0 } });
+    desk.editor.RemoveRows({ 0, 1, 2 });
     desk.editor.ShowSaved(desk.document.Save());
     EXPECT_EQ(desk.grid.Rows(), 0);
     i16 first = 5;
@@ -231,7 +273,7 @@ TEST(GridEditor, KeepsToTheRowsThatASortHasMoved)
     desk.editor.AddRows(Side::Behind, first);
     EXPECT_EQ(desk.Names(), u"4 3 +1 2 1");
     EXPECT_THAT(desk.document.Rows(), ElementsAre(0, 1, 2, 4, 3)) << "behind that row in the source";
-    desk.editor.RemoveRows({ { 3 }, { 0 } });
+    desk.editor.RemoveRows({ 3 });
     EXPECT_THAT(desk.document.Rows(), ElementsAre(0, 2, 4, 3));
     sort.Clear();
     desk.rows.Sort(sort, desk.document.Rows());
@@ -244,7 +286,7 @@ TEST(GridEditor, ShowsWhatSavingHasMade)
     desk.grid.CurrentPos(0, 0);
     i16 first = 0;
     desk.editor.AddRows(Side::Before, first);
-    desk.editor.RemoveRows({ { 2 }, { 0 } });
+    desk.editor.RemoveRows({ 2 });
     desk.saver->outcome = { { { 4, 0, u"given" }, { 0, 2, u"0" }, { 0, 3, u"g" } }, { 2 } };
     desk.editor.ShowSaved(desk.document.Save());
     EXPECT_EQ(desk.Names(), u"1 2 3") << "counted anew";

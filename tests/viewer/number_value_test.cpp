@@ -1,6 +1,10 @@
 #include "number_value.h"
 
+#include "cell_content.h"
+
 #include <gtest/gtest.h>
+
+#include <random>
 
 using namespace vornix::viewer;
 
@@ -38,6 +42,8 @@ TEST(NumberValue, ReadsEitherDecimalMark)
     EXPECT_EQ(Value(u"1.234", DecimalMark::Comma), "0.1234e4");
     EXPECT_EQ(Value(u"1\u00A0234,5", DecimalMark::Comma), "0.12345e4");
     EXPECT_EQ(Value(u"1'234.5"), "0.12345e4");
+    EXPECT_EQ(Value(u"1\u2009234\u2009567"), "0.1234567e7");
+    EXPECT_EQ(Value(u"1\t234"), "none");
     EXPECT_EQ(Value(u"1.2.3"), "none");
 }
 
@@ -62,4 +68,24 @@ TEST(NumberValue, IsNoneOfOtherTexts)
     for (const char16_t* text : { u"", u" ", u"-", u"abc", u"12 monkeys", u"e5", u"5e", u"5e1.5", u"()", u"%", u"$",
              u"2024-03-05", u"1e5e5", u"Inf", u"NA" })
         EXPECT_EQ(Value(text), "none") << std::string(text, text + std::char_traits<char16_t>::length(text));
+}
+
+TEST(NumberValue, IsThereWhereverTheContentIsANumber)
+{
+    const std::u16string_view parts[] = { u"1", u"25", u"000", u"7", u".", u",", u"'", u" ", u"\u00A0", u"\u202F",
+        u"\u2009", u"-", u"+", u"\u2212", u"$", u"€", u"EUR", u"usd", u"SEK", u"%", u"e", u"E", u"(", u")", u"" };
+    std::mt19937 random(3);
+    int numbers = 0;
+    for (int round = 0; round < 300'000; ++round) {
+        std::u16string text;
+        for (auto part = 1 + random() % 7; part > 0; --part)
+            text += parts[random() % std::size(parts)];
+        const Content content = ContentOf(text);
+        const bool isPoint = content & (IntegerWithPoint | RealWithPoint | MoneyWithPoint);
+        const bool isComma = content & (IntegerWithComma | RealWithComma | MoneyWithComma);
+        numbers += isPoint || isComma ? 1 : 0;
+        ASSERT_TRUE(!isPoint || NumberIn(text, DecimalMark::Point)) << testing::PrintToString(text);
+        ASSERT_TRUE(!isComma || NumberIn(text, DecimalMark::Comma)) << testing::PrintToString(text);
+    }
+    EXPECT_GT(numbers, 10'000);
 }

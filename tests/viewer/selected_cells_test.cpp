@@ -76,6 +76,36 @@ TEST(SelectedCells, AreWholeLines)
     EXPECT_THAT(cells.Cols, ElementsAre(1));
 }
 
+TEST(SelectedCells, GoNoFurtherThanTheTable)
+{
+    Desk desk;
+    desk.grid.CurrentPos(1, 1);
+    desk.grid.SetSelectedCells(2, 1, 9, 9);
+    const SelectedCells cells = SelectedCellsOf(desk.grid);
+    EXPECT_THAT(cells.Rows, ElementsAre(2));
+    EXPECT_THAT(cells.Cols, ElementsAre(1, 2));
+    desk.grid.SetSelectedCells(7, 7, 8, 8);
+    EXPECT_THAT(SelectedCellsOf(desk.grid).Rows, ElementsAre(1)) << "the current one";
+}
+
+TEST(SelectedRows, AreWholeOnesOrThoseOfARectangle)
+{
+    Desk desk;
+    EXPECT_THAT(SelectedRowsOf(desk.grid), ElementsAre());
+    desk.grid.CurrentPos(2, 1);
+    EXPECT_THAT(SelectedRowsOf(desk.grid), ElementsAre(2));
+    desk.grid.SetColSelected(0, true);
+    EXPECT_THAT(SelectedRowsOf(desk.grid), ElementsAre(2)) << "columns are no rows";
+    desk.grid.SetColSelected(0, false);
+    desk.grid.SetSelectedCells(0, 0, 1, 0);
+    EXPECT_THAT(SelectedRowsOf(desk.grid), ElementsAre(0, 1));
+    desk.grid.SetRowSelected(2, true);
+    EXPECT_THAT(SelectedRowsOf(desk.grid), ElementsAre(2));
+    desk.grid.SetRowSelected(2, false);
+    desk.grid.CurrentPos(-1, 1);
+    EXPECT_THAT(SelectedRowsOf(desk.grid), ElementsAre()) << "a title";
+}
+
 TEST(SelectedCells, ReadAsTheirSourceWritesThem)
 {
     Desk desk;

@@ -48,6 +48,7 @@ TEST(SortKey, LearnsTheDecimalMarkFromTheColumn)
     ExpectOrder(ColumnKind::Real, { u"1.000", u"1.5", u"2", u"1,234.5" });
     ExpectOrder(ColumnKind::Integer, { u"999", u"1.000", u"2.500.000" });
     ExpectOrder(ColumnKind::Integer, { u"999", u"1,000", u"2,500,000" });
+    ExpectOrder(ColumnKind::Integer, { u"999", u"1\u2009000", u"2\u2009500\u2009000" });
 }
 
 TEST(SortKey, OrdersDatesByTheCalendar)
@@ -69,6 +70,9 @@ TEST(SortKey, LearnsTheOrderOfDayAndMonthFromTheColumn)
 TEST(SortKey, PutsFalseBeforeTrueAndOtherTextsLast)
 {
     ExpectOrder(ColumnKind::Boolean, { u"", u"0", u"-1", u"maybe", u"perhaps" });
+    const SortKeyMaker maker(ColumnKind::Boolean);
+    EXPECT_EQ(maker.KeyOf(u"Yes"), maker.KeyOf(u"-1")) << "as it was typed";
+    EXPECT_EQ(maker.KeyOf(u"false"), maker.KeyOf(u"0"));
 }
 
 TEST(SortKey, LeavesTextsToThemselves)
@@ -89,5 +93,5 @@ TEST(SortKey, IsOfDigitsAlone)
             }
         }
     }
-    EXPECT_EQ(SortKeyMaker(ColumnKind::Integer).KeyOf(u"\u00A0 "), u"");
+    EXPECT_EQ(SortKeyMaker(ColumnKind::Integer).KeyOf(u"\u00A0 \u2009"), u"");
 }

@@ -277,6 +277,22 @@ TEST(SqliteRows, ShowWhatTriggersMakeOfNewOnes)
     EXPECT_THAT(document.Save(), ElementsAre(CellText { row, 2, u"xa" }));
 }
 
+TEST(SqliteRows, TellTheTruthValuesOfNewOnes)
+{
+    const MadeDatabase made("CREATE TABLE t(done BOOLEAN, paid BOOLEAN); INSERT INTO t VALUES(1, 1), (0, NULL);");
+    Document document = Opened(made.Path());
+    document.Change(1, 1, u"0");
+    const int word = Add(document, { u"yes", u"1" });
+    const int digit = Add(document, { u"0", u"-1" });
+    EXPECT_THAT(document.Save(),
+        ElementsAre(CellText { 1, 1, u"0" }, CellText { word, 0, u"-1" }, CellText { word, 1, u"-1" },
+            CellText { digit, 0, u"0" }, CellText { digit, 1, u"-1" }));
+    document.Change(digit, 0, u"-1");
+    document.Change(digit, 1, u"0");
+    EXPECT_THAT(document.Save(), IsEmpty()) << "they are truth values already";
+    EXPECT_THAT(Rows(made.Path(), "SELECT * FROM t"), ElementsAre("1|1", "0|0", "'yes'|1", "1|0"));
+}
+
 TEST(SqliteRows, AreNotRemovedWhereAnotherProgramHasChangedThem)
 {
     MadeDatabase made("CREATE TABLE t(a); INSERT INTO t VALUES('x'), ('y');");

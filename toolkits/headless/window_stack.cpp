@@ -3,7 +3,6 @@
 #include "vornix/headless_container.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace vornix {
 
@@ -77,7 +76,8 @@ InputWindow* WindowStack::TopAt(float x, float y)
 
 HeadlessChild* WindowStack::TopChildAt(float x, float y, const HeadlessChild* frame) const
 {
-    for (HeadlessChild* const child : order_ | std::views::reverse) {
+    for (auto place = order_.rbegin(); place != order_.rend(); ++place) {
+        HeadlessChild* const child = *place;
         if (child->Frame() != frame || !child->IsUsableAt(x, y))
             continue;
         HeadlessChild* const inside = TopChildAt(x, y, child);

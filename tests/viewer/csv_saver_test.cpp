@@ -579,9 +579,11 @@ TEST(CsvSaver, FindsRowsAgainThatHaveMoved)
 
 TEST(CsvSaver, RemovesRowsThatGoOverThePieces)
 {
-    // Around the end of the first piece of 64 KiB, one character further each time.
-    for (int shift = 0; shift < 24; ++shift) {
-        const std::string head = "id,n\r\n0," + std::string(65536 - 20 - static_cast<std::size_t>(shift), 'x') + "\r\n";
+    // Around the end of the first piece of the file, one character further each time.
+    constexpr std::size_t pieceSize = 1 << 18;
+    for (int shift = 0; shift < 32; ++shift) {
+        const std::string head
+            = "id,n\r\n0," + std::string(pieceSize - 20 - static_cast<std::size_t>(shift), 'x') + "\r\n";
         EXPECT_EQ(WithRows(head + "1,\"a\"\r\n2,bb\r\n3,c\r\n4,d",
                       [](Document& document) {
                           document.RemoveRow(2);

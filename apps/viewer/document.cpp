@@ -112,6 +112,10 @@ void Document::TakeOver(const SaveOutcome& outcome)
         source_.table->ReplaceText(cell.row, cell.column, cell.text);
     for (const int row : outcome.removed)
         records_.Remove(row);
+    for (auto& [column, list] : source_.keys) {
+        if (const auto found = outcome.keys.find(column); found != outcome.keys.end())
+            list = found->second;
+    }
 }
 
 void Document::NoteSaved()

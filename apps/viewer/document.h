@@ -33,8 +33,8 @@ public:
     std::string NameOf(int row) const { return records_.NameOf(row); }
     std::optional<std::string> WhyReadOnly() const { return whyReadOnly_; }
     bool CanChange(int row, int column) const;
-    // Of the rows elsewhere that a cell of the column may refer to, as ReadForeignKeys gives them; null where it holds
-    // anything.
+    // Of the rows that a cell of the column may refer to, as ReadForeignKeys gave them last, when the source was opened or
+    // saved; null where it holds anything.
     const std::vector<std::u16string>* KeysFor(int column) const;
 
     // An editor writes all line breaks as CR LF: they become those of the text that was saved where it still says the same,

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "changes.h"
+#include "foreign_keys.h"
 
 #include <optional>
 #include <stdexcept>
@@ -30,6 +31,7 @@ struct CellText {
 struct SaveOutcome {
     std::vector<CellText> others = {};
     std::vector<int> removed = {}; // records that the source has removed by itself
+    ForeignKeys keys = {}; // as they are now, of columns that had some
 };
 
 // Rows are the records of a table.

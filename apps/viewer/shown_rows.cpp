@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <numeric>
 #include <string>
+#include <utility>
 
 namespace vornix::viewer {
 
@@ -46,6 +47,31 @@ void ShownRows::Sort(const SortList& sort, const std::vector<int>& order)
 {
     const RedrawPause pause(grid_);
     grid_.ExitEdit();
+    if (sort.Columns().empty())
+        Arrange(order);
+    else
+        SortByColumns(sort, order);
+    MarkTitles(sort);
+}
+
+void ShownRows::Arrange(const std::vector<int>& order)
+{
+    std::vector<int> places(static_cast<std::size_t>(table_.RowCount()));
+    for (int Row = 0; Row < Count(); ++Row)
+        places.at(static_cast<std::size_t>(At(Row))) = Row;
+    for (int Row = 0; Row < Count(); ++Row) {
+        int& here = rows_[static_cast<std::size_t>(Row)];
+        const int from = places.at(static_cast<std::size_t>(order.at(static_cast<std::size_t>(Row))));
+        if (from == Row)
+            continue;
+        grid_.SwapRows(static_cast<i16>(Row), static_cast<i16>(from));
+        places.at(static_cast<std::size_t>(here)) = from;
+        std::swap(here, rows_[static_cast<std::size_t>(from)]);
+    }
+}
+
+void ShownRows::SortByColumns(const SortList& sort, const std::vector<int>& order)
+{
     SetPlaces(order);
     try {
         for (const SortColumn& key : sort.Columns())
@@ -57,7 +83,6 @@ void ShownRows::Sort(const SortList& sort, const std::vector<int>& order)
     }
     TakePlaces(order);
     ClearKeys(sort);
-    MarkTitles(sort);
 }
 
 void ShownRows::SetPlaces(const std::vector<int>& order)

@@ -21,15 +21,21 @@ public:
     int At(int Row) const;
     int Count() const { return static_cast<int>(rows_.size()); }
 
+    static constexpr int MostSorted = 29'523; // by columns, of the grid
+
+    // Without columns there is nothing to compare, whatever the number.
+    bool CanSort(const SortList& sort) const { return sort.Columns().empty() || Count() <= MostSorted; }
     // By the columns and then by `order`, which has all that are shown; without columns by that alone. Kinds of columns
-    // decide what their texts are compared as. The titles are marked. Raises AutomationError where the grid sorts no more,
-    // which leaves all as it was.
+    // decide what their texts are compared as. The titles are marked. Raises AutomationError where this cannot be, and
+    // leaves the rows as they were.
     void Sort(const SortList& sort, const std::vector<int>& order);
     // New rows of the grid are made for them, one after the other, with the looks of their columns and no texts.
     void Insert(int Row, const std::vector<int>& rows);
     void Remove(int Row, int count);
 
 private:
+    void Arrange(const std::vector<int>& order);
+    void SortByColumns(const SortList& sort, const std::vector<int>& order);
     void SetPlaces(const std::vector<int>& order);
     void SetKeys(int column);
     void ClearKeys(const SortList& sort);

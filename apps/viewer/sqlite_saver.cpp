@@ -139,6 +139,8 @@ SaveOutcome SqliteSaver::Save(const Changes& changes)
         // Whatever can fail comes before the database has the changes.
         DatabaseRows rows = rows_;
         SaveOutcome outcome = TakeOver(rows, std::move(saved), std::move(others.gone), changes);
+        if (!references_.empty())
+            outcome.keys = ReadForeignKeys(database, rows_.Layout()); // the table may refer to itself
         steps.Commit();
         rows_ = std::move(rows);
         return outcome;

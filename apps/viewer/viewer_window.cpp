@@ -7,8 +7,6 @@
 #include "selected_cells.h"
 #include "status_text.h"
 
-#include "vornix/automation.h"
-
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
@@ -31,7 +29,6 @@ constexpr int SearchDelay = 300;
 constexpr int TypingDelay = 150;
 constexpr std::size_t ManyCells = 200'000;
 constexpr i16 CtrlKey = 2;
-constexpr int Overflow = 6;
 
 QString ToQString(const std::string& text)
 {
@@ -311,13 +308,12 @@ void ViewerWindow::SortAsInSource()
 void ViewerWindow::Sort(const SortList& sort)
 {
     FinishEditing();
-    try {
+    if (rows_.CanSort(sort)) {
         rows_.Sort(sort, Order());
         sort_ = sort;
-    } catch (const AutomationError& error) {
-        const std::string rows = Counted(static_cast<std::uint64_t>(rows_.Count()), "row");
-        Tell(error.Number() == Overflow ? "not sorted: " + rows + " are more than the 29,523 that can be sorted"
-                                        : std::string("not sorted: ") + error.what());
+    } else {
+        Tell("not sorted: " + Counted(static_cast<std::uint64_t>(rows_.Count()), "row") + " are more than the "
+            + WithGroups(ShownRows::MostSorted) + " that can be sorted");
     }
     TellState();
     SearchAgainSoon();

@@ -83,7 +83,7 @@ public:
 
     HeadlessContainer container;
     Vornix& grid = container.Grid();
-    const Table table;
+    Table table;
     ShownRows rows;
     std::vector<int> order;
     SortList sort;
@@ -231,6 +231,9 @@ TEST(ShownRows, StayWhereTheGridSortsNoMore)
     for (int row = 0; row < 29'524; ++row)
         table.AppendRow(std::vector<Field> { { row % 2 == 0 ? u"2" : u"1" } });
     Desk desk(std::move(table));
+    SortList sort;
+    sort.Choose(0);
+    EXPECT_FALSE(desk.rows.CanSort(sort));
     EXPECT_THROW(desk.Choose(0), AutomationError);
     EXPECT_EQ(desk.rows.At(1), 1);
     EXPECT_TRUE(desk.ShowsWhatItSays());
@@ -243,4 +246,28 @@ TEST(ShownRows, StayWhereTheGridSortsNoMore)
     EXPECT_EQ(desk.rows.At(0), 1);
     EXPECT_EQ(desk.rows.At(29'522), 29'522);
     EXPECT_TRUE(desk.ShowsWhatItSays());
+}
+
+TEST(ShownRows, GoBackIntoTheirOrderHoweverManyTheyAre)
+{
+    Table table;
+    table.Columns() = { { u"a", ColumnKind::Integer } };
+    for (int row = 0; row < ShownRows::MostSorted; ++row)
+        table.AppendRow(std::vector<Field> { { row % 3 == 0 ? u"2" : u"1" } });
+    Desk desk(std::move(table));
+    desk.Choose(0);
+    desk.grid.SetCellBackColor(0, 0, 0x123456);
+    const int coloured = desk.rows.At(0);
+    ASSERT_EQ(coloured, 1);
+    desk.table.AppendRow(std::vector<Field> { { u"new" } });
+    desk.rows.Insert(5, { ShownRows::MostSorted });
+    desk.grid.SetText(5, 0, u"new");
+    desk.grid.SetText(5, -1, u"29524");
+    desk.order.insert(desk.order.begin(), ShownRows::MostSorted);
+    EXPECT_TRUE(desk.rows.CanSort(SortList()));
+    desk.rows.Sort(SortList(), desk.order);
+    EXPECT_EQ(desk.Shown(), desk.order);
+    EXPECT_TRUE(desk.ShowsWhatItSays());
+    EXPECT_EQ(desk.grid.Text(-1, 0), u"a") << "the mark is gone";
+    EXPECT_EQ(desk.grid.CellBackColor(static_cast<i16>(coloured + 1), 0), 0x123456);
 }

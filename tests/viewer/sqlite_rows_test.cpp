@@ -293,6 +293,23 @@ TEST(SqliteRows, TellTheTruthValuesOfNewOnes)
     EXPECT_THAT(Rows(made.Path(), "SELECT * FROM t"), ElementsAre("1|1", "0|0", "'yes'|1", "1|0"));
 }
 
+TEST(SqliteRows, CanBeReferredToOnceTheyAreSaved)
+{
+    MadeDatabase made("CREATE TABLE other(id INTEGER PRIMARY KEY); INSERT INTO other VALUES(7);"
+                      "CREATE TABLE t(id INTEGER PRIMARY KEY, parent INTEGER REFERENCES t, other REFERENCES other);"
+                      "INSERT INTO t VALUES(1, NULL, 7), (2, NULL, 7);");
+    Document document = Opened(made.Path(), "t");
+    ASSERT_THAT(*document.KeysFor(1), ElementsAre(u"", u"1", u"2"));
+    document.RemoveRow(0);
+    Add(document, { u"", u"2", u"7" });
+    EXPECT_THAT(*document.KeysFor(1), ElementsAre(u"", u"1", u"2"));
+    made.Execute("INSERT INTO other VALUES(8)");
+    EXPECT_EQ(MessageOfSave(document), "saved");
+    EXPECT_THAT(*document.KeysFor(1), ElementsAre(u"", u"2", u"3"));
+    EXPECT_THAT(*document.KeysFor(2), ElementsAre(u"", u"7", u"8"));
+    EXPECT_EQ(document.KeysFor(0), nullptr);
+}
+
 TEST(SqliteRows, AreNotRemovedWhereAnotherProgramHasChangedThem)
 {
     MadeDatabase made("CREATE TABLE t(a); INSERT INTO t VALUES('x'), ('y');");

@@ -1,5 +1,6 @@
 #include "csv_finder.h"
 
+#include "csv_format.h"
 #include "file_replacement.h"
 #include "saver.h"
 #include "text_file.h"
@@ -202,6 +203,7 @@ CsvReadBack::CsvReadBack(const CsvLayout& layout, const LoadLimits& limits, cons
 
 void CsvReadBack::Take(std::int64_t row, const CsvParser::Record& record)
 {
+    KeepFirst(record);
     if (row == CsvPlan::Top)
         return kept_.Add(record, nullptr);
     if (awaited_.empty())
@@ -211,6 +213,18 @@ void CsvReadBack::Take(std::int64_t row, const CsvParser::Record& record)
         && std::equal(wanted.begin(), wanted.end(), record.fields.begin(), record.fields.end(),
             [](const std::u16string& text, const Field& field) { return field.text == text; });
     awaited_.pop_back();
+}
+
+void CsvReadBack::KeepFirst(const CsvParser::Record& record)
+{
+    if (firstRows_.RowCount() >= HeaderSample)
+        return;
+    constexpr std::size_t longEnough = 200; // to be neither a name nor a value
+    std::vector<Field> fields;
+    for (const Field& field : record.fields)
+        fields.push_back({ field.text.substr(0, longEnough), field.isNull });
+    firstRows_.Columns().resize(fields.size());
+    firstRows_.AppendRow(fields);
 }
 
 void CsvReadBack::TakeOld(const CsvParser::Record& record)
@@ -244,6 +258,11 @@ void CsvReadBack::Finish(std::int64_t oldRows, std::uint64_t keptPrint)
     if (rows != oldRows + difference || !isRight_ || rightChanges_ != plan_.changed.size() || !awaited_.empty()
         || kept_.Print() != keptPrint)
         throw SaveError("a changed text would not read as it was meant");
+}
+
+bool CsvReadBack::HasHeader() const
+{
+    return viewer::HasHeader(firstRows_);
 }
 
 } // namespace vornix::viewer

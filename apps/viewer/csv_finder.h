@@ -6,6 +6,7 @@
 #include "csv_plan.h"
 #include "csv_splicer.h"
 #include "fingerprint.h"
+#include "table.h"
 
 #include <cstdint>
 #include <functional>
@@ -88,13 +89,17 @@ public:
     void Feed(std::u16string_view text) { parser_.Feed(text); }
     // Raises SaveError when it does not.
     void Finish(std::int64_t oldRows, std::uint64_t keptPrint);
+    // Whether the first row will be taken for names, once finished.
+    bool HasHeader() const;
 
 private:
     void Take(std::int64_t row, const CsvParser::Record& record);
+    void KeepFirst(const CsvParser::Record& record);
     void TakeOld(const CsvParser::Record& record);
     void PassRemoved();
 
     const CsvPlan& plan_;
+    Table firstRows_; // the names among them
     CsvKeptFields kept_;
     std::int64_t oldRow_ = 0; // the next one of the old file
     std::vector<CsvPlan::NewRecord> awaited_; // records that were added here, the last one first

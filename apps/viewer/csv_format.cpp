@@ -100,9 +100,7 @@ bool LooksLikeNames(const Table& table)
 ColumnContent ContentBelowFirstRow(const Table& table, int column)
 {
     ColumnContent content;
-    const int rows
-        = static_cast<int>(std::min<std::uint64_t>(SampledRows, static_cast<std::uint64_t>(table.RowCount())));
-    for (int row = 1; row < rows; ++row)
+    for (int row = 1; row < std::min(HeaderSample, table.RowCount()); ++row)
         content.Add(table.Text(row, column));
     return content;
 }

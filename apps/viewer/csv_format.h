@@ -12,6 +12,9 @@ namespace vornix::viewer {
 // complete.
 char16_t GuessSeparator(std::u16string_view sample, bool isWholeFile);
 
+// The first rows, which HasHeader looks at.
+inline constexpr int HeaderSample = 200;
+
 // By comparing the table's first row with the ones below it: names stand over numbers, dates and truth values without
 // being any. Where every column is text, a first row of different, short texts is a header.
 bool HasHeader(const Table& table);

@@ -53,6 +53,14 @@ bool ReadsWith(const CsvLayout& layout, const std::string& path)
         && guess.markerLength == layout.markerLength;
 }
 
+std::string NoticeOfHeader(bool hasHeader, bool hasHeaderThen)
+{
+    if (hasHeader == hasHeaderThen)
+        return {};
+    return hasHeader ? "when it is opened again, the column names will be taken for a row"
+                     : "when it is opened again, the first row will be taken for column names";
+}
+
 } // namespace
 
 CsvSaver::CsvSaver(std::string path, const Table& table, const CsvLayout& layout, const LoadLimits& limits)
@@ -89,6 +97,7 @@ SaveOutcome CsvSaver::Save(const Changes& changes)
         throw SaveError(error.what());
     }
     order_ = std::move(order);
+    outcome.notice = std::move(notice_);
     return outcome;
 }
 
@@ -111,6 +120,7 @@ bool CsvSaver::Write(const CsvPlan& plan, CsvQuoting quoting)
     readBack.Finish(finder.RowCount(), finder.KeptPrint());
     if (!ReadsWith(layout_, target.TemporaryPath()))
         return false;
+    notice_ = NoticeOfHeader(layout_.hasHeader, readBack.HasHeader());
     target.Commit(identity);
     layout_.print = print;
     return true;

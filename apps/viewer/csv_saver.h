@@ -15,7 +15,8 @@ namespace vornix::viewer {
 // Everything that was not changed stays as it is in the file, byte for byte. A changed field stands in quotes when the
 // old one did or when it has to, to be read as it was meant; one without a text is nothing at all, a null, or two quotes
 // where the old one had them. The new file is read while it is written, and takes the old one's place only when it says
-// what it should and will be opened with the same separator. A file that is not the one that was read is an error. Only a
+// what it should and will be opened with the same separator; whether its first row will still be taken for what it is, is
+// told. A file that is not the one that was read is an error. Only a
 // cell that held a truth value takes one; in others "0" and "-1" are what they are.
 //
 // A row that is removed takes its line break with it, and blank lines around it stay. A new one comes right behind the row
@@ -42,6 +43,7 @@ private:
     const Table& table_;
     CsvLayout layout_;
     LoadLimits limits_;
+    std::string notice_; // about the file that was written last
     std::vector<int> order_; // the records of the file, without those that were left out
 };
 

@@ -89,6 +89,7 @@ std::size_t Document::ChangeCount() const
 
 std::vector<CellText> Document::Save()
 {
+    notice_.clear();
     if (!IsChanged())
         return {};
     SaveOutcome outcome = source_.saver->Save(Changes(edits_, records_));
@@ -99,6 +100,7 @@ std::vector<CellText> Document::Save()
         throw;
     }
     NoteSaved();
+    notice_ = std::move(outcome.notice);
     return std::move(outcome.others);
 }
 

@@ -62,6 +62,8 @@ public:
     // had here; rows that the source has removed are not there any more. Raises SaveError; the changes are all still there then. After any other exception IsChanged() tells whether
     // they were saved: if so, they only could not be taken over.
     std::vector<CellText> Save();
+    // What the person should know about the last time, in one line; mostly nothing.
+    const std::string& NoticeOfSave() const { return notice_; }
 
 private:
     void TakeOver(const SaveOutcome& outcome);
@@ -72,6 +74,7 @@ private:
     Edits edits_;
     Records records_;
     std::uint64_t rowsNotHeld_;
+    std::string notice_;
 };
 
 } // namespace vornix::viewer

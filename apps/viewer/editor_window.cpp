@@ -300,6 +300,7 @@ bool EditorWindow::Save()
         SearchAgainSoon();
         editor_.ShowSaved(others);
         date_.Saved();
+        Tell(document_.NoticeOfSave());
     } catch (const std::bad_alloc&) {
         TellFailure(tr("there is not enough memory"));
     } catch (const std::exception& error) {

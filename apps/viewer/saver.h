@@ -32,6 +32,7 @@ struct SaveOutcome {
     std::vector<CellText> others = {};
     std::vector<int> removed = {}; // records that the source has removed by itself
     ForeignKeys keys = {}; // as they are now, of columns that had some
+    std::string notice = {}; // what the person should know about it, in one line of UTF-8
 };
 
 // Rows are the records of a table.

@@ -602,6 +602,33 @@ TEST(CsvSaver, RemovesRowsThatGoOverThePieces)
     }
 }
 
+TEST(CsvSaver, TellsWhereTheFirstRowWillBeTakenForSomethingElse)
+{
+    const ScratchFolder folder;
+    const auto save = [](Document& document) {
+        document.Save();
+        return document.NoticeOfSave();
+    };
+    const std::string path = folder.Write("plain.csv", "1,2\n3,4\n");
+    Document plain = Opened(path);
+    const int row = plain.AddRow(0, Records::Side::Before);
+    plain.Change(row, 0, u"x");
+    plain.Change(row, 1, u"y");
+    EXPECT_EQ(save(plain), "when it is opened again, the first row will be taken for column names");
+    EXPECT_EQ(Opened(path).RowCount(), 2) << "and so it is";
+    EXPECT_EQ(save(plain), "") << "nothing was saved";
+    plain.Change(row, 1, u"5");
+    EXPECT_EQ(save(plain), "");
+    EXPECT_EQ(Opened(path).RowCount(), 3);
+
+    const std::string named = folder.Write("named.csv", "id,id\n1,a\n");
+    Document document = Opened(named);
+    ASSERT_EQ(document.RowCount(), 1);
+    document.Change(0, 0, u"x");
+    EXPECT_EQ(save(document), "when it is opened again, the column names will be taken for a row");
+    EXPECT_EQ(Opened(named).RowCount(), 2) << "and so they are";
+}
+
 TEST(CsvSaver, SavesRowsBesideThoseThatWereLeftOut)
 {
     std::string many = "id,x\n";

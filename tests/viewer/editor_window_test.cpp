@@ -647,6 +647,22 @@ TEST(EditorWindow, HasEverythingToDoWithoutRows)
     EXPECT_EQ(Content(path), "id,n\nx,y\n");
 }
 
+TEST(EditorWindow, TellsWhatWillBeReadOtherwise)
+{
+    const ScratchFolder folder;
+    Document document = Opened(folder.Write("a.csv", "1,2\n3,4\n"));
+    EditorWindow window(document);
+    window.show();
+    QApplication::clipboard()->setText(QStringLiteral("x\ty"));
+    window.Paste();
+    EXPECT_TRUE(window.Save());
+    const auto* const notice = window.findChild<QLabel*>(QStringLiteral("notice"));
+    EXPECT_EQ(notice->text(), QStringLiteral("when it is opened again, the first row will be taken for column names"));
+    window.AddRowBelow();
+    EXPECT_TRUE(window.Save());
+    EXPECT_NE(notice->text(), QString()) << "as long as it will";
+}
+
 TEST(EditorWindow, SaysWhyNothingCanBeChanged)
 {
     const ScratchFolder folder;

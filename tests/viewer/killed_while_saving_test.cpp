@@ -86,12 +86,6 @@ std::string TextOf(int generation, int firstRow = 0)
     return text;
 }
 
-std::string Content(const std::string& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    return { std::istreambuf_iterator<char>(file), {} };
-}
-
 } // namespace
 
 TEST(KilledWhileSaving, ATextFileIsTheOldOneOrTheNewOne)

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 #include <unistd.h>
+#include <vector>
 
 namespace vornix::viewer {
 
@@ -33,9 +34,25 @@ public:
         return Path(name);
     }
 
+    // The names of what is in it.
+    std::vector<std::string> Files() const
+    {
+        std::vector<std::string> names;
+        for (const auto& entry : std::filesystem::directory_iterator(path_))
+            names.push_back(entry.path().filename().string());
+        return names;
+    }
+
 private:
     std::filesystem::path path_;
 };
+
+// Of a file.
+inline std::string Content(const std::string& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return { std::istreambuf_iterator<char>(file), {} };
+}
 
 // As the bytes of a file.
 inline std::string Utf16Bytes(std::u16string_view text, bool isBig)

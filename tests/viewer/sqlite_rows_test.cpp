@@ -1,7 +1,7 @@
 // Rows that are added to a table of a database and removed from it.
 #include "as_ordinary_user.h"
 #include "document.h"
-#include "saved_database.h"
+#include "saved_document.h"
 #include "sqlite/made_database.h"
 
 #include <gmock/gmock.h>

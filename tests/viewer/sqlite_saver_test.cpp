@@ -2,7 +2,7 @@
 
 #include "as_ordinary_user.h"
 #include "document.h"
-#include "saved_database.h"
+#include "saved_document.h"
 #include "sqlite/made_database.h"
 #include "unicode.h"
 

@@ -25,12 +25,6 @@ namespace vornix::viewer {
 
 namespace {
 
-std::string Content(const std::string& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    return { std::istreambuf_iterator<char>(file), {} };
-}
-
 // With the null at the end that starting a program wants.
 std::vector<char*> PointersTo(std::vector<std::string>& texts)
 {

@@ -1,4 +1,4 @@
-// A table of a database as a person changes and saves it, and what the file holds then.
+// A file, or a table of a database, as a person changes and saves it, and what the database holds then.
 #pragma once
 
 #include "document.h"

@@ -1,4 +1,4 @@
-#include "saved_database.h"
+#include "saved_document.h"
 
 #include "unicode.h"
 

@@ -44,6 +44,7 @@ void BindAll(sqlite::Statement& statement, int parameter, const std::vector<sqli
 std::vector<sqlite::Value> KeyIn(const sqlite::Statement& statement)
 {
     std::vector<sqlite::Value> key;
+    key.reserve(static_cast<std::size_t>(statement.ColumnCount()));
     for (int column = 0; column < statement.ColumnCount(); ++column)
         key.push_back(statement.ValueOf(column));
     return key;

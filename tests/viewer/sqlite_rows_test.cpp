@@ -3,11 +3,14 @@
 #include "document.h"
 #include "saved_document.h"
 #include "sqlite/made_database.h"
+#include "unicode.h"
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <chrono>
 #include <csignal>
+#include <random>
 #include <sys/resource.h>
 
 using namespace vornix;
@@ -408,4 +411,79 @@ TEST(SqliteRows, AreAddedAllOrNoneWhenTheDiskIsFull)
     EXPECT_EQ(message, "failed; changes: 6000");
     EXPECT_THAT(Rows(made.Path(), "SELECT count(*), max(length(text)) FROM t"), ElementsAre("2000|100"));
     EXPECT_THAT(Rows(made.Path(), "SELECT * FROM pragma_integrity_check"), ElementsAre("'ok'"));
+}
+
+namespace {
+
+std::vector<std::string> TextsOf(const Document& document)
+{
+    std::vector<std::string> rows;
+    for (const int row : document.Rows()) {
+        std::string text;
+        for (int column = 0; column < document.Saved().ColumnCount(); ++column)
+            text += ToUtf8(document.Text(row, column)) + "|";
+        rows.push_back(text);
+    }
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+// Changes some rows, removes some and adds some, which refer to any others or to none.
+void ChangeAtRandom(Document& document, std::mt19937& random)
+{
+    const auto number = [&](unsigned most) {
+        const std::string digits = std::to_string(1 + random() % most);
+        return std::u16string(digits.begin(), digits.end());
+    };
+    const auto any = [&] {
+        const std::vector<int> rows = document.Rows();
+        return rows.empty() ? -1 : rows[random() % rows.size()];
+    };
+    for (auto step = 1 + random() % 5; step > 0; --step) {
+        const int row = any();
+        const auto kind = random() % 8;
+        if (kind == 0 || row < 0)
+            Add(document, { random() % 2 ? number(12) : u"", random() % 2 ? number(12) : u"", number(30), u"new" });
+        else if (kind == 1)
+            document.RemoveRow(row);
+        else if (kind == 2)
+            document.Change(row, 0, number(12));
+        else if (kind < 5)
+            document.Change(row, 1, random() % 4 ? number(12) : u"");
+        else
+            document.Change(row, 2 + static_cast<int>(random() % 2), number(30));
+    }
+}
+
+} // namespace
+
+TEST(SqliteRows, AreAsTheDatabaseHasThemWhateverWasChanged)
+{
+    std::mt19937 random(8);
+    int saved = 0;
+    int refused = 0;
+    for (const std::string action : { "", " ON DELETE CASCADE", " ON DELETE SET NULL ON UPDATE CASCADE",
+             " ON DELETE RESTRICT ON UPDATE SET NULL" }) {
+        const MadeDatabase made("CREATE TABLE t(id INTEGER PRIMARY KEY, parent INTEGER REFERENCES t" + action
+            + ", u INTEGER UNIQUE, n); INSERT INTO t VALUES(1, NULL, 1, 'a'), (2, 1, 2, 'b'), (3, 2, 3, 'c'),"
+              " (4, 4, 4, 'd'), (5, NULL, 5, 'e'), (6, 5, 6, 'f'), (7, 5, 7, 'g'), (8, 1, 8, 'h');");
+        for (int round = 0; round < 40; ++round) {
+            Document document = Opened(made.Path());
+            for (int turn = 0; turn < 3; ++turn) {
+                ChangeAtRandom(document, random);
+                const std::vector<std::string> before = Rows(made.Path(), "SELECT * FROM t");
+                const std::string message = MessageOfSave(document);
+                if (message != "saved") {
+                    ++refused;
+                    ASSERT_EQ(Rows(made.Path(), "SELECT * FROM t"), before) << message;
+                    break;
+                }
+                ++saved;
+                ASSERT_EQ(TextsOf(document), TextsOf(Opened(made.Path()))) << action << ", " << round;
+            }
+        }
+        EXPECT_THAT(Rows(made.Path(), "SELECT * FROM pragma_foreign_key_check"), IsEmpty());
+    }
+    EXPECT_GT(saved, 100);
+    EXPECT_GT(refused, 100);
 }

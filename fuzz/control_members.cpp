@@ -107,7 +107,7 @@ template <auto Member> void CallWithCount(Vornix& grid, FuzzInput& input)
     (grid.*Member)(takeAsItIs ? count : static_cast<i16>(count % limit));
 }
 
-// Lines in at a place, as many as there may be.
+// A few lines in at a place, or one where there are many.
 template <auto Member, auto Count> void CallWithNewLines(Vornix& grid, FuzzInput& input)
 {
     constexpr int Many = 60;

@@ -42,7 +42,11 @@ public:
         if (kind % 16 == 2)
             PictureHdc = input_.AnyI16();
     }
+    void BeforeEdit(i16, i16) override { React(); }
     void AfterEdit(i16, i16) override { React(); }
+    void CellChange(i16, i16, bool& bCancel) override { bCancel = React() % 16 == 1; }
+    void ValidateRow() override { React(); }
+    void Scroll() override { React(); }
     void TextChange(i16, i16) override { React(); }
     void ResizeRow(i16, i16& NewHeight) override { Change(NewHeight); }
     void ResizeCol(i16, i16& NewWidth) override { Change(NewWidth); }
@@ -87,7 +91,7 @@ private:
             if (kind < 40)
                 TellContainer(kind);
             else if (kind < 160)
-                CallMember(kind);
+                CallMember(input_.Byte());
         } catch (const AutomationError&) {
             if (kind % 4 == 0) {
                 --depth_;

@@ -766,8 +766,8 @@ public:
     // height; the current cell and the first row stay where they are. Takes back SpanRows everywhere, and spans over
     // rows that part; a selection of rows or cells ends. Closes the editor and raises AfterEdit. Repaints. The sort is
     // not stable: the order of rows with equal keys is the method's own, always the same. Without SortOrder a message
-    // box says so, and nothing else happens. Error 9 for a key whose column is no more, 6 for 29524 rows and more: no
-    // row has moved.
+    // box says so, and nothing else happens. Error 9 for a key whose column now lies behind the filler, 6 for 29524
+    // rows and more: no row has moved.
     void Sort();
     // The place of a column among the keys, from 1, the most significant; 0 for none. Writing it makes the column the
     // last key, at that place: keys behind are dropped, so that 1 begins anew; places that open before it are taken by
@@ -798,9 +798,9 @@ public:
     //
     // Case does not count. A Wildcard at the front of SearchString, at its end or at both finds texts that end with the
     // rest, begin with it or contain it; one that stands only inside finds nothing. SearchRow alone compares the ends
-    // of keys to the letter. Error 5 for a SearchString too short to hold the Wildcard at both of its ends, 6 for more
-    // than 32767 hits and for a Pos that leaves 16 bits, 9 for a Row or Col outside the table and for a Pos ahead of
-    // its first line; one behind the last line ends the walk.
+    // of keys to the letter. Error 5 for a SearchString that begins and ends with the Wildcard and is shorter than two
+    // of them, 6 for more than 32767 hits and for a Pos that leaves 16 bits, 9 for a Row or Col behind the filler and
+    // for a Pos ahead of its first line; one behind the last line ends the walk.
     i16 SearchRow(
         i32 eType, i16 Col, std::u16string_view SearchString, i16 IdSearch, std::u16string_view Wildcard = u"");
     i16 SearchCol(

@@ -1,6 +1,6 @@
 // Rows in order of several columns.
 #include "automation/checked.h"
-#include "control/control.h"
+#include "control/paint_on_error.h"
 #include "data/sort.h"
 
 namespace vornix {
@@ -24,25 +24,22 @@ void Vornix::Sort()
     if (control->sortKeys.IsEmpty())
         return control->container.ShowMessage(NoKeysTitle, NoKeysText, MessageIcon::Exclamation);
     control->RequireTable();
-    const SelectCollection& ranges = control->selection.Ranges();
-    if (ranges.CountRows() >= 1 || ranges.CountCells() >= 1)
-        control->selection.Collapse();
-    // Each of them repaints, and a handler may change the columns.
-    for (int col = 0; !control->IsClosed() && col < control->store.MaxCol(); ++col)
-        if (control->store.ColumnAt(col).SpanRows)
-            RemoveSpanRows(ToI16(col - control->store.FixedCols()), 1);
-    if (!control->IsClosed())
-        control->editor.CloseEveryEditor();
+    PaintOnError(*control, [&] {
+        const SelectCollection& ranges = control->selection.Ranges();
+        if (ranges.CountRows() >= 1 || ranges.CountCells() >= 1)
+            control->selection.Collapse();
+        // Each of them repaints, and a handler may change the columns.
+        for (int col = 0; !control->IsClosed() && col < control->store.MaxCol(); ++col)
+            if (control->store.ColumnAt(col).SpanRows)
+                RemoveSpanRows(ToI16(col - control->store.FixedCols()), 1);
+        if (!control->IsClosed())
+            control->editor.CloseEveryEditor();
+        if (!control->IsClosed())
+            SortRows(control->store, control->spans, control->hidden, control->sortKeys.Cols(),
+                control->container.GetLocale());
+    });
     if (control->IsClosed())
         return;
-    try {
-        SortRows(
-            control->store, control->spans, control->hidden, control->sortKeys.Cols(), control->container.GetLocale());
-    } catch (...) {
-        // Selection and editor are gone all the same.
-        control->funnel.RepaintUnderGate();
-        throw;
-    }
     control->current.AdjustForSort(control->store);
     control->funnel.RepaintUnderGate();
 }

@@ -1,7 +1,7 @@
 // Lines in and out, moved, exchanged, copied, emptied; looks given back to the defaults.
 #include "automation/checked.h"
-#include "control/control.h"
 #include "control/line_count.h"
+#include "control/paint_on_error.h"
 
 #include <algorithm>
 
@@ -101,11 +101,16 @@ void Vornix::SwapRows(i16 Row1, i16 Row2)
     if (Row1 < first || Row2 < first || Row1 == Row2)
         return;
     CheckedIndex(control->InternalRow(std::max(Row1, Row2)), control->store.MaxRow());
-    // What is typed must not go into the other row.
-    control->editor.CloseEveryEditor();
+    bool resizes = false;
+    PaintOnError(*control, [&] {
+        // What is typed must not go into the other row.
+        control->editor.CloseEveryEditor();
+        if (!control->IsClosed())
+            resizes = control->tableEdit.SwapRows(control->InternalRow(Row1), control->InternalRow(Row2));
+    });
     if (control->IsClosed())
         return;
-    if (control->tableEdit.SwapRows(control->InternalRow(Row1), control->InternalRow(Row2)))
+    if (resizes)
         control->funnel.RecalcLayout(false);
     else
         control->funnel.RepaintUnderGate();

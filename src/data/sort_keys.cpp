@@ -146,12 +146,13 @@ private:
 std::vector<ColumnTexts> ReadTexts(const GridStore& store, std::span<const i16> cols)
 {
     const auto rowCount = static_cast<std::size_t>(store.Rows());
+    std::vector<bool> isKnown(static_cast<std::size_t>(store.MaxCol()) + 1);
     std::vector<ColumnTexts> columns;
-    for (std::size_t key = 0; key < cols.size(); ++key) {
-        const Column& column = store.ColumnAt(cols[key]);
-        const std::span<const i16> before = cols.first(key);
-        if (std::ranges::find(before, cols[key]) == before.end())
-            columns.emplace_back(column, cols[key], rowCount);
+    for (const i16 col : cols) {
+        const Column& column = store.ColumnAt(col);
+        if (!isKnown[static_cast<std::size_t>(col)])
+            columns.emplace_back(column, col, rowCount);
+        isKnown[static_cast<std::size_t>(col)] = true;
     }
     for (int row = store.FixedRows(); row < store.MaxRow(); ++row)
         for (ColumnTexts& column : columns)

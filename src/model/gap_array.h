@@ -4,12 +4,14 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <new>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace vornix {
 
-// Positions are not checked. References hold until the next operation that changes the size.
+// Positions are not checked. References hold until the next Insert, Remove or Resize.
 template <typename T> class GapArray {
     static_assert(std::is_nothrow_move_constructible_v<T> && std::is_nothrow_move_assignable_v<T>);
 
@@ -33,6 +35,14 @@ public:
         : slots_(size)
     {
     }
+    GapArray(GapArray&& other) noexcept { *this = std::move(other); }
+    GapArray& operator=(GapArray&& other) noexcept
+    {
+        std::swap(slots_, other.slots_);
+        std::swap(gapBegin_, other.gapBegin_);
+        std::swap(gapLength_, other.gapLength_);
+        return *this;
+    }
 
     std::size_t size() const { return slots_.size() - gapLength_; }
     std::size_t capacity() const { return slots_.capacity(); }
@@ -43,7 +53,7 @@ public:
     Walk<const GapArray> begin() const { return { this, 0 }; }
     Walk<const GapArray> end() const { return { this, size() }; }
 
-    // Default items at the end, or none of the last ones any more; no spare room stays. Growing that fails changes
+    // Default items at the end, or none of the last ones any more; no gap stays. Growing that fails changes
     // nothing, shrinking cannot fail.
     void Resize(std::size_t size)
     {
@@ -112,8 +122,13 @@ private:
     }
     void GiveBackMemory()
     {
-        if (slots_.capacity() > slots_.size() * 4)
+        if (slots_.capacity() <= slots_.size() * 4)
+            return;
+        try {
             slots_.shrink_to_fit();
+        } catch (const std::bad_alloc&) {
+            // The items stay where they are.
+        }
     }
 
     std::vector<T> slots_; // those of the gap are of no use to anyone

@@ -504,7 +504,11 @@ TEST_F(SortingWhileEditing, AnEditorThatAHandlerOpensClosesToo)
 TEST_F(SortingWhileEditing, AHandlersErrorEndsTheSort)
 {
     handlers.OnAfterEdit = [&](i16, i16) { Grid().SetText(99, 0, u""); };
+    Grid().SetRowSelected(3, true);
+    host->ClearLog();
     EXPECT_EQ(ErrorOf([&] { Grid().Sort(); }), ErrorNumber::SubscriptOutOfRange);
+    EXPECT_EQ(Grid().SelectCountRow(), 0);
+    EXPECT_EQ(host->Repaints(), 1) << "no row looks selected any more";
     EXPECT_THAT(Column(0), ElementsAre(u"b", u"9c", u"a", u"e", u"d"));
     handlers.OnAfterEdit = {};
     Grid().Sort();

@@ -784,10 +784,16 @@ TEST_F(Structure, AHandlerOfTheEditorThatClosesMayDoAnything)
     Grid().SwapRows(0, 2);
     EXPECT_FALSE(Grid().IsEditMode());
     EXPECT_EQ(Grid().Text(0, 0), u"2,0");
-    handlers.OnAfterEdit = [&](i16, i16) { Grid().SetRows(1); };
+    handlers.OnAfterEdit = [&](i16, i16) {
+        Grid().SetRows(1);
+        Grid().EnterEdit();
+        host->ClearLog();
+    };
     Grid().SetCellMode(0, 0, vxTextBox);
     Grid().EnterEdit();
     EXPECT_EQ(ErrorOf([&] { Grid().SwapRows(0, 2); }), 9);
+    EXPECT_FALSE(Grid().IsEditMode());
+    EXPECT_EQ(host->Repaints(), 1);
     handlers.OnAfterEdit = [&](i16, i16) { host->Close(); };
     Grid().SetRows(3);
     Grid().EnterEdit();

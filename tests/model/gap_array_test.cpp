@@ -80,6 +80,7 @@ TEST(GapArrayTest, MemoryOfMostItemsIsGivenBack)
 TEST(GapArrayTest, FailingChangesNothing)
 {
     Items items = Counting(40);
+    items.Insert(20, 1); // leaves a gap
     const std::vector<int> before = NumbersOf(items);
     EXPECT_THROW(
         {
@@ -94,6 +95,19 @@ TEST(GapArrayTest, FailingChangesNothing)
         },
         std::bad_alloc);
     EXPECT_EQ(NumbersOf(items), before);
+}
+
+TEST(GapArrayTest, MovesWithItsGap)
+{
+    Items items = Counting(40);
+    items.Insert(20, 1);
+    Items other = std::move(items);
+    EXPECT_EQ(other.size(), 41u);
+    EXPECT_EQ(*other[21], 20);
+    items = Counting(3);
+    items = std::move(other);
+    EXPECT_EQ(items.size(), 41u);
+    EXPECT_EQ(*items[40], 39);
 }
 
 class GapArrayRandomTest : public testing::TestWithParam<unsigned> {

@@ -192,7 +192,29 @@ TEST_F(SortKeysTest, TheFirstDifferenceDecides)
     EXPECT_FALSE(rows[1].IsBehind(rows[0]));
 }
 
-TEST_F(SortKeysTest, TheLocaleReadsNumbersAndDates)
+class DayFirstLocale : public CommaLocale {
+public:
+    DayFirstLocale()
+        : dates_(CommaLocale::Dates())
+    {
+        dates_.order = DateOrder::DayMonthYear;
+    }
+    const DateSymbols& Dates() const override { return dates_; }
+
+private:
+    DateSymbols dates_;
+};
+
+TEST_F(SortKeysTest, TheLocaleReadsDates)
+{
+    const DayFirstLocale dayFirst;
+    Kind().SortType = vxDate;
+    EXPECT_EQ(Behind(u"1/2/2020", u"2/1/2020"), No);
+    locale = &dayFirst;
+    EXPECT_EQ(Behind(u"1/2/2020", u"2/1/2020"), Yes);
+}
+
+TEST_F(SortKeysTest, TheLocaleReadsNumbers)
 {
     const CommaLocale comma;
     Kind().SortType = vxNumeric;

@@ -129,6 +129,35 @@ TEST_F(SortRandomTest, LargeTablesEndAsThePlainSortLeavesThem)
     }
 }
 
+// Rows that are alike in nearly all of very many columns, repeated ones and ones without a type among them.
+TEST_F(SortRandomTest, ManyColumnsEndAsThePlainSortLeavesThem)
+{
+    constexpr int Cols = 40;
+    for (int round = 0; round < 20 && !HasFatalFailure(); ++round) {
+        SCOPED_TRACE(round);
+        const auto table = BuildStore(200, Cols, 1, 0);
+        std::vector<i16> cols;
+        for (int col = 0; col < Cols; ++col) {
+            Column& column = table->ColumnAt(col);
+            column.SortType = random.OneIn(8) ? 7 : i32(vxNumeric);
+            column.SortCriteria = random.Between(0, 3);
+            cols.push_back(static_cast<i16>(random.OneIn(8) ? random.Between(0, Cols - 1) : col));
+        }
+        const auto write = [&](int row, int col, int value) {
+            const std::string digits = std::to_string(value);
+            table->EditCell(row, col).SetText(std::u16string(digits.begin(), digits.end()));
+        };
+        for (int row = 0; row < table->MaxRow(); ++row) {
+            table->RowAt(row).RecordPos = row;
+            for (int col = 0; col < Cols; ++col)
+                write(row, col, row % 3);
+            if (!random.OneIn(3))
+                write(row, random.Between(0, Cols - 1), random.Between(0, 1000));
+        }
+        SortBoth(*table, cols);
+    }
+}
+
 TEST_F(SortRandomTest, AnyTextsEndAsThePlainSortLeavesThem)
 {
     for (int round = 0; round < 300 && !HasFatalFailure(); ++round) {

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <stdexcept>
 #include <string>
 #include <utility>
 
@@ -45,6 +46,7 @@ int ShownRows::At(int Row) const
 
 void ShownRows::Sort(const SortList& sort, const std::vector<int>& order)
 {
+    RequireShown(order);
     const RedrawPause pause(grid_);
     grid_.ExitEdit();
     if (sort.Columns().empty())
@@ -54,8 +56,29 @@ void ShownRows::Sort(const SortList& sort, const std::vector<int>& order)
     MarkTitles(sort);
 }
 
+void ShownRows::RequireShown(const std::vector<int>& order) const
+{
+    std::vector<bool> isMissing(static_cast<std::size_t>(table_.RowCount()));
+    for (const int row : rows_)
+        isMissing.at(static_cast<std::size_t>(row)) = true;
+    bool isShown = order.size() == rows_.size();
+    for (const int row : order) {
+        const auto index = static_cast<std::size_t>(row);
+        isShown = isShown && index < isMissing.size() && isMissing[index];
+        if (isShown)
+            isMissing[index] = false;
+    }
+    if (!isShown)
+        throw std::logic_error("the rows that are shown are not those of the table");
+}
+
 void ShownRows::Arrange(const std::vector<int>& order)
 {
+    if (rows_ == order)
+        return;
+    // A selection would stay in place while rows move, and rows that are swapped swap their marks one by one.
+    if (grid_.SelectCountRow() > 0 || grid_.SelectCountCell() > 0)
+        grid_.DeselectAll();
     std::vector<int> places(static_cast<std::size_t>(table_.RowCount()));
     for (int Row = 0; Row < Count(); ++Row)
         places.at(static_cast<std::size_t>(At(Row))) = Row;

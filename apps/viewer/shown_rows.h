@@ -26,14 +26,16 @@ public:
     // Without columns there is nothing to compare, whatever the number.
     bool CanSort(const SortList& sort) const { return sort.Columns().empty() || Count() <= MostSorted; }
     // By the columns and then by `order`, which has all that are shown; without columns by that alone. Kinds of columns
-    // decide what their texts are compared as. The titles are marked. Raises AutomationError where this cannot be, and
-    // leaves the rows as they were.
+    // decide what their texts are compared as. The titles are marked. Rows and cells that were selected are not any more,
+    // unless the rows stand in `order` already. Where the grid cannot sort, AutomationError is raised, and std::logic_error
+    // where others are shown than `order` has; the rows are as they were then.
     void Sort(const SortList& sort, const std::vector<int>& order);
     // New rows of the grid are made for them, one after the other, with the looks of their columns and no texts.
     void Insert(int Row, const std::vector<int>& rows);
     void Remove(int Row, int count);
 
 private:
+    void RequireShown(const std::vector<int>& order) const;
     void Arrange(const std::vector<int>& order);
     void SortByColumns(const SortList& sort, const std::vector<int>& order);
     void SetPlaces(const std::vector<int>& order);

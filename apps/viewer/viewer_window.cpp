@@ -17,6 +17,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <new>
 #include <numeric>
 
 namespace vornix::viewer {
@@ -308,15 +309,27 @@ void ViewerWindow::SortAsInSource()
 void ViewerWindow::Sort(const SortList& sort)
 {
     FinishEditing();
-    if (rows_.CanSort(sort)) {
-        rows_.Sort(sort, Order());
+    if (const std::string reason = WhyNotSorted(sort); reason.empty())
         sort_ = sort;
-    } else {
-        Tell("not sorted: " + Counted(static_cast<std::uint64_t>(rows_.Count()), "row") + " are more than the "
-            + WithGroups(ShownRows::MostSorted) + " that can be sorted");
-    }
+    else
+        Tell("not sorted: " + reason);
     TellState();
     SearchAgainSoon();
+}
+
+std::string ViewerWindow::WhyNotSorted(const SortList& sort)
+{
+    if (!rows_.CanSort(sort))
+        return Counted(static_cast<std::uint64_t>(rows_.Count()), "row") + " are more than the "
+            + WithGroups(ShownRows::MostSorted) + " that can be sorted";
+    try {
+        rows_.Sort(sort, Order());
+        return {};
+    } catch (const std::bad_alloc&) {
+        return "there is not enough memory";
+    } catch (const std::exception& error) {
+        return error.what();
+    }
 }
 
 FoundCell ViewerWindow::CurrentCell()

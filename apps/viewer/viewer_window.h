@@ -91,6 +91,8 @@ private:
     void ListenToTitles();
     void ClickTitle(i16 Col, bool isFurther);
     void Sort(const SortList& sort);
+    // Sorts them; empty when it was done.
+    std::string WhyNotSorted(const SortList& sort);
     void UnselectColumns();
     FoundCell CurrentCell();
     void SearchAsTyped();

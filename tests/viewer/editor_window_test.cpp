@@ -277,6 +277,18 @@ TEST_F(EditorWindowTest, CopiesEmptyCellsToo)
     EXPECT_EQ(document.Text(2, 3), u"d") << "and no more";
 }
 
+TEST_F(EditorWindowTest, DeletesNoRowThatWasNotSelected)
+{
+    ClickTitle(0);
+    Grid().CurrentPos(1, 0);
+    Grid().SetRowSelected(0, true);
+    Grid().SetRowSelected(2, true);
+    Type(Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(Label("selection"), "");
+    Type(Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(document.Rows(), (std::vector<int> { 0, 2 })) << "the current one alone";
+}
+
 TEST_F(EditorWindowTest, DeletesTheCurrentRowWhereAColumnIsSelected)
 {
     Grid().CurrentPos(1, 0);
@@ -472,6 +484,36 @@ TEST(EditorWindow, FindsNothingInRowsThatSavingHasRemoved)
         window.Copy();
         EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("two"));
     }
+}
+
+TEST(EditorWindow, SortsNothingThatItCouldNotShow)
+{
+    Document document = DocumentOf({ { u"one" }, { u"two" }, { u"three" } }, { .removed = { 1, 1 } }); // which fails
+    EditorWindow window(document);
+    window.show();
+    window.activateWindow();
+    document.Change(0, 0, u"2");
+    BoxAnswer box(QMessageBox::Ok);
+    EXPECT_TRUE(window.Save());
+    ASSERT_TRUE(box.WasShown());
+    ASSERT_EQ(document.RowCount(), 2);
+    QApplication::processEvents();
+    const auto* const notice = window.findChild<QLabel*>(QStringLiteral("notice"));
+    const QString refusal = QStringLiteral("not sorted: the rows that are shown are not those of the table");
+    window.SortAsInSource();
+    EXPECT_EQ(notice->text(), refusal);
+    Vornix& grid = window.GridWidget().Grid();
+    i32 x = 0;
+    i32 y = 0;
+    grid.GetPositionCell(-1, 0, x, y);
+    const QPoint at = window.GridWidget().mapTo(&window, QPoint(x / 15 + 10, y / 15 + 10));
+    QTest::mouseMove(window.windowHandle(), at);
+    QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, at);
+    EXPECT_EQ(notice->text(), QString());
+    QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, at);
+    EXPECT_EQ(notice->text(), refusal);
+    EXPECT_EQ(grid.Text(-1, 0), u"a");
+    EXPECT_EQ(grid.Text(1, 0), u"two");
 }
 
 TEST(EditorWindow, TellsOfChangesThatAreSavedButCannotBeShown)

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <numeric>
 #include <random>
+#include <stdexcept>
 
 using namespace vornix;
 using namespace vornix::viewer;
@@ -125,6 +126,49 @@ TEST(ShownRows, ComeBackToTheOrderOfTheirSource)
     EXPECT_THAT(desk.sort.Columns(), testing::IsEmpty());
     EXPECT_THAT(desk.Shown(), ElementsAre(0, 1, 2, 3, 4));
     EXPECT_TRUE(desk.ShowsWhatItSays());
+}
+
+TEST(ShownRows, AreSelectedNoMoreOnceTheyMove)
+{
+    Desk desk;
+    const auto count = [&desk] { return desk.grid.SelectCountRow() + desk.grid.SelectCountCell(); };
+    desk.Choose(1);
+    desk.grid.SetRowSelected(1, true);
+    desk.grid.SetRowSelected(3, true);
+    desk.rows.Sort(SortList(), desk.order);
+    EXPECT_EQ(count(), 0) << "others stand where they were";
+    desk.Choose(1);
+    desk.grid.SetSelectedCells(0, 0, 1, 1);
+    desk.rows.Sort(SortList(), desk.order);
+    EXPECT_EQ(count(), 0);
+    desk.grid.SetRowSelected(1, true);
+    desk.rows.Sort(SortList(), desk.order);
+    EXPECT_TRUE(desk.grid.RowSelected(1)) << "none has moved";
+    desk.Choose(1);
+    desk.grid.SetColSelected(2, true);
+    desk.rows.Sort(SortList(), desk.order);
+    EXPECT_TRUE(desk.grid.ColSelected(2));
+}
+
+TEST(ShownRows, AreNotPutInAnOrderOfOthers)
+{
+    Desk desk;
+    desk.Choose(1);
+    const std::vector<int> shown = desk.Shown();
+    SortList sort;
+    const auto expectRefused = [&](std::vector<int> order) {
+        EXPECT_THROW(desk.rows.Sort(SortList(), order), std::logic_error);
+        EXPECT_THROW(desk.rows.Sort(sort, order), std::logic_error);
+        EXPECT_EQ(desk.Shown(), shown);
+        EXPECT_TRUE(desk.ShowsWhatItSays());
+        EXPECT_EQ(desk.grid.Text(-1, 1), u"people ▲");
+    };
+    sort.Choose(0);
+    expectRefused({ 0, 1, 2, 3 });
+    expectRefused({ 0, 1, 2, 3, 4, 5 });
+    expectRefused({ 0, 1, 2, 3, 3 });
+    expectRefused({ 0, 1, 2, 3, 99 });
+    expectRefused({});
 }
 
 TEST(ShownRows, AreSortedBySeveralColumns)

@@ -8,9 +8,9 @@
 
 #include "vornix/sqlite/database.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <cstring>
 
 namespace vornix::viewer {
 
@@ -41,9 +41,9 @@ void BindAll(sqlite::Statement& statement, int parameter, const std::vector<sqli
         statement.Bind(parameter++, value);
 }
 
-std::vector<sqlite::Value> KeyIn(const sqlite::Statement& statement)
+SqliteKey KeyIn(const sqlite::Statement& statement)
 {
-    std::vector<sqlite::Value> key;
+    SqliteKey key;
     key.reserve(static_cast<std::size_t>(statement.ColumnCount()));
     for (int column = 0; column < statement.ColumnCount(); ++column)
         key.push_back(statement.ValueOf(column));
@@ -57,35 +57,18 @@ std::int64_t CountChanges(const sqlite::Database& database)
     return count.Next() ? count.Integer(0) : 0;
 }
 
-template <typename Number> std::string BytesOf(Number number)
-{
-    std::string bytes(sizeof number, '\0');
-    std::memcpy(bytes.data(), &number, sizeof number);
-    return bytes;
-}
-
-struct Encoder {
-    std::string operator()(std::monostate) const { return "-"; }
-    std::string operator()(std::int64_t number) const { return "i" + BytesOf(number); }
-    std::string operator()(double number) const { return "r" + BytesOf(number); }
-    std::string operator()(const std::string& text) const { return "t" + BytesOf(text.size()) + text; }
-    std::string operator()(const sqlite::Blob& blob) const { return "b" + BytesOf(blob.bytes.size()) + blob.bytes; }
+// As a cell shows it, where all of it is shown.
+struct PlainText {
+    std::optional<std::u16string> operator()(std::int64_t number) const { return ToUtf16(std::to_string(number)); }
+    std::optional<std::u16string> operator()(const std::string& text) const { return ToUtf16(text); }
+    template <typename Other> std::optional<std::u16string> operator()(const Other&) const { return {}; }
 };
 
-std::string Encoded(const std::vector<sqlite::Value>& key)
+std::set<SqliteKey> RequireDifferent(const std::map<int, SqliteKey>& keys, const Changes& changes)
 {
-    std::string all;
-    for (const sqlite::Value& value : key)
-        all += std::visit(Encoder(), value);
-    return all;
-}
-
-// Encoded.
-std::set<std::string> RequireDifferent(const std::map<int, std::vector<sqlite::Value>>& keys, const Changes& changes)
-{
-    std::set<std::string> known;
+    std::set<SqliteKey> known;
     for (const auto& [row, key] : keys) {
-        if (!known.insert(Encoded(key)).second)
+        if (!known.insert(key).second)
             throw SaveError(changes.NameOf(row) + ": it would have the key of another changed row");
     }
     return known;
@@ -124,11 +107,13 @@ SaveOutcome SqliteSaver::Save(const Changes& changes)
         sqlite::Database database(path_, sqlite::Access::Write);
         SqliteSteps steps(database, changes);
         const std::int64_t changesBefore = CountChanges(database);
+        const SqliteReferences references(database, rows_.Layout().name);
         const std::map<int, Types> types = RequireUnchanged(database, changes);
         RemoveAll(database, changes, steps);
         Keys keys = UpdateAll(database, changes, types, steps);
         AddAll(database, changes, keys, steps);
-        const std::set<std::string> taken = RequireDifferent(keys, changes);
+        RequireReferences(references, keys, changes);
+        const std::set<Key> taken = RequireDifferent(keys, changes);
         std::vector<ReadRow> saved;
         for (const auto& [row, key] : keys)
             saved.push_back(Read(database, changes, row, key));
@@ -251,7 +236,7 @@ void SqliteSaver::RequireNotChangedHere(const sqlite::Database& database, const 
 }
 
 SqliteSaver::OtherRows SqliteSaver::FindOtherRows(
-    const sqlite::Database& database, const Changes& changes, const std::set<std::string>& taken) const
+    const sqlite::Database& database, const Changes& changes, const std::set<Key>& taken) const
 {
     OtherRows others;
     const std::set<int> removed(changes.Removed().begin(), changes.Removed().end());
@@ -261,12 +246,62 @@ SqliteSaver::OtherRows SqliteSaver::FindOtherRows(
             continue;
         select.Reset();
         BindAll(select, 1, rows_.Row(row).key);
-        if (taken.contains(Encoded(rows_.Row(row).key)) || !select.Next())
+        if (taken.contains(rows_.Row(row).key) || !select.Next())
             others.gone.push_back(row);
         else if (rows_.Read(select).print != rows_.Row(row).print)
             others.changed.push_back(row);
     }
     return others;
+}
+
+void SqliteSaver::RequireReferences(const SqliteReferences& references, const Keys& keys, const Changes& changes) const
+{
+    std::map<Key, Key> oldKeys;
+    for (const auto& [row, key] : keys) {
+        if (row < rows_.Count() && rows_.Row(row).key != key)
+            oldKeys.emplace(key, rows_.Row(row).key);
+    }
+    const std::vector<SqliteReferences::Broken> broken = references.Find(oldKeys);
+    if (broken.empty())
+        return;
+    const std::string reason = "FOREIGN KEY constraint failed";
+    for (const SqliteReferences::Broken& one : broken) {
+        if (const int row = BreakingRow(references, one, keys, changes); row >= 0)
+            throw SaveError(changes.NameOf(row) + ": " + reason);
+    }
+    throw SaveError(reason);
+}
+
+// The one that refers to nothing where that was changed or added here, or else the one that was referred to; -1 where it is
+// neither.
+int SqliteSaver::BreakingRow(const SqliteReferences& references, const SqliteReferences::Broken& broken,
+    const Keys& keys, const Changes& changes) const
+{
+    for (const auto& [row, key] : keys) {
+        if (references.IsOwn(broken) && key == broken.key)
+            return row;
+    }
+    std::vector<int> rows = changes.Removed();
+    for (const auto& [row, cells] : changes.Changed())
+        rows.push_back(row);
+    const std::vector<std::string>& columns = references.OwnColumns(broken);
+    const auto found
+        = std::find_if(rows.begin(), rows.end(), [&](int row) { return HasHad(row, columns, broken.values); });
+    return found == rows.end() || columns.empty() ? -1 : *found;
+}
+
+bool SqliteSaver::HasHad(
+    int row, const std::vector<std::string>& columns, const std::vector<sqlite::Value>& values) const
+{
+    const std::vector<sqlite::ColumnLayout>& all = rows_.Layout().columns;
+    for (std::size_t place = 0; place < columns.size(); ++place) {
+        const auto column = std::find_if(
+            all.begin(), all.end(), [&](const sqlite::ColumnLayout& one) { return one.name == columns[place]; });
+        if (column == all.end()
+            || table_.Text(row, static_cast<int>(column - all.begin())) != std::visit(PlainText(), values[place]))
+            return false;
+    }
+    return true;
 }
 
 // Gives the row's key, which may be what was changed.

@@ -3,6 +3,7 @@
 
 #include "database_rows.h"
 #include "saver.h"
+#include "sqlite_references.h"
 
 #include <map>
 #include <set>
@@ -25,8 +26,8 @@ class SqliteSteps;
 // to another table.
 //
 // Rows are removed first and added last; of each kind, those that the database takes only behind others find their turn.
-// Foreign keys count when all is done. A new row's cells without a text get what the table gives them. A row that goes with
-// a removed one is told as removed.
+// Foreign keys count when all is done; what they refer to may be missing then where it was before. A new row's cells without
+// a text get what the table gives them. A row that goes with a removed one is told as removed.
 class SqliteSaver final : public Saver {
 public:
     // The table is what ReadChangeableTable has made of `rows`; it must outlive this. A reason not to change anything
@@ -49,7 +50,7 @@ private:
         std::vector<bool> isLocked;
     };
     using Types = std::map<int, sqlite::ValueType>; // by column
-    using Key = std::vector<sqlite::Value>;
+    using Key = SqliteKey;
     using Keys = std::map<int, Key>; // by row
 
     void RequireShort(const Changes& changes, int row, int column, std::u16string_view text) const;
@@ -60,6 +61,12 @@ private:
     Keys UpdateAll(const sqlite::Database& database, const Changes& changes, const std::map<int, Types>& types,
         SqliteSteps& steps) const;
     void AddAll(const sqlite::Database& database, const Changes& changes, Keys& keys, SqliteSteps& steps) const;
+    // Of the foreign keys. `keys` are those of the changed and added rows.
+    void RequireReferences(const SqliteReferences& references, const Keys& keys, const Changes& changes) const;
+    int BreakingRow(const SqliteReferences& references, const SqliteReferences::Broken& broken, const Keys& keys,
+        const Changes& changes) const;
+    // Whether the row had these values when it was read.
+    bool HasHad(int row, const std::vector<std::string>& columns, const std::vector<sqlite::Value>& values) const;
     void RequireNotChangedHere(const sqlite::Database& database, const Changes& changes, int row) const;
     Key Update(const sqlite::Database& database, const Changes& changes, int row, const Types& types) const;
     Key Add(const sqlite::Database& database, const Edits::RowEdits& cells) const;
@@ -72,8 +79,7 @@ private:
         std::vector<int> gone;
     };
     // One whose key is `taken` by a row that was changed or added is gone.
-    OtherRows FindOtherRows(
-        const sqlite::Database& database, const Changes& changes, const std::set<std::string>& taken) const;
+    OtherRows FindOtherRows(const sqlite::Database& database, const Changes& changes, const std::set<Key>& taken) const;
     SaveOutcome TakeOver(
         DatabaseRows& rows, std::vector<ReadRow> saved, std::vector<int> gone, const Changes& changes) const;
 

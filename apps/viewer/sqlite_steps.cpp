@@ -2,8 +2,6 @@
 
 #include "saver.h"
 
-#include <algorithm>
-
 namespace vornix::viewer {
 
 // From the other end each time: rows that wait for one another mostly stand in one order or the other.
@@ -30,30 +28,11 @@ std::optional<std::string> SqliteSteps::WhyNot(int row, const Step& step)
 {
     try {
         transaction_.Do([&] { step(row); });
-        NoteReferences(row);
         return {};
     } catch (const sqlite::Error& error) {
         if (error.Kind() == sqlite::ErrorKind::Constraint && transaction_.IsOpen())
             return error.what();
         throw SaveError(changes_.NameOf(row) + ": " + error.what());
-    }
-}
-
-// Which row it is that cannot stay is known only at the end; the first one since all was right last is close to it.
-void SqliteSteps::NoteReferences(int row)
-{
-    if (!database_.HasBrokenReferences())
-        breakingRow_.reset();
-    else if (!breakingRow_)
-        breakingRow_ = row;
-}
-
-void SqliteSteps::Commit()
-{
-    try {
-        transaction_.Commit();
-    } catch (const sqlite::Error& error) {
-        throw SaveError((breakingRow_ ? changes_.NameOf(*breakingRow_) + ": " : "") + error.what());
     }
 }
 

@@ -11,6 +11,7 @@
 #include <chrono>
 #include <csignal>
 #include <random>
+#include <set>
 #include <sys/resource.h>
 
 using namespace vornix;
@@ -186,6 +187,89 @@ TEST(SqliteRows, ThatReferToNothingAreNamed)
     document.Change(bad, 1, u"12");
     EXPECT_EQ(MessageOfSave(document), "saved");
     EXPECT_THAT(Rows(made.Path(), "SELECT * FROM t"), ElementsAre("2|11", "3|2", "10|11", "11|NULL", "12|12"));
+}
+
+TEST(SqliteRows, ThatReferAsTheyShouldAreNotNamedForOthers)
+{
+    const MadeDatabase made("CREATE TABLE t(id INTEGER PRIMARY KEY, parent INTEGER REFERENCES t);");
+    Document document = Opened(made.Path());
+    Add(document, { u"1", u"3" });
+    Add(document, { u"2", u"99" });
+    Add(document, { u"3", u"" });
+    EXPECT_EQ(MessageOfSave(document), "row +2: FOREIGN KEY constraint failed");
+}
+
+TEST(SqliteRows, ThatAreStillReferredToAreNamed)
+{
+    const MadeDatabase made("CREATE TABLE t(a TEXT, b INTEGER, UNIQUE(a, b)); INSERT INTO t VALUES('x', 1), ('x', 2),"
+                            " ('y', 1), ('z', 1); CREATE TABLE u(b TEXT, a, FOREIGN KEY(a, b) REFERENCES t(A, B));"
+                            "INSERT INTO u VALUES('1', 'y'), (2, 'x'), (7, NULL);");
+    Document document = Opened(made.Path(), "t");
+    document.RemoveRow(0);
+    document.RemoveRow(3);
+    document.Change(2, 1, u"3");
+    EXPECT_EQ(MessageOfSave(document), "row 3: FOREIGN KEY constraint failed");
+    document.Change(2, 1, u"1");
+    document.RemoveRow(1);
+    EXPECT_EQ(MessageOfSave(document), "row 2: FOREIGN KEY constraint failed");
+    document.RestoreRow(1);
+    EXPECT_EQ(MessageOfSave(document), "saved");
+}
+
+TEST(SqliteRows, WithNothingToReferToHideNoOthers)
+{
+    MadeDatabase made("CREATE TABLE t(id INTEGER PRIMARY KEY, parent INTEGER REFERENCES t);"
+                      "INSERT INTO t VALUES(1, NULL), (2, 1), (3, 99);");
+    Document document = Opened(made.Path());
+    document.RemoveRow(0);
+    document.RemoveRow(2);
+    EXPECT_EQ(MessageOfSave(document), "row 1: FOREIGN KEY constraint failed") << "2 refers to it";
+    EXPECT_THAT(Rows(made.Path(), "SELECT * FROM t"), ElementsAre("1|NULL", "2|1", "3|99"));
+    document.Change(1, 1, u"");
+    EXPECT_EQ(MessageOfSave(document), "saved");
+
+    made.Execute("DROP TABLE t; CREATE TABLE p(id TEXT PRIMARY KEY); INSERT INTO p VALUES('1'), ('2');"
+                 "CREATE TABLE t(id TEXT PRIMARY KEY, p REFERENCES p) WITHOUT ROWID;"
+                 "INSERT INTO t VALUES('a', 1), ('b', 99);");
+    Document children = Opened(made.Path(), "t");
+    for (const char16_t* text : { u"77", u"99" }) {
+        children.Change(0, 1, text);
+        children.Change(1, 1, u"2");
+        EXPECT_EQ(MessageOfSave(children), "row 1: FOREIGN KEY constraint failed");
+    }
+    children.Change(0, 1, u"2");
+    EXPECT_EQ(MessageOfSave(children), "saved");
+}
+
+TEST(SqliteRows, HideNoneThatOnlyTheDatabaseChanges)
+{
+    for (const std::string change : { "CREATE TABLE u(id INTEGER PRIMARY KEY REFERENCES t ON DELETE CASCADE);",
+             "CREATE TABLE u(id INTEGER PRIMARY KEY);"
+             "CREATE TRIGGER d AFTER DELETE ON t BEGIN DELETE FROM u WHERE id = old.id; END;" }) {
+        const MadeDatabase made("CREATE TABLE t(id INTEGER PRIMARY KEY, parent INTEGER REFERENCES t);" + change
+            + "CREATE TABLE v(u REFERENCES u); INSERT INTO t VALUES(1, NULL), (2, 99), (3, NULL);"
+              "INSERT INTO u VALUES(1); INSERT INTO v VALUES(1);");
+        Document document = Opened(made.Path(), "t");
+        document.RemoveRow(0);
+        document.Change(1, 1, u"3");
+        EXPECT_EQ(MessageOfSave(document), "FOREIGN KEY constraint failed") << "a row of v has lost that of u";
+        EXPECT_THAT(Rows(made.Path(), "SELECT count(*) FROM u"), ElementsAre("1"));
+        document.RestoreRow(0);
+        EXPECT_EQ(MessageOfSave(document), "saved");
+    }
+}
+
+TEST(SqliteRows, WithNothingToReferToCanBeChanged)
+{
+    const MadeDatabase made("CREATE TABLE t(id INTEGER PRIMARY KEY, parent INTEGER REFERENCES t, n);"
+                            "INSERT INTO t VALUES(1, 99, 'a'), (2, 98, 'b'), (3, 97, 'c'), (4, 96, 'd');");
+    Document document = Opened(made.Path());
+    document.Change(0, 0, u"11");
+    document.Change(1, 2, u"x");
+    document.RemoveRow(2);
+    document.Change(3, 1, u"2");
+    EXPECT_EQ(MessageOfSave(document), "saved");
+    EXPECT_THAT(Rows(made.Path(), "SELECT * FROM t"), ElementsAre("2|98|'x'", "4|2|'d'", "11|99|'a'"));
 }
 
 TEST(SqliteRows, FindTheirTurnHoweverTheyFollowOneAnother)
@@ -455,7 +539,46 @@ void ChangeAtRandom(Document& document, std::mt19937& random)
     }
 }
 
+// Rows whose second column refers to none of the first, with what they refer by.
+std::set<std::pair<int, std::u16string>> ReferringToNothing(const Document& document)
+{
+    std::set<std::u16string> keys;
+    for (const int row : document.Rows())
+        keys.emplace(document.Text(row, 0));
+    std::set<std::pair<int, std::u16string>> found;
+    for (const int row : document.Rows()) {
+        const std::u16string parent(document.Text(row, 1));
+        if (!parent.empty() && !keys.contains(parent))
+            found.emplace(row, parent);
+    }
+    return found;
+}
+
 } // namespace
+
+TEST(SqliteRows, LoseNothingThatTheyReferToWhateverElseIsBroken)
+{
+    std::mt19937 random(9);
+    int saved = 0;
+    for (const std::string action : { "", " ON DELETE CASCADE", " ON DELETE RESTRICT ON UPDATE SET NULL" }) {
+        for (int round = 0; round < 60; ++round) {
+            const MadeDatabase made("CREATE TABLE t(id INTEGER PRIMARY KEY, parent INTEGER REFERENCES t" + action
+                + ", u INTEGER UNIQUE, n); INSERT INTO t VALUES(1, NULL, 1, 'a'), (2, 1, 2, 'b'), (3, 90, 3, 'c'),"
+                  " (4, 4, 4, 'd'), (5, 91, 5, 'e'), (6, 5, 6, 'f'), (7, 92, 7, 'g'), (8, 1, 8, 'h');");
+            Document document = Opened(made.Path());
+            for (int turn = 0; turn < 4; ++turn) {
+                const auto before = ReferringToNothing(document);
+                ChangeAtRandom(document, random);
+                if (MessageOfSave(document) != "saved")
+                    break;
+                ++saved;
+                for (const auto& broken : ReferringToNothing(document))
+                    ASSERT_TRUE(before.contains(broken)) << action << ", " << round << ", row " << broken.first;
+            }
+        }
+    }
+    EXPECT_GT(saved, 100);
+}
 
 TEST(SqliteRows, AreAsTheDatabaseHasThemWhateverWasChanged)
 {

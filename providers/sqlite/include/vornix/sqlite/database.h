@@ -62,7 +62,7 @@ public:
     void Execute(std::string_view sql);
     // Some errors end a transaction and take all of it back; what is changed after that is changed at once.
     bool IsInTransaction() const;
-    // In a transaction, whether a foreign key refers to nothing so far.
+    // In a transaction, whether more foreign keys have lost what they refer to than have found it, since it began.
     bool HasBrokenReferences() const;
 
 private:

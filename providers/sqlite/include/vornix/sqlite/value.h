@@ -1,6 +1,7 @@
 // One value of a database, on its own.
 #pragma once
 
+#include <compare>
 #include <cstdint>
 #include <string>
 #include <variant>
@@ -9,7 +10,7 @@ namespace vornix::sqlite {
 
 struct Blob {
     std::string bytes;
-    bool operator==(const Blob&) const = default;
+    auto operator<=>(const Blob&) const = default;
 };
 
 // Nothing is a null; a text is UTF-8.

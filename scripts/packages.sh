@@ -4,7 +4,7 @@ packages_build="g++ cmake ninja-build pkg-config ccache python3"
 packages_libraries="libicu-dev libsqlite3-dev libpng-dev libharfbuzz-dev libfreetype-dev libfontconfig-dev libfribidi-dev libcli11-dev qt6-base-dev"
 packages_runtime="fontconfig fonts-dejavu-core fonts-noto-core fonts-noto-cjk fonts-noto-color-emoji libqt6gui6 libqt6widgets6"
 packages_developer="libgtest-dev libgmock-dev libbenchmark-dev"
-packages_test="clang-format xvfb xdotool xclip libreoffice-calc-nogui python3-pip python3-venv mypy"
+packages_test="clang-format xvfb xauth xdotool xclip libreoffice-calc-nogui python3-pip python3-venv mypy"
 
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then

@@ -9,7 +9,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QTest>
@@ -442,19 +441,14 @@ TEST_F(QtComboBoxTest, MovesAreToldInPixelsOfTheBox)
 TEST_F(QtComboBoxTest, AHundredThousandRowsAreReadOnlyWhereTheyAreSeen)
 {
     fruits.rows.clear();
-    QElapsedTimer time;
-    time.start();
     for (int row = 0; row < 100'000; ++row) {
         fruits.rows.push_back(u"row " + FromQString(QString::number(row)));
         box.ItemsChanged();
     }
-    EXPECT_LT(time.elapsed(), 1000);
     EXPECT_EQ(fruits.asked, 0);
     box.SetListIndex(99'999);
-    time.restart();
     box.DropDown(true);
     Settle();
-    EXPECT_LT(time.elapsed(), 2000);
     EXPECT_EQ(Combo().count(), 100'000);
     EXPECT_LT(fruits.asked, 1000);
     EXPECT_EQ(Combo().view()->currentIndex().row(), 99'999);

@@ -1,5 +1,6 @@
 #include "cell_content.h"
 
+#include "blanks.h"
 #include "date_content.h"
 #include "number_content.h"
 
@@ -43,16 +44,15 @@ const Word* FindWord(std::u16string_view normalized)
 
 std::u16string NormalizedValue(std::u16string_view text)
 {
-    const auto isBlank = [](char16_t unit) { return unit == ' ' || unit == 0xA0 || unit == 0x202F || unit == 0x2009; };
-    while (!text.empty() && isBlank(text.front()))
+    while (!text.empty() && IsSpace(text.front()))
         text.remove_prefix(1);
-    while (!text.empty() && isBlank(text.back()))
+    while (!text.empty() && IsSpace(text.back()))
         text.remove_suffix(1);
     if (text.size() > LongestValue)
         return {};
     std::u16string normalized(text);
     for (char16_t& unit : normalized) {
-        if (isBlank(unit))
+        if (IsSpace(unit))
             unit = u' ';
         else if (unit >= u'a' && unit <= u'z')
             unit = static_cast<char16_t>(unit - u'a' + u'A');
@@ -82,7 +82,7 @@ std::u16string OppositeTruthText(std::u16string_view text)
 {
     const Word& word = *FindWord(NormalizedValue(text));
     std::u16string opposite(Words[static_cast<std::size_t>(&word - Words.data()) ^ 1].text);
-    const std::u16string_view written = text.substr(text.find_first_not_of(u" \u00A0\u202F\u2009"));
+    const std::u16string_view written = text.substr(text.find_first_not_of(Spaces));
     const auto isSmall = [](char16_t unit) { return unit >= u'a' && unit <= u'z'; };
     for (std::size_t i = 0; i < opposite.size(); ++i) {
         // TRUE, True and true differ in their first two letters.

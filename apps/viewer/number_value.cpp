@@ -72,7 +72,7 @@ std::optional<int> ExponentIn(std::u16string_view text)
 std::optional<DecimalNumber> PlainNumberIn(std::u16string_view text, DecimalMark mark)
 {
     const char16_t decimal = mark == DecimalMark::Point ? u'.' : u',';
-    constexpr std::u16string_view groups = u".,' \u00A0\u202F\u2009\u2019";
+    constexpr std::u16string_view groups = u".,'\u2019";
     DecimalNumber number;
     bool hasMark = false;
     bool hasDigits = false;
@@ -83,7 +83,7 @@ std::optional<DecimalNumber> PlainNumberIn(std::u16string_view text, DecimalMark
             number.digits += unit;
         } else if (unit == decimal && !hasMark) {
             hasMark = true;
-        } else if (hasMark || groups.find(unit) == std::u16string_view::npos) {
+        } else if (hasMark || (!IsSpace(unit) && groups.find(unit) == std::u16string_view::npos)) {
             return {};
         }
     }

@@ -17,8 +17,14 @@ Transaction::~Transaction()
     if (isCommitted_)
         return;
     try {
-        if (IsOpen())
+        if (IsOpen()) {
             database_.Execute("ROLLBACK");
+            return;
+        }
+    } catch (const Error&) {
+        // As where an error has taken it back:
+    }
+    try {
         // Where writing has failed, the file is set right when it is read again.
         database_.Execute("SELECT count(*) FROM sqlite_schema");
     } catch (const Error&) {

@@ -164,9 +164,11 @@ bool EditorWindow::TakeKey(i16 KeyCode, i16 Shift)
     case 'X':
         return !hasSelectedText && (Cut(), true);
     case 'V': {
-        // What fills several cells is for no editor.
+        // What fills several cells is for no editor; an empty cell is nothing to insert, not the line break that ends it.
         const TextBlock block = BlockOf(QApplication::clipboard()->text().toStdU16String());
-        return (block.size() > 1 || (!block.empty() && block.front().size() > 1)) && (PasteBlock(block), true);
+        if (block.size() == 1 && block.front().size() == 1)
+            return block.front().front().empty();
+        return !block.empty() && (PasteBlock(block), true);
     }
     default:
         return false;
@@ -336,7 +338,14 @@ void EditorWindow::closeEvent(QCloseEvent* event)
         EndEditing();
     }
     const int answer = document_.IsChanged() ? AskAboutChanges() : QMessageBox::Discard;
-    event->setAccepted(answer == QMessageBox::Discard || (answer == QMessageBox::Save && Save()));
+    const bool wasSaved = answer == QMessageBox::Save && Save();
+    if (wasSaved && !document_.NoticeOfSave().empty()) // the line below the table goes with the window
+        Box(QMessageBox::Information,
+            tr("%1 is saved, but\n%2.")
+                .arg(NameOf(document_.Saved()), QString::fromStdString(document_.NoticeOfSave())),
+            QMessageBox::Ok, this)
+            .exec();
+    event->setAccepted(answer == QMessageBox::Discard || wasSaved);
 }
 
 } // namespace vornix::viewer

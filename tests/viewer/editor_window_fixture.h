@@ -22,7 +22,7 @@ namespace vornix::viewer {
 
 inline constexpr const char* Orders = "city,total,paid,note\nOslo,12.50,yes,\"a\nb\"\nRoma,7,no,c\nBern,8,,d\n";
 
-// Presses a button of the next box that is shown, and keeps what the box said.
+// Presses a button of the next box that is shown and has it, and keeps what the box said.
 class BoxAnswer {
 public:
     explicit BoxAnswer(QMessageBox::StandardButton button)
@@ -37,7 +37,7 @@ private:
     void Answer(QMessageBox::StandardButton button)
     {
         auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        if (!box)
+        if (!box || !box->button(button))
             return;
         timer_.stop();
         text_ = box->text().toStdString();

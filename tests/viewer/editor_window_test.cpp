@@ -318,6 +318,10 @@ TEST_F(EditorWindowTest, LeavesAnOpenEditorItsKeys)
     Type(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(Grid().Rows(), 3);
     EXPECT_TRUE(Grid().IsEditMode());
+    QApplication::clipboard()->setText(QStringLiteral("\r\n"));
+    Type(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(document.Text(0, 0), u"Oslo") << "that was an empty cell";
+    EXPECT_TRUE(Grid().IsEditMode());
     QApplication::clipboard()->setText(QStringLiteral("a\tb"));
     Type(Qt::Key_V, Qt::ControlModifier);
     EXPECT_FALSE(Grid().IsEditMode()) << "what fills several cells is for no editor";
@@ -381,6 +385,22 @@ TEST(EditorWindow, TellsWhatWillBeReadOtherwise)
     window.AddRowBelow();
     EXPECT_TRUE(window.Save());
     EXPECT_NE(notice->text(), QString()) << "as long as it will";
+}
+
+TEST(EditorWindow, TellsWhatWillBeReadOtherwiseWhenItCloses)
+{
+    const ScratchFolder folder;
+    Document document = Opened(folder.Write("a.csv", "1,2\n3,4\n"));
+    EditorWindow window(document);
+    window.show();
+    QApplication::clipboard()->setText(QStringLiteral("x\ty"));
+    window.Paste();
+    const BoxAnswer question(QMessageBox::Save);
+    const BoxAnswer box(QMessageBox::Ok);
+    EXPECT_TRUE(window.close());
+    EXPECT_TRUE(question.WasShown());
+    EXPECT_EQ(
+        box.Text(), "a.csv is saved, but\nwhen it is opened again, the first row will be taken for column names.");
 }
 
 TEST(EditorWindow, SaysWhyNothingCanBeChanged)

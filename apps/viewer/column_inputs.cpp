@@ -35,13 +35,18 @@ ColumnInputs::Input ColumnInputs::InputOf(int column) const
     if (document_.WhyReadOnly() || kind == ColumnKind::Boolean)
         return {};
     if (document_.KeysFor(column))
-        return { InputKind::Key };
+        return { InputKind::Text, true };
     if (kind == ColumnKind::Date && HasOnlyWholeDates(column))
         return { InputKind::Date };
     std::set<std::u16string> choices = kind == ColumnKind::Text ? RepeatedTexts(column) : std::set<std::u16string>();
-    if (choices.empty())
-        return {};
-    return { InputKind::Choice, std::move(choices) };
+    const InputKind input = choices.empty() ? InputKind::Text : InputKind::Choice;
+    return { input, true, std::move(choices) };
+}
+
+InputKind ColumnInputs::Kind(int column) const
+{
+    const Input& input = inputs_[static_cast<std::size_t>(column)];
+    return input.takesKeys && document_.KeysFor(column) ? InputKind::Key : input.kind;
 }
 
 std::set<std::u16string> ColumnInputs::RepeatedTexts(int column) const

@@ -18,17 +18,18 @@ enum class InputKind {
 
 class ColumnInputs {
 public:
-    // The document must outlive this; its texts of now decide.
+    // The document must outlive this; its texts of now decide. Keys count as long as the document has them.
     explicit ColumnInputs(const Document& document);
 
-    InputKind Kind(int column) const { return inputs_[static_cast<std::size_t>(column)].kind; }
+    InputKind Kind(int column) const;
     // What the list of a Choice or a Key shows: the texts that the column began with and those that it has now, sorted;
     // or the keys, behind an empty text where there need be none.
     std::vector<std::u16string> List(int column) const;
 
 private:
     struct Input {
-        InputKind kind = InputKind::Text;
+        InputKind kind = InputKind::Text; // without keys
+        bool takesKeys = false;
         std::set<std::u16string> choices = {}; // at the beginning
     };
 

@@ -104,7 +104,7 @@ std::vector<CellText> Document::Save()
     return std::move(outcome.others);
 }
 
-void Document::TakeOver(const SaveOutcome& outcome)
+void Document::TakeOver(SaveOutcome& outcome)
 {
     for (const auto& [row, cells] : edits_.Rows()) {
         for (const auto& [column, text] : cells)
@@ -114,10 +114,7 @@ void Document::TakeOver(const SaveOutcome& outcome)
         source_.table->ReplaceText(cell.row, cell.column, cell.text);
     for (const int row : outcome.removed)
         records_.Remove(row);
-    for (auto& [column, list] : source_.keys) {
-        if (const auto found = outcome.keys.find(column); found != outcome.keys.end())
-            list = found->second;
-    }
+    source_.keys = std::move(outcome.keys);
 }
 
 void Document::NoteSaved()

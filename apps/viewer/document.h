@@ -66,7 +66,7 @@ public:
     const std::string& NoticeOfSave() const { return notice_; }
 
 private:
-    void TakeOver(const SaveOutcome& outcome);
+    void TakeOver(SaveOutcome& outcome);
     void NoteSaved();
 
     ChangeableSource source_;

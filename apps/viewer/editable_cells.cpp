@@ -28,6 +28,20 @@ public:
             OpenCell(static_cast<i16>(row), row, Col);
     }
 
+    // Where its editor is another one now.
+    void ReopenColumn(int column, const ShownRows& rows)
+    {
+        const i16 Col = static_cast<i16>(column);
+        const bool isBoolean = table_.Columns()[static_cast<std::size_t>(column)].kind == ColumnKind::Boolean;
+        if (isBoolean || grid_.ColMode(Col) == EditorOf(column) || !CanChangeAny(column))
+            return;
+        if (grid_.IsEditMode() && grid_.CurrentCol() == Col)
+            grid_.ExitEdit();
+        grid_.SetColMode(Col, EditorOf(column));
+        for (int Row = 0; Row < rows.Count(); ++Row)
+            OpenCell(static_cast<i16>(Row), rows.At(Row), Col);
+    }
+
     void OpenCell(i16 Row, int row, i16 Col)
     {
         if (grid_.CellMode(Row, Col) == vxCheckBox)
@@ -116,6 +130,13 @@ void MakeEditable(Vornix& grid, const Document& document, const ColumnInputs& in
     for (int column = 0; column < document.Saved().ColumnCount(); ++column)
         opener.OpenColumn(column);
     grid.SetRedraw(true);
+}
+
+void UpdateEditors(Vornix& grid, const Document& document, const ColumnInputs& inputs, const ShownRows& rows)
+{
+    CellOpener opener(grid, document, inputs);
+    for (int column = 0; column < document.Saved().ColumnCount(); ++column)
+        opener.ReopenColumn(column, rows);
 }
 
 void FillList(Vornix& grid, const ColumnInputs& inputs, i16 Row, i16 Col)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "column_inputs.h"
+#include "shown_rows.h"
 #include "vornix/vornix.h"
 
 namespace vornix::viewer {
@@ -10,6 +11,9 @@ namespace vornix::viewer {
 // something to choose from. Check boxes stay; where a column of them has no truth value, its text can be typed. The rest
 // stays as it is shown.
 void MakeEditable(Vornix& grid, const Document& document, const ColumnInputs& inputs);
+
+// The same for columns that have got a list since then, or have none any more; an editor that is open in one of them closes.
+void UpdateEditors(Vornix& grid, const Document& document, const ColumnInputs& inputs, const ShownRows& rows);
 
 // Fills the list of a cell that has one, before its editor opens.
 void FillList(Vornix& grid, const ColumnInputs& inputs, i16 Row, i16 Col);

@@ -186,6 +186,7 @@ void GridEditor::ShowSaved(const std::vector<CellText>& others)
             gone.push_back(Row);
     }
     Remove(gone);
+    UpdateEditors(grid_, document_, inputs_, rows_);
     std::vector<i16> places(static_cast<std::size_t>(document_.Saved().RowCount()), NoIndex);
     for (int Row = 0; Row < rows_.Count(); ++Row) {
         places.at(static_cast<std::size_t>(rows_.At(Row))) = static_cast<i16>(Row);

@@ -31,7 +31,7 @@ struct CellText {
 struct SaveOutcome {
     std::vector<CellText> others = {};
     std::vector<int> removed = {}; // records that the source has removed by itself
-    ForeignKeys keys = {}; // as they are now, of columns that had some
+    ForeignKeys keys = {}; // as they are now; none of a column is no list any more
     std::string notice = {}; // what the person should know about it, in one line of UTF-8
 };
 

@@ -64,25 +64,24 @@ struct PlainText {
     template <typename Other> std::optional<std::u16string> operator()(const Other&) const { return {}; }
 };
 
-std::set<SqliteKey> RequireDifferent(const std::map<int, SqliteKey>& keys, const Changes& changes)
+void RequireDifferent(const std::map<int, SqliteKey>& keys, const Changes& changes)
 {
     std::set<SqliteKey> known;
     for (const auto& [row, key] : keys) {
         if (!known.insert(key).second)
             throw SaveError(changes.NameOf(row) + ": it would have the key of another changed row");
     }
-    return known;
 }
 
 } // namespace
 
 SqliteSaver::SqliteSaver(std::string path, const Table& table, DatabaseRows rows,
-    std::optional<std::string> whyReadOnly, std::set<int> references)
+    std::optional<std::string> whyReadOnly, std::set<int> keyColumns)
     : path_(std::move(path))
     , table_(table)
     , rows_(std::move(rows))
     , whyReadOnly_(std::move(whyReadOnly))
-    , references_(std::move(references))
+    , keyColumns_(std::move(keyColumns))
 {
 }
 
@@ -113,10 +112,13 @@ SaveOutcome SqliteSaver::Save(const Changes& changes)
         Keys keys = UpdateAll(database, changes, types, steps);
         AddAll(database, changes, keys, steps);
         RequireReferences(references, keys, changes);
-        const std::set<Key> taken = RequireDifferent(keys, changes);
+        RequireDifferent(keys, changes);
         std::vector<ReadRow> saved;
         for (const auto& [row, key] : keys)
             saved.push_back(Read(database, changes, row, key));
+        std::set<Key> taken;
+        for (const ReadRow& read : saved)
+            taken.insert(read.saved.key);
         const auto own = static_cast<std::int64_t>(keys.size() + changes.Removed().size());
         const bool hasChangedOthers = CountChanges(database) - changesBefore != own;
         OtherRows others = hasChangedOthers ? FindOtherRows(database, changes, taken) : OtherRows();
@@ -125,10 +127,13 @@ SaveOutcome SqliteSaver::Save(const Changes& changes)
         // Whatever can fail comes before the database has the changes.
         DatabaseRows rows = rows_;
         SaveOutcome outcome = TakeOver(rows, std::move(saved), std::move(others.gone), changes);
-        if (!references_.empty())
-            outcome.keys = ReadForeignKeys(database, rows_.Layout()); // the table may refer to itself
+        outcome.keys = ReadForeignKeys(database, rows_.Layout()); // the table may refer to itself
+        std::set<int> keyColumns = keyColumns_;
+        for (const auto& [column, list] : outcome.keys)
+            keyColumns.insert(column);
         steps.Commit();
         rows_ = std::move(rows);
+        keyColumns_ = std::move(keyColumns);
         return outcome;
     } catch (const sqlite::Error& error) {
         throw SaveError(error.what());
@@ -246,9 +251,15 @@ SqliteSaver::OtherRows SqliteSaver::FindOtherRows(
             continue;
         select.Reset();
         BindAll(select, 1, rows_.Row(row).key);
-        if (taken.contains(rows_.Row(row).key) || !select.Next())
+        if (!select.Next()) {
             others.gone.push_back(row);
-        else if (rows_.Read(select).print != rows_.Row(row).print)
+            continue;
+        }
+        // The column says which keys are the same.
+        const DatabaseRow read = rows_.Read(select);
+        if (taken.contains(read.key))
+            others.gone.push_back(row);
+        else if (read.print != rows_.Row(row).print)
             others.changed.push_back(row);
     }
     return others;
@@ -362,7 +373,7 @@ SqliteSaver::ReadRow SqliteSaver::Read(
 sqlite::Value SqliteSaver::ValueFor(int column, std::u16string_view text, sqlite::ValueType oldType) const
 {
     const Column& described = table_.Columns()[static_cast<std::size_t>(column)];
-    const bool isText = described.kind == ColumnKind::Text && !IsNumber(oldType) && !references_.contains(column);
+    const bool isText = described.kind == ColumnKind::Text && !IsNumber(oldType) && !keyColumns_.contains(column);
     if (text.empty())
         return isText ? sqlite::Value(std::string()) : sqlite::Value();
     if (described.kind == ColumnKind::Boolean && (text == u"-1" || text == u"0"))

@@ -31,9 +31,9 @@ class SqliteSteps;
 class SqliteSaver final : public Saver {
 public:
     // The table is what ReadChangeableTable has made of `rows`; it must outlive this. A reason not to change anything
-    // that was found when opening comes with it, and the columns that hold keys of other tables.
+    // that was found when opening comes with it, and the columns that hold keys of other tables and have a list of them.
     SqliteSaver(std::string path, const Table& table, DatabaseRows rows, std::optional<std::string> whyReadOnly,
-        std::set<int> references = {});
+        std::set<int> keyColumns = {});
 
     std::optional<std::string> WhyReadOnly() const override { return whyReadOnly_; }
     bool CanChange(int row, int column) const override;
@@ -87,7 +87,7 @@ private:
     const Table& table_;
     DatabaseRows rows_;
     std::optional<std::string> whyReadOnly_;
-    std::set<int> references_;
+    std::set<int> keyColumns_; // with those that have had a list since
 };
 
 } // namespace vornix::viewer

@@ -121,6 +121,17 @@ TEST(ColumnInputs, OfferKeysBeforeAllElse)
     EXPECT_EQ(KindOf(truth), InputKind::Text) << "a check box says as much";
 }
 
+TEST(ColumnInputs, HaveAListOfKeysAsLongAsThereIsOne)
+{
+    Document document = With(Repeated(3, 3), ColumnKind::Text, { { 0, { u"", u"7" } } });
+    const ColumnInputs inputs(document);
+    document.Change(0, 0, u"7");
+    document.Save(); // which tells of none
+    EXPECT_EQ(document.KeysFor(0), nullptr);
+    EXPECT_EQ(inputs.Kind(0), InputKind::Text);
+    EXPECT_THAT(inputs.List(0), IsEmpty());
+}
+
 TEST(ColumnInputs, HaveAFormWhereAllDatesFitIt)
 {
     const Document document = With({ u"2024-01-31", u"", u"2024-02-29" }, ColumnKind::Date);

@@ -94,6 +94,38 @@ TEST(GridEditor, PastesOneTextIntoAllThatIsSelected)
     EXPECT_EQ(desk.Column(0), u"same same same same");
 }
 
+TEST(GridEditor, GivesColumnsTheirListsAsTheyAreSaved)
+{
+    Desk desk;
+    SortList sort;
+    sort.Choose(0);
+    sort.Choose(0);
+    desk.rows.Sort(sort, desk.document.Rows());
+    const auto save = [&desk](const std::u16string& text) {
+        desk.document.Change(0, 0, text);
+        desk.grid.EnterEdit();
+        desk.editor.ShowSaved(desk.document.Save());
+    };
+    desk.grid.CurrentPos(0, 0);
+    ASSERT_EQ(desk.grid.CellMode(0, 0), vxTextBox);
+    desk.saver->outcome.keys = { { 0, { u"A", u"B" } } };
+    save(u"B");
+    for (i16 Row = 0; Row < 4; ++Row)
+        EXPECT_EQ(desk.grid.CellMode(Row, 0), vxComboListBox) << Row;
+    EXPECT_EQ(desk.grid.CellMode(0, 1), vxTextBox);
+    EXPECT_FALSE(desk.grid.IsEditMode()) << "it was an editor of another kind";
+    save(u"A");
+    EXPECT_TRUE(desk.grid.IsEditMode()) << "the list is still there";
+    desk.saver->outcome.keys = {};
+    save(u"B");
+    for (i16 Row = 0; Row < 4; ++Row)
+        EXPECT_EQ(desk.grid.CellMode(Row, 0), vxTextBox) << Row;
+    i16 first = 0;
+    desk.grid.ExitEdit();
+    desk.editor.AddRows(Side::Before, first);
+    EXPECT_EQ(desk.grid.CellMode(first, 0), vxTextBox);
+}
+
 TEST(GridEditor, TellsWhatItDidNotPaste)
 {
     Desk desk;

@@ -1,6 +1,8 @@
 // Rows that are added to a table of a database and removed from it.
 #include "as_ordinary_user.h"
+#include "column_inputs.h"
 #include "document.h"
+#include "entered_text.h"
 #include "saved_document.h"
 #include "sqlite/made_database.h"
 #include "unicode.h"
@@ -343,6 +345,18 @@ TEST(SqliteRows, AreGoneWhereANewOneHasTheirKey)
     EXPECT_THAT(Rows(made.Path(), "SELECT * FROM t"), ElementsAre("2|NULL|'newer'", "3|NULL|'d'"));
 }
 
+TEST(SqliteRows, AreGoneWhereANewOneHasAKeyThatIsTheSame)
+{
+    const MadeDatabase made("CREATE TABLE t(k TEXT COLLATE NOCASE PRIMARY KEY, p TEXT REFERENCES t ON DELETE CASCADE)"
+                            " WITHOUT ROWID; INSERT INTO t VALUES('a', NULL), ('abc', 'p'), ('p', NULL);");
+    Document document = Opened(made.Path());
+    document.RemoveRow(2);
+    const int added = Add(document, { u"ABC" });
+    EXPECT_THAT(document.Save(), IsEmpty());
+    EXPECT_THAT(document.Rows(), ElementsAre(0, added));
+    EXPECT_THAT(Rows(made.Path(), "SELECT k FROM t"), ElementsAre("'a'", "'ABC'"));
+}
+
 TEST(SqliteRows, ShowWhatRemovingChangesInOthers)
 {
     const MadeDatabase made("CREATE TABLE t(id INTEGER PRIMARY KEY, parent INTEGER REFERENCES t ON DELETE SET NULL);"
@@ -395,6 +409,47 @@ TEST(SqliteRows, CanBeReferredToOnceTheyAreSaved)
     EXPECT_THAT(*document.KeysFor(1), ElementsAre(u"", u"2", u"3"));
     EXPECT_THAT(*document.KeysFor(2), ElementsAre(u"", u"7", u"8"));
     EXPECT_EQ(document.KeysFor(0), nullptr);
+}
+
+TEST(SqliteRows, AreTypedWhereTheyAreTooManyForAList)
+{
+    MadeDatabase made("CREATE TABLE t(id INTEGER PRIMARY KEY, parent INTEGER REFERENCES t);"
+                      "WITH RECURSIVE c(n) AS (VALUES(1) UNION ALL SELECT n + 1 FROM c WHERE n < 1000)"
+                      " INSERT INTO t(id) SELECT n FROM c;");
+    Document document = Opened(made.Path());
+    const ColumnInputs inputs(document);
+    ASSERT_EQ(inputs.Kind(1), InputKind::Key);
+    const int added = Add(document, { u"1001" });
+    EXPECT_EQ(MessageOfSave(document), "saved");
+    EXPECT_EQ(document.KeysFor(1), nullptr);
+    EXPECT_EQ(inputs.Kind(1), InputKind::Text);
+    EXPECT_TRUE(EnterText(document, inputs, 0, 1, u"1001").text);
+    document.Change(0, 1, u"1001");
+    EXPECT_EQ(MessageOfSave(document), "saved");
+    document.Change(0, 1, u"");
+    document.RemoveRow(added);
+    EXPECT_EQ(MessageOfSave(document), "saved") << "without a text it is a null all the same";
+    ASSERT_TRUE(document.KeysFor(1));
+    EXPECT_EQ(document.KeysFor(1)->size(), 1001u) << "they fit again";
+    EXPECT_EQ(inputs.Kind(1), InputKind::Key);
+}
+
+TEST(SqliteRows, HaveAListAsSoonAsThereIsOne)
+{
+    const MadeDatabase made("CREATE TABLE t(id TEXT PRIMARY KEY, parent TEXT REFERENCES t);");
+    Document document = Opened(made.Path());
+    const ColumnInputs inputs(document);
+    EXPECT_EQ(inputs.Kind(1), InputKind::Text);
+    Add(document, { u"a" });
+    EXPECT_EQ(MessageOfSave(document), "saved");
+    ASSERT_TRUE(document.KeysFor(1));
+    EXPECT_THAT(*document.KeysFor(1), ElementsAre(u"", u"a"));
+    EXPECT_EQ(inputs.Kind(1), InputKind::Key);
+    const int second = Add(document, { u"b", u"a" });
+    EXPECT_EQ(MessageOfSave(document), "saved");
+    document.Change(second, 1, u"");
+    EXPECT_EQ(MessageOfSave(document), "saved");
+    EXPECT_THAT(Rows(made.Path(), "SELECT * FROM t"), ElementsAre("'a'|NULL", "'b'|NULL"));
 }
 
 TEST(SqliteRows, AreNotRemovedWhereAnotherProgramHasChangedThem)

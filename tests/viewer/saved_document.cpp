@@ -24,6 +24,17 @@ std::string MessageOfSave(Document& document)
     return "saved";
 }
 
+int Add(Document& document, const std::vector<std::u16string>& texts)
+{
+    const std::vector<int> rows = document.Rows();
+    const int row = document.AddRow(rows.empty() ? -1 : rows.back(), Records::Side::Behind);
+    for (std::size_t column = 0; column < texts.size(); ++column) {
+        if (!texts[column].empty())
+            document.Change(row, static_cast<int>(column), texts[column]);
+    }
+    return row;
+}
+
 std::vector<std::string> Rows(const std::string& path, const std::string& sql)
 {
     const sqlite::Database database(path);

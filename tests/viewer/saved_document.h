@@ -12,6 +12,8 @@ namespace vornix::viewer {
 Document Opened(const std::string& path, const std::optional<std::string>& table = {});
 // "saved", or what stands in the way.
 std::string MessageOfSave(Document& document);
+// A new last row with these texts; an empty one is not given.
+int Add(Document& document, const std::vector<std::u16string>& texts);
 // The rows of a query, as SQL writes their values: 'a'|1|NULL.
 std::vector<std::string> Rows(const std::string& path, const std::string& sql);
 

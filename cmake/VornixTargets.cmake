@@ -21,6 +21,10 @@ endif()
 function(vornix_compile_together target)
     if(VORNIX_UNITY)
         set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 8)
+        # GCC takes them for headers, where a class over one of an unnamed namespace would be a mistake.
+        if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+            target_compile_options(${target} PRIVATE -Wno-subobject-linkage)
+        endif()
     endif()
 endfunction()
 

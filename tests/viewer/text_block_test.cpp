@@ -2,7 +2,6 @@
 
 #include <gmock/gmock.h>
 
-#include <chrono>
 #include <random>
 
 using namespace vornix::viewer;
@@ -53,7 +52,8 @@ TEST(TextBlock, LeavesMarksThatAreNoQuotes)
     EXPECT_EQ(BlockOf(u"\"a\"b\tc"), (TextBlock { { u"\"a\"b", u"c" } }));
 }
 
-TEST(TextBlock, LooksForTheEndsOfQuotesOnce)
+// Looking for the end of each to the end of the text would take minutes.
+TEST(TextBlock, MayHoldManyQuotesWithoutAnEnd)
 {
     constexpr int lines = 100'000;
     for (const std::u16string line : { u"\"Smith\",5\r\n", u"\"\"\"Smith\"\"\t5\n", u"\"\r\n" }) {
@@ -61,9 +61,7 @@ TEST(TextBlock, LooksForTheEndsOfQuotesOnce)
         for (int count = 0; count < lines; ++count)
             text += line;
         text += u"\"x\"y";
-        const auto start = std::chrono::steady_clock::now();
         const TextBlock block = BlockOf(text);
-        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
         EXPECT_EQ(block.back().back(), u"\"x\"y");
     }
 }
